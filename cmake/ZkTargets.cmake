@@ -1,0 +1,49 @@
+# Helpers shared by every CMake list of the project.
+
+function(zk_warnings target)
+  if(CMAKE_CXX_COMPILER_ID MATCHES "GNU|Clang")
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wno-unused-parameter)
+  endif()
+endfunction()
+
+# A DLL with the exact file name, exports from a .def written in the 32-bit
+# form "Name@N == Name": undecorated exports on both targets, stdcall inside
+# on i686. For x86_64 the decorations are dropped by a generated copy.
+function(zk_add_dll target def)
+  add_library(${target} SHARED)
+  set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${target} IMPORT_PREFIX "lib")
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(out ${CMAKE_BINARY_DIR}/def/${target}.def)
+    add_custom_command(OUTPUT ${out}
+      COMMAND ${CMAKE_COMMAND} -DIN=${def} -DOUT=${out} -P ${CMAKE_SOURCE_DIR}/cmake/def64.cmake
+      DEPENDS ${def} ${CMAKE_SOURCE_DIR}/cmake/def64.cmake VERBATIM)
+    add_custom_target(${target}_def DEPENDS ${out})
+    add_dependencies(${target} ${target}_def)
+    set(use ${out})
+  else()
+    set(use ${def})
+  endif()
+  target_link_options(${target} PRIVATE ${use})
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${use})
+  zk_warnings(${target})
+endfunction()
+
+
+# A Windows test program: GoogleTest, the harness, both DLLs; one ctest entry
+# that runs it once under Wine in the build tree's prefix.
+function(zk_win_test name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost GTest::gtest GTest::gtest_main)
+  zk_warnings(${name})
+  add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml)
+  set_tests_properties(${name} PROPERTIES ENVIRONMENT "ZK_WINEPREFIX=${CMAKE_BINARY_DIR}/wineprefix"
+                                         TIMEOUT 300)
+endfunction()
+
+# A native test program of the portable core.
+function(zk_native_test name)
+  add_executable(${name} ${ARGN})
+  target_link_libraries(${name} PRIVATE zkcore GTest::gtest GTest::gtest_main)
+  zk_warnings(${name})
+  add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml)
+endfunction()

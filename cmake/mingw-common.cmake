@@ -1,0 +1,9 @@
+# Shared part of the two MinGW-w64 toolchains; ZK_TRIPLE is set by the caller.
+set(CMAKE_SYSTEM_NAME Windows)
+set(CMAKE_C_COMPILER   ${ZK_TRIPLE}-gcc-posix)
+set(CMAKE_CXX_COMPILER ${ZK_TRIPLE}-g++-posix)
+set(CMAKE_RC_COMPILER  ${ZK_TRIPLE}-windres)
+set(CMAKE_FIND_ROOT_PATH /usr/${ZK_TRIPLE})
+set(CMAKE_FIND_ROOT_PATH_MODE_PROGRAM NEVER)
+set(CMAKE_FIND_ROOT_PATH_MODE_LIBRARY ONLY)
+set(CMAKE_FIND_ROOT_PATH_MODE_INCLUDE ONLY)
