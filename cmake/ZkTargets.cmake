@@ -34,6 +34,7 @@ endfunction()
 function(zk_win_test name)
   add_executable(${name} ${ARGN})
   target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost GTest::gtest GTest::gtest_main)
+  target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src)
   zk_warnings(${name})
   add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "ZK_WINEPREFIX=${CMAKE_BINARY_DIR}/wineprefix"

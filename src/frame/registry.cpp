@@ -18,19 +18,20 @@ struct OuterClass {
     int extraBytes;
     bool arrowCursor;
     ControlBootstrap bootstrap;
+    bool registeredHere; // false when another copy of the library owns the class
 };
 
 // Registration order; unregistration runs in the same order.
 std::array<OuterClass, 9> outerClasses = {{
-    {L"ZK:cCalendar:10", 0x6880, 0, true, nullptr},
-    {L"ZK:cComboCal:10", 0x6888, 0, true, nullptr},
-    {L"ZK:cPalette:10", 0x6080, 0, true, nullptr},
-    {L"ZK:cComboPal:10", 0x6888, 0, true, nullptr},
-    {L"ZK:cSplitter:10", 0x400B, 0, false, nullptr},
-    {L"ZK:cListView:10", 0x4088, 0, true, nullptr},
-    {L"ZK:cListViewDropDown:10", 0x4088, 0, true, nullptr},
-    {L"ZK:cSpinField:10", 0x4008, 4, true, nullptr},
-    {L"ZK:cMeter:10", 0x4000, 4, true, nullptr},
+    {L"ZK:cCalendar:10", 0x6880, 0, true, nullptr, false},
+    {L"ZK:cComboCal:10", 0x6888, 0, true, nullptr, false},
+    {L"ZK:cPalette:10", 0x6080, 0, true, nullptr, false},
+    {L"ZK:cComboPal:10", 0x6888, 0, true, nullptr, false},
+    {L"ZK:cSplitter:10", 0x400B, 0, false, nullptr, false},
+    {L"ZK:cListView:10", 0x4088, 0, true, nullptr, false},
+    {L"ZK:cListViewDropDown:10", 0x4088, 0, true, nullptr, false},
+    {L"ZK:cSpinField:10", 0x4008, 4, true, nullptr, false},
+    {L"ZK:cMeter:10", 0x4000, 4, true, nullptr, false},
 }};
 
 // One named procedure per class: a 32-bit build cannot hand out lambdas as
@@ -61,7 +62,7 @@ const std::set<std::wstring> classNameMap = {
 bool classNameMapFilled = false;
 
 bool RegisterOuterClass(size_t slot) {
-    const OuterClass &c = outerClasses[slot];
+    OuterClass &c = outerClasses[slot];
     WNDCLASSW known{};
     if (GetClassInfoW(ModuleInstance, c.name, &known))
         return true;
@@ -72,7 +73,8 @@ bool RegisterOuterClass(size_t slot) {
     wc.hInstance = ModuleInstance;
     wc.hCursor = c.arrowCursor ? LoadCursorW(nullptr, IDC_ARROW) : nullptr;
     wc.lpszClassName = c.name;
-    return RegisterClassW(&wc) != 0;
+    c.registeredHere = RegisterClassW(&wc) != 0;
+    return c.registeredHere;
 }
 
 } // namespace
@@ -115,10 +117,14 @@ void ExitInstance() {
         bitmap = nullptr;
     }
     classNameMapFilled = false;
-    // A class still in use, or one that a first copy of the library owns,
-    // stays registered: there is nobody to tell at unload.
-    for (const OuterClass &c : outerClasses)
-        UnregisterClassW(c.name, ModuleInstance);
+    // A class that a first copy of the library registered stays: its windows
+    // run that copy's code. A class still in use stays too, silently: there
+    // is nobody to tell at unload.
+    for (OuterClass &c : outerClasses) {
+        if (c.registeredHere)
+            UnregisterClassW(c.name, ModuleInstance);
+        c.registeredHere = false;
+    }
 }
 
 } // namespace zk

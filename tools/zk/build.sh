@@ -15,9 +15,10 @@ case "$kind" in
                 -DZK_FUZZ=ON -DZK_SANITIZE=OFF -DZK_TESTS=OFF -DZK_BENCH=OFF) ;;
   *) echo "unknown build $kind" >&2; exit 2 ;;
 esac
+mkdir -p "$top/build"
 if [ ! -f "$dir/build.ninja" ]; then
   cmake -S "$top" -B "$dir" -G Ninja "${args[@]}" >"$dir.configure.log" 2>&1 \
-    || { mkdir -p "$dir"; cat "$dir.configure.log"; exit 1; }
+    || { cat "$dir.configure.log"; exit 1; }
 fi
 if [ $# -gt 0 ]; then
   cmake --build "$dir" --target "$@"

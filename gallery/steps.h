@@ -1,0 +1,24 @@
+// The scenario, one function per family of exports. Each step calls the
+// library, compares with what the library is meant to answer, and reports.
+#pragma once
+
+#include <windows.h>
+
+namespace gallery {
+
+class ArtPanel;
+class Form;
+class Pictures;
+class Report;
+
+void RunLibrarySteps(Report &report);
+void RunStringSteps(Report &report);
+void RunNumberSteps(Report &report);
+// Fails one allocation, lets the retry dialog come up, photographs it and
+// answers Retry after `answerDelayMs`.
+void RunRetrySteps(Report &report, Pictures &pictures, DWORD answerDelayMs);
+// Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
+// the form.
+void RunArtSteps(Report &report, Form &form, ArtPanel &panel);
+
+} // namespace gallery

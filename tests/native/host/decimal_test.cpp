@@ -1,0 +1,241 @@
+// Exact decimal records: format, sums, rounding, order, integers.
+#include <cstdint>
+#include <limits>
+#include <random>
+
+#include "hosttest.h"
+
+using namespace hosttest;
+
+namespace {
+
+HostNumber raw(std::initializer_list<uint8_t> bytes, int length) {
+    HostNumber n{};
+    int i = 0;
+    for (uint8_t b : bytes)
+        n.digits[i++] = b;
+    n.length = static_cast<uint8_t>(length);
+    return n;
+}
+
+TEST(HostDecimal, RecordLayout) {
+    const HostNumber zero = zkh::numberZero();
+    EXPECT_EQ(zero.length, 1);
+    EXPECT_EQ(zero.digits[0], 0x40);
+    EXPECT_FALSE(zkh::isNull(zero));
+
+    // 123.45 = 0.12345e3: exponent byte 0x43, BCD 12 34 50.
+    const HostNumber n = num("123.45");
+    EXPECT_EQ(n.length, 4);
+    EXPECT_EQ(n.digits[0], 0x43);
+    EXPECT_EQ(n.digits[1], 0x12);
+    EXPECT_EQ(n.digits[2], 0x34);
+    EXPECT_EQ(n.digits[3], 0x50);
+    for (int i = 4; i < 24; ++i)
+        EXPECT_EQ(n.digits[i], 0) << i;
+
+    const HostNumber m = num("-0.05");
+    EXPECT_EQ(m.length, 2);
+    EXPECT_EQ(m.digits[0], 0x80 | (64 - 1));
+    EXPECT_EQ(m.digits[1], 0x50);
+
+    // Twenty-eight digits take the full fifteen bytes.
+    EXPECT_EQ(num("1234567890123456789012345678").length, 15);
+}
+
+TEST(HostDecimal, EqualValuesHaveEqualBytes) {
+    const HostNumber forms[] = {num("1.10"),
+                                num("001.1"),
+                                num("1.1e0"),
+                                num("0.011e2"),
+                                zkh::numberFromDouble(1.1),
+                                add(num("1"), num("0.1")),
+                                sub(num("2.2"), num("1.1"))};
+    for (const HostNumber &f : forms)
+        EXPECT_TRUE(sameRecord(f, forms[0])) << text(f);
+    EXPECT_TRUE(sameRecord(num("-0"), zkh::numberZero()));
+    EXPECT_TRUE(sameRecord(sub(num("0.3"), num("0.3")), zkh::numberZero()));
+    EXPECT_TRUE(sameRecord(zkh::numberFromInt64(1), zkh::numberFromDouble(1.0)));
+}
+
+TEST(HostDecimal, SumsAreExact) {
+    EXPECT_EQ(text(add(num("0.1"), num("0.2"))), "0.3");
+    EXPECT_EQ(text(sub(add(num("0.1"), num("0.2")), num("0.3"))), "0");
+    EXPECT_EQ(text(add(num("1e20"), num("1e-7"))), "100000000000000000000.0000001");
+    EXPECT_EQ(text(sub(num("1"), num("1e-27"))), "0.999999999999999999999999999");
+    EXPECT_EQ(text(add(num("-5"), num("3"))), "-2");
+    EXPECT_EQ(text(sub(num("-5"), num("-7.25"))), "2.25");
+    EXPECT_EQ(text(add(num("9999999999999999999999999999"), num("1"))),
+              "10000000000000000000000000000");
+}
+
+TEST(HostDecimal, RoundsHalfAwayFromZeroBeyondTwentyEightDigits) {
+    const HostNumber big = num("1234567890123456789012345678");
+    EXPECT_EQ(text(add(big, num("0.5"))), "1234567890123456789012345679");
+    EXPECT_EQ(text(add(big, num("0.49"))), "1234567890123456789012345678");
+    EXPECT_EQ(text(sub(num("-1234567890123456789012345678"), num("0.5"))),
+              "-1234567890123456789012345679");
+    EXPECT_EQ(text(add(num("9999999999999999999999999999"), num("0.5"))),
+              "10000000000000000000000000000");
+    // Far apart: the small addend only matters through the rounding digit.
+    EXPECT_EQ(text(add(num("1e30"), num("6e2"))), "1000000000000000000000000001000");
+    EXPECT_EQ(text(add(num("1e30"), num("4.99e2"))), "1000000000000000000000000000000");
+    EXPECT_EQ(text(add(num("1e27"), num("0.6"))), "1000000000000000000000000001");
+}
+
+TEST(HostDecimal, NullReadsAsZeroInSums) {
+    const HostNumber null{};
+    EXPECT_TRUE(sameRecord(add(null, null), zkh::numberZero()));
+    EXPECT_EQ(text(add(null, num("2.5"))), "2.5");
+    EXPECT_EQ(text(sub(null, num("2.5"))), "-2.5");
+    EXPECT_EQ(text(sub(num("2.5"), null)), "2.5");
+}
+
+TEST(HostDecimal, OutputMayBeAnOperand) {
+    HostNumber a = num("10.5");
+    const HostNumber b = num("0.25");
+    a.length =
+        static_cast<uint8_t>(zkh::numberAdd(a.digits, a.digits, a.length, b.digits, b.length));
+    EXPECT_EQ(text(a), "10.75");
+    a.length =
+        static_cast<uint8_t>(zkh::numberSubtract(a.digits, b.digits, b.length, a.digits, a.length));
+    EXPECT_EQ(text(a), "-10.5");
+}
+
+TEST(HostDecimal, ExponentLimits) {
+    // The largest magnitude is just below 10^63; beyond it a sum is null.
+    const HostNumber top = num("9e62");
+    EXPECT_EQ(text(top).size(), 63u);
+    EXPECT_EQ(add(top, top).length, 0);
+    HostNumber n{};
+    EXPECT_FALSE(zkh::numberFromText(u"1e63", n));
+    EXPECT_EQ(n.length, 0);
+    // Below 10^-65 values vanish into zero.
+    EXPECT_EQ(text(num("1e-65")), "0." + std::string(64, '0') + "1");
+    EXPECT_TRUE(sameRecord(num("1e-66"), zkh::numberZero()));
+}
+
+TEST(HostDecimal, CompareOrdersValuesAndPutsNullFirst) {
+    const HostNumber null{};
+    const HostNumber ordered[] = {num("-1e40"),     num("-2"),    num("-1.5"), num("-1e-30"),
+                                  num("0"),         num("1e-30"), num("0.5"),  num("1"),
+                                  num("1.0000001"), num("10"),    num("9e62")};
+    EXPECT_EQ(zkh::numberCompare(null, null), 0);
+    for (size_t i = 0; i < std::size(ordered); ++i) {
+        EXPECT_LT(zkh::numberCompare(null, ordered[i]), 0);
+        EXPECT_GT(zkh::numberCompare(ordered[i], null), 0);
+        EXPECT_EQ(zkh::numberCompare(ordered[i], ordered[i]), 0);
+        for (size_t j = i + 1; j < std::size(ordered); ++j) {
+            EXPECT_LT(zkh::numberCompare(ordered[i], ordered[j]), 0) << i << " " << j;
+            EXPECT_GT(zkh::numberCompare(ordered[j], ordered[i]), 0) << i << " " << j;
+        }
+    }
+}
+
+TEST(HostDecimal, OddRecordsAreReadSafely) {
+    // A length beyond the 24 digit bytes is null, whatever the bytes say.
+    HostNumber wild = num("5");
+    wild.length = 200;
+    EXPECT_EQ(zkh::numberCompare(wild, HostNumber{}), 0);
+    EXPECT_EQ(zkh::numberToText(wild), u"");
+    EXPECT_EQ(text(add(wild, num("1"))), "1");
+    // A nibble that is no digit makes the record unreadable, hence null.
+    EXPECT_EQ(zkh::numberToText(raw({0x41, 0x1A}, 2)), u"");
+    // Leading zero digits and a negative zero are read for what they mean.
+    EXPECT_EQ(text(raw({0x43, 0x01, 0x20}, 3)), "12");
+    EXPECT_EQ(zkh::numberCompare(raw({0xC5}, 1), zkh::numberZero()), 0);
+    // A long record reads all 46 digits and rounds once when written again.
+    HostNumber longest{};
+    longest.length = 24;
+    longest.digits[0] = 0x40 + 46;
+    for (int i = 1; i < 24; ++i)
+        longest.digits[i] = 0x99;
+    EXPECT_EQ(text(add(longest, zkh::numberZero())), "1" + std::string(46, '0'));
+}
+
+TEST(HostDecimal, Int64Conversions) {
+    const int64_t values[] = {0,
+                              1,
+                              -1,
+                              10,
+                              -90,
+                              1234567890123,
+                              std::numeric_limits<int64_t>::max(),
+                              std::numeric_limits<int64_t>::min()};
+    for (int64_t v : values) {
+        int64_t back = 42;
+        EXPECT_TRUE(zkh::numberToInt64(zkh::numberFromInt64(v), back)) << v;
+        EXPECT_EQ(back, v);
+        EXPECT_EQ(text(zkh::numberFromInt64(v)), std::to_string(v));
+    }
+    int64_t out = 0;
+    EXPECT_TRUE(zkh::numberToInt64(num("2.9"), out));
+    EXPECT_EQ(out, 2);
+    EXPECT_TRUE(zkh::numberToInt64(num("-2.9"), out));
+    EXPECT_EQ(out, -2);
+    EXPECT_TRUE(zkh::numberToInt64(num("0.999"), out));
+    EXPECT_EQ(out, 0);
+    EXPECT_TRUE(zkh::numberToInt64(num("-9223372036854775808.7"), out));
+    EXPECT_EQ(out, std::numeric_limits<int64_t>::min());
+    EXPECT_FALSE(zkh::numberToInt64(num("9223372036854775808"), out));
+    EXPECT_FALSE(zkh::numberToInt64(num("-9223372036854775809"), out));
+    EXPECT_FALSE(zkh::numberToInt64(num("1e25"), out));
+    EXPECT_FALSE(zkh::numberToInt64(HostNumber{}, out));
+}
+
+// Scaled 128-bit integers as an independent oracle for sums of up to 27
+// digits each.
+std::string scaledText(__int128 value, int scale) {
+    const bool negative = value < 0;
+    unsigned __int128 m = negative ? -static_cast<unsigned __int128>(value) : value;
+    std::string digits;
+    do {
+        digits.insert(digits.begin(), static_cast<char>('0' + static_cast<int>(m % 10)));
+        m /= 10;
+    } while (m != 0);
+    if (static_cast<int>(digits.size()) <= scale)
+        digits.insert(0, static_cast<size_t>(scale + 1) - digits.size(), '0');
+    std::string out = digits.substr(0, digits.size() - scale);
+    std::string fraction = digits.substr(digits.size() - scale);
+    while (!fraction.empty() && fraction.back() == '0')
+        fraction.pop_back();
+    if (!fraction.empty())
+        out += "." + fraction;
+    if (negative && out != "0")
+        out.insert(0, "-");
+    return out;
+}
+
+TEST(HostDecimal, RandomSumsMatchWideIntegers) {
+    std::mt19937_64 rng(20240229);
+    for (int round = 0; round < 20000; ++round) {
+        auto draw = [&](int &scale) {
+            const int digits = 1 + static_cast<int>(rng() % 27);
+            __int128 v = 0;
+            for (int i = 0; i < digits; ++i)
+                v = v * 10 + static_cast<int>(rng() % 10);
+            scale = static_cast<int>(rng() % 12);
+            return rng() % 2 ? -v : v;
+        };
+        int sa = 0, sb = 0;
+        const __int128 a = draw(sa), b = draw(sb);
+        // Bring both to one scale only if the wider one still fits 27 digits.
+        const int scale = std::max(sa, sb);
+        __int128 pa = a, pb = b;
+        for (int i = sa; i < scale; ++i)
+            pa *= 10;
+        for (int i = sb; i < scale; ++i)
+            pb *= 10;
+        const __int128 limit = static_cast<__int128>(1000000000000000000) * 1000000000; // 10^27
+        if (pa >= limit || pa <= -limit || pb >= limit || pb <= -limit)
+            continue;
+        const HostNumber x = num(scaledText(a, sa)), y = num(scaledText(b, sb));
+        ASSERT_EQ(text(add(x, y)), scaledText(pa + pb, scale)) << text(x) << " + " << text(y);
+        ASSERT_EQ(text(sub(x, y)), scaledText(pa - pb, scale)) << text(x) << " - " << text(y);
+        const int order = pa < pb ? -1 : (pa > pb ? 1 : 0);
+        const int got = zkh::numberCompare(x, y);
+        ASSERT_EQ((got > 0) - (got < 0), order) << text(x) << " <> " << text(y);
+    }
+}
+
+} // namespace

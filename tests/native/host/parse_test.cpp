@@ -1,0 +1,120 @@
+// Reading date texts.
+#include <climits>
+#include <random>
+
+#include "hosttest.h"
+
+using namespace hosttest;
+
+namespace {
+
+HostDateTime parse(std::string_view text) {
+    HostDateTime d{};
+    EXPECT_TRUE(zkh::dateParse(u16(text), d)) << text;
+    return d;
+}
+
+void expectParsed(std::string_view text, const HostDateTime &expected) {
+    const HostDateTime got = parse(text);
+    EXPECT_TRUE(sameRecord(got, expected))
+        << text << " -> " << ascii(zkh::dateFormat(got, u"yyyy-MM-dd-hh.mm.ss.mmmmmm"));
+}
+
+TEST(HostDateParse, AcceptedForms) {
+    expectParsed("2020-05-17", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
+    expectParsed("2020-05-17-13.45.10", zkh::dateFromParts(2020, 5, 17, 13, 45, 10));
+    expectParsed("2020-05-17-13.45.10.000123", zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 123));
+    expectParsed("2020-05-17-13.45.10.5", zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 500000));
+    expectParsed("2020-05-17 13:45", zkh::dateFromParts(2020, 5, 17, 13, 45, 0));
+    expectParsed("2020-05-17T13:45:10", zkh::dateFromParts(2020, 5, 17, 13, 45, 10));
+    expectParsed("2020-5-7T01:02:03.25", zkh::dateFromParts(2020, 5, 7, 1, 2, 3, 250000));
+    expectParsed("05/17/2020", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
+    expectParsed("5/7/2020 1:45 PM", zkh::dateFromParts(2020, 5, 7, 13, 45, 0));
+    expectParsed("05/17/2020 12:00:01 am", zkh::dateFromParts(2020, 5, 17, 0, 0, 1));
+    expectParsed("05/17/2020 23:59:59", zkh::dateFromParts(2020, 5, 17, 23, 59, 59));
+    expectParsed("17 May 2020", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
+    expectParsed("1 september 2021", zkh::dateFromParts(2021, 9, 1, 0, 0, 0));
+    expectParsed("17 Dec 2020 08:30", zkh::dateFromParts(2020, 12, 17, 8, 30, 0));
+    expectParsed("May 17, 2020", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
+    expectParsed("February 29, 2024 10:00 PM", zkh::dateFromParts(2024, 2, 29, 22, 0, 0));
+    expectParsed("   2020-05-17   ", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
+    expectParsed("-0044-03-15", zkh::dateFromParts(-44, 3, 15, 0, 0, 0));
+    expectParsed("-2147483648-01-01", zkh::dateFromParts(INT_MIN, 1, 1, 0, 0, 0));
+    expectParsed("2147483647-12-31-23.59.59.999999",
+                 zkh::dateFromParts(INT_MAX, 12, 31, 23, 59, 59, 999999));
+}
+
+TEST(HostDateParse, TimeAloneFallsOnDayZero) {
+    expectParsed("13:45:10", zkh::dateFromParts(1899, 12, 30, 13, 45, 10));
+    expectParsed("01:45:10 PM", zkh::dateFromParts(1899, 12, 30, 13, 45, 10));
+    expectParsed("12:00AM", zkh::dateFromParts(1899, 12, 30, 0, 0, 0));
+    expectParsed(" 0:00 ", zkh::numberZero());
+}
+
+TEST(HostDateParse, RejectsAndLeavesNull) {
+    const char *bad[] = {"",
+                         "   ",
+                         "abc",
+                         "2021-02-29",
+                         "2020-13-01",
+                         "2020-00-10",
+                         "2020-04-31",
+                         "2020-05-17-24.00.00",
+                         "2020-05-17-12.60.00",
+                         "2020-05-17-12.00.60",
+                         "2020-05-17-12.00.00.1234567",
+                         "2020-05-17-12.00.00.",
+                         "2020-05-17x",
+                         "2020-05-17-12.00",
+                         "5/17/20",
+                         "13/01/2020",
+                         "13:00 PM",
+                         "0:30 AM",
+                         "24:00",
+                         "12:5",
+                         "12:05:7",
+                         "123:00",
+                         "17 Mai 2020",
+                         "May 32, 2020",
+                         "Mayo 17, 2020",
+                         "2020-05-17 13:45 PMX",
+                         "05/17/2020 1:45PMish",
+                         "17 May 2020 25:00",
+                         "2020/05/17",
+                         "2020-05-17T",
+                         "999-01-01",
+                         "12345678901-01-01",
+                         "2147483648-01-01"};
+    for (const char *b : bad) {
+        HostDateTime d = zkh::dateFromParts(2000, 1, 1, 0, 0, 0);
+        EXPECT_FALSE(zkh::dateParse(u16(b), d)) << b;
+        EXPECT_EQ(d.length, 0) << b;
+    }
+}
+
+TEST(HostDateParse, DefaultTextsRoundTrip) {
+    std::mt19937_64 rng(99);
+    for (int i = 0; i < 3000; ++i) {
+        const int year = i % 3 == 0 ? static_cast<int>(rng() % 2000000) - 1000000
+                                    : static_cast<int>(rng() % 10000);
+        const HostDateTime d = zkh::dateFromParts(
+            year, 1 + static_cast<int>(rng() % 12), 1 + static_cast<int>(rng() % 31),
+            static_cast<int>(rng() % 24), static_cast<int>(rng() % 60),
+            static_cast<int>(rng() % 60), static_cast<int>(rng() % 1000000));
+        const std::u16string text = zkh::dateFormat(d, u"yyyy-MM-dd-hh.mm.ss.mmmmmm");
+        HostDateTime back{};
+        ASSERT_TRUE(zkh::dateParse(text, back)) << ascii(text);
+        ASSERT_TRUE(sameRecord(back, d)) << ascii(text);
+        // The American form with the twelve-hour clock comes back to the second.
+        const std::u16string us = zkh::dateFormat(d, u"MM/dd/yyyy hh:mm:ss AMPM");
+        if (year >= 1000 && year <= 9999) {
+            const zkh::DateParts p = zkh::dateToParts(d);
+            ASSERT_TRUE(zkh::dateParse(us, back)) << ascii(us);
+            ASSERT_TRUE(sameRecord(
+                back, zkh::dateFromParts(p.year, p.month, p.day, p.hour, p.minute, p.second)))
+                << ascii(us);
+        }
+    }
+}
+
+} // namespace

@@ -1,0 +1,244 @@
+// Window types of real windows, marks set by tests, the child walk, and the
+// plain window operations with form units.
+#include <cmath>
+#include <vector>
+
+#include "host_test_util.h"
+#include "zkharness.h"
+
+using namespace hosttest;
+
+namespace {
+
+class HostWindows : public HostTest {};
+
+INT_PTR CALLBACK QuietDialog(HWND, UINT, WPARAM, LPARAM) { return FALSE; }
+
+// A dialog of class #32770 from an in-memory template.
+HWND MakeDialog(HWND parent, DWORD style) {
+    struct alignas(4) Template {
+        DLGTEMPLATE dialog;
+        WORD menu, windowClass, title;
+    } t{};
+    t.dialog.style = style;
+    t.dialog.cx = 80;
+    t.dialog.cy = 40;
+    return CreateDialogIndirectParamW(GetModuleHandleW(nullptr), &t.dialog, parent, QuietDialog, 0);
+}
+
+std::vector<HWND> Walk(HWND form, uint32_t mask) {
+    std::vector<HWND> found;
+    for (HWND w = HostWinFirstChild(form, mask); w && found.size() < 100; w = HostWinNextChild(w, mask))
+        found.push_back(w);
+    return found;
+}
+
+// The children of form in Z order, whatever their type.
+std::vector<HWND> ZOrder(HWND form) {
+    std::vector<HWND> all;
+    for (HWND w = GetWindow(form, GW_CHILD); w; w = GetWindow(w, GW_HWNDNEXT))
+        all.push_back(w);
+    return all;
+}
+
+std::vector<HWND> InZOrder(HWND form, std::vector<HWND> wanted) {
+    std::vector<HWND> out;
+    for (HWND w : ZOrder(form))
+        for (HWND x : wanted)
+            if (w == x)
+                out.push_back(w);
+    return out;
+}
+
+HostNumber Units(HWND window, int pixels, int axis) {
+    HostNumber n{};
+    HostPixelsToFormUnits(&n, window, pixels, axis);
+    return n;
+}
+
+RECT RectInParent(HWND child) {
+    RECT r{};
+    GetWindowRect(child, &r);
+    MapWindowPoints(nullptr, GetParent(child), reinterpret_cast<POINT *>(&r), 2);
+    return r;
+}
+
+TEST_F(HostWindows, RealWindowsAreClassifiedByClassAndStyle) {
+    zkt::TestWindow form;
+    struct Case {
+        HWND window;
+        uint32_t type;
+    } cases[] = {
+        {form.hwnd(), HOST_WT_FORM},
+        {form.addListBox(1, {0, 0, 80, 60}), HOST_WT_LISTBOX},
+        {form.addComboBox(2, {0, 70, 80, 100}), HOST_WT_COMBOBOX},
+        {form.addComboBox(3, {0, 100, 80, 100}, CBS_DROPDOWN), HOST_WT_COMBOBOX},
+        {form.addEdit(4, {90, 0, 80, 20}), HOST_WT_DATAFIELD},
+        {form.addEdit(5, {90, 30, 80, 40}, ES_MULTILINE | WS_BORDER), HOST_WT_MULTILINE},
+        {form.addButton(6, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX), HOST_WT_CHECKBOX},
+        {form.addButton(7, {180, 20, 80, 20}, L"three", BS_3STATE), HOST_WT_CHECKBOX},
+        {form.addButton(8, {180, 40, 80, 20}, L"radio", BS_AUTORADIOBUTTON), HOST_WT_RADIOBUTTON},
+        {form.addButton(9, {180, 60, 80, 20}, L"radio", BS_RADIOBUTTON), HOST_WT_RADIOBUTTON},
+        {form.addButton(10, {180, 80, 80, 20}, L"push"), 0},
+        {form.addChild(L"Static", 11, {180, 100, 80, 20}, SS_LEFT, L"label"), 0},
+    };
+    for (const Case &c : cases) {
+        EXPECT_EQ(HostWinType(c.window), c.type) << GetDlgCtrlID(c.window);
+        EXPECT_EQ(HostWinClass(c.window), 0u);
+    }
+
+    HWND dialog = MakeDialog(nullptr, WS_POPUP | WS_CAPTION);
+    ASSERT_NE(dialog, nullptr);
+    EXPECT_EQ(HostWinType(dialog), HOST_WT_DIALOG);
+    HWND inner = MakeDialog(form, WS_CHILD | DS_CONTROL);
+    ASSERT_NE(inner, nullptr);
+    EXPECT_EQ(HostWinType(inner), 0u) << "a dialog inside a form is no top-level dialog";
+    DestroyWindow(inner);
+    DestroyWindow(dialog);
+    EXPECT_EQ(HostWinType(dialog), 0u);
+    EXPECT_EQ(HostWinType(nullptr), 0u);
+}
+
+TEST_F(HostWindows, MarksOverrideTheClassificationUntilForgotten) {
+    zkt::TestWindow form;
+    HWND edit = form.addEdit(1, {0, 0, 80, 20});
+    ZkHostSetWinType(edit, HOST_WT_FRAMECHILD, HOST_WC_FRAMECHILD);
+    EXPECT_EQ(HostWinType(edit), HOST_WT_FRAMECHILD);
+    EXPECT_EQ(HostWinClass(edit), HOST_WC_FRAMECHILD);
+    ZkHostSetWinType(edit, 0, 123);
+    EXPECT_EQ(HostWinType(edit), HOST_WT_DATAFIELD);
+    EXPECT_EQ(HostWinClass(edit), 0u);
+
+    HWND gone = form.addEdit(2, {0, 30, 80, 20});
+    ZkHostSetWinType(gone, HOST_WT_PICTURE, 7);
+    DestroyWindow(gone);
+    EXPECT_EQ(HostWinType(gone), 0u);
+    EXPECT_EQ(HostWinClass(gone), 0u);
+}
+
+TEST_F(HostWindows, NamesAreWhatTheApplicationCalledTheWindow) {
+    zkt::TestWindow form;
+    HWND edit = form.addEdit(1, {0, 0, 80, 20});
+    HostStr name = ZkHostStrMake(L"previous");
+    HostStr previous = name;
+    EXPECT_EQ(HostWinGetName(edit, &name), 1);
+    EXPECT_EQ(Text(name), L"");
+    EXPECT_EQ(ZkHostStrRefs(previous), 0);
+    ZkHostSetWinName(edit, L"dfCustomer");
+    ZkHostSetWinType(edit, HOST_WT_DATAFIELD, 0);
+    ZkHostSetWinType(edit, 0, 0); // forgetting the type keeps the name
+    EXPECT_EQ(HostWinGetName(edit, &name), 1);
+    EXPECT_EQ(Text(name), L"dfCustomer");
+    ZkHostSetWinName(edit, nullptr);
+    EXPECT_EQ(HostWinGetName(edit, &name), 1);
+    EXPECT_EQ(Text(name), L"");
+    EXPECT_EQ(HostWinGetName(nullptr, &name), 0);
+    EXPECT_EQ(Text(name), L"");
+    EXPECT_EQ(HostWinGetName(edit, nullptr), 0);
+    ZkHostStrRelease(name);
+}
+
+TEST_F(HostWindows, TheChildWalkFiltersDirectChildrenByTypeInZOrder) {
+    zkt::TestWindow form;
+    HWND list = form.addListBox(1, {0, 0, 80, 60});
+    HWND edit = form.addEdit(2, {90, 0, 80, 20});
+    HWND label = form.addChild(L"Static", 3, {90, 30, 80, 20}, SS_LEFT, L"label");
+    HWND memo = form.addEdit(4, {90, 60, 80, 40}, ES_MULTILINE);
+    HWND check = form.addButton(5, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX);
+    HWND group = form.addChild(L"Static", 6, {180, 30, 100, 100}, SS_LEFT);
+    HWND nested = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, group, nullptr,
+                                  GetModuleHandleW(nullptr), nullptr);
+    ASSERT_NE(nested, nullptr);
+
+    EXPECT_EQ(Walk(form, HOST_WT_DATAFIELD | HOST_WT_MULTILINE), InZOrder(form, {edit, memo}));
+    EXPECT_EQ(Walk(form, HOST_WT_CHECKBOX), InZOrder(form, {check}));
+    EXPECT_EQ(Walk(form, HOST_WT_RADIOBUTTON), std::vector<HWND>{});
+    EXPECT_EQ(Walk(form, 0x7FFFFFFF), ZOrder(form)) << "the all-types mask takes untyped children too";
+    EXPECT_EQ(Walk(form, 0x7FFFFFFF).size(), 6u);
+
+    ZkHostSetWinType(label, HOST_WT_LISTBOX, 0);
+    EXPECT_EQ(Walk(form, HOST_WT_LISTBOX), InZOrder(form, {list, label}));
+    EXPECT_EQ(Walk(group, HOST_WT_DATAFIELD), std::vector<HWND>{nested});
+    EXPECT_EQ(HostWinFirstChild(nullptr, 0x7FFFFFFF), nullptr);
+    EXPECT_EQ(HostWinNextChild(form, 0x7FFFFFFF), nullptr) << "a form is no child";
+}
+
+TEST_F(HostWindows, CentringOnTheParentTheOwnerOrTheWorkArea) {
+    zkt::TestWindow form(320, 240);
+    HWND child = form.addChild(L"Static", 1, {0, 0, 100, 50}, SS_LEFT);
+    ASSERT_EQ(HostWinCenter(child), 1);
+    RECT r = RectInParent(child);
+    EXPECT_EQ(r.left, 110);
+    EXPECT_EQ(r.top, 95);
+
+    HWND owned = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 60, 40, form, nullptr,
+                                 GetModuleHandleW(nullptr), nullptr);
+    ASSERT_EQ(HostWinCenter(owned), 1);
+    RECT ownerFrame{}, frame{};
+    GetWindowRect(form, &ownerFrame);
+    GetWindowRect(owned, &frame);
+    EXPECT_EQ(frame.left, ownerFrame.left + (ownerFrame.right - ownerFrame.left - 60) / 2);
+    EXPECT_EQ(frame.top, ownerFrame.top + (ownerFrame.bottom - ownerFrame.top - 40) / 2);
+    DestroyWindow(owned);
+
+    HWND lone = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 60, 40, nullptr, nullptr,
+                                GetModuleHandleW(nullptr), nullptr);
+    ASSERT_EQ(HostWinCenter(lone), 1);
+    MONITORINFO info{};
+    info.cbSize = sizeof info;
+    GetMonitorInfoW(MonitorFromWindow(lone, MONITOR_DEFAULTTONEAREST), &info);
+    GetWindowRect(lone, &frame);
+    EXPECT_EQ(frame.left, info.rcWork.left + (info.rcWork.right - info.rcWork.left - 60) / 2);
+    EXPECT_EQ(frame.top, info.rcWork.top + (info.rcWork.bottom - info.rcWork.top - 40) / 2);
+    DestroyWindow(lone);
+    EXPECT_EQ(HostWinCenter(lone), 0);
+}
+
+TEST_F(HostWindows, RedrawOffStopsPaintingAndOnInvalidates) {
+    zkt::TestWindow form;
+    zkt::pumpMessages();
+    ASSERT_EQ(HostWinSetRedraw(form, 0), 1);
+    EXPECT_FALSE(IsWindowVisible(form)) << "WM_SETREDRAW FALSE hides the window from painting";
+    ValidateRect(form, nullptr);
+    ASSERT_EQ(HostWinSetRedraw(form, 1), 1);
+    EXPECT_TRUE(IsWindowVisible(form));
+    RECT update{};
+    EXPECT_TRUE(GetUpdateRect(form, &update, FALSE)) << "turning painting on invalidates";
+    EXPECT_EQ(HostWinSetRedraw(nullptr, 1), 0);
+}
+
+TEST_F(HostWindows, FormUnitsAreInchesOfTheScreen) {
+    zkt::TestWindow form;
+    HDC screen = GetDC(nullptr);
+    int dpiX = GetDeviceCaps(screen, LOGPIXELSX), dpiY = GetDeviceCaps(screen, LOGPIXELSY);
+    ReleaseDC(nullptr, screen);
+    double inches = 0;
+    HostNumber n = Units(form, dpiX * 3, 0);
+    HostNumberToDouble(&n, &inches);
+    EXPECT_EQ(inches, 3.0);
+    n = Units(form, dpiY / 2, 1);
+    HostNumberToDouble(&n, &inches);
+    EXPECT_DOUBLE_EQ(inches, double(dpiY / 2) / dpiY);
+    EXPECT_EQ(Units(form, 10, 2).length, 0) << "no third axis";
+}
+
+TEST_F(HostWindows, LocationAndSizeInFormUnitsComeBackToThePixel) {
+    zkt::TestWindow form(400, 300);
+    HWND child = form.addChild(L"Static", 1, {0, 0, 10, 10}, SS_LEFT);
+    for (int px = 0; px < 400; px += 37) {
+        int py = 299 - px * 3 / 4;
+        ASSERT_EQ(HostWinSetLocation(child, Units(form, px, 0), Units(form, py, 1)), 1);
+        ASSERT_EQ(HostWinSetSize(child, Units(form, px + 1, 0), Units(form, py + 2, 1)), 1);
+        RECT r = RectInParent(child);
+        EXPECT_EQ(r.left, px);
+        EXPECT_EQ(r.top, py);
+        EXPECT_EQ(r.right - r.left, px + 1);
+        EXPECT_EQ(r.bottom - r.top, py + 2);
+    }
+    HostNumber null{};
+    EXPECT_EQ(HostWinSetLocation(child, null, Units(form, 1, 1)), 0);
+    EXPECT_EQ(HostWinSetSize(child, Units(form, -5, 0), Units(form, 1, 1)), 0);
+    EXPECT_EQ(HostWinSetLocation(nullptr, Units(form, 1, 0), Units(form, 1, 1)), 0);
+}
+
+} // namespace
