@@ -1,0 +1,28 @@
+#include "text/win_text.h"
+
+#include <cstring>
+
+namespace zk::text {
+
+HostStr SizedResult(std::u16string_view text, uint64_t bytes) {
+    const uint64_t textBytes = 2 * static_cast<uint64_t>(text.size());
+    if (!HostSizeFits(bytes) || bytes < textBytes)
+        return ZelStrEmpty();
+    HostStr slot = 0;
+    StrAllocRetry(&slot, static_cast<int32_t>(bytes));
+    if (wchar_t *buffer = StrBuffer(slot)) {
+        if (!text.empty())
+            std::memcpy(buffer, text.data(), 2 * text.size());
+        if (bytes >= textBytes + 2)
+            buffer[text.size()] = 0;
+    }
+    return slot;
+}
+
+HostStr TextResult(std::u16string_view text) {
+    if (text.empty())
+        return ZelStrEmpty();
+    return SizedResult(text, 2 * static_cast<uint64_t>(text.size()) + 2);
+}
+
+} // namespace zk::text
