@@ -36,7 +36,9 @@ function(zk_win_test name)
   target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost GTest::gtest GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src)
   zk_warnings(${name})
-  add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:${CMAKE_BINARY_DIR}/results/${name}.xml)
+  # The program runs under Wine, which reaches Unix paths through drive Z:.
+  file(MAKE_DIRECTORY ${CMAKE_BINARY_DIR}/results)
+  add_test(NAME ${name} COMMAND ${name} --gtest_output=xml:Z:${CMAKE_BINARY_DIR}/results/${name}.xml)
   set_tests_properties(${name} PROPERTIES ENVIRONMENT "ZK_WINEPREFIX=${CMAKE_BINARY_DIR}/wineprefix"
                                          TIMEOUT 300)
 endfunction()

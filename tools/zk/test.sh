@@ -7,6 +7,7 @@ cd "$top"
 "$top/tools/zk/deps.sh" || exit 1
 
 status=0
+mkdir -p "$top/build"
 for kind in win64 win32 native fuzz; do
   echo "== build $kind"
   "$top/tools/zk/build.sh" "$kind" >"$top/build/$kind.build.log" 2>&1 \
@@ -15,6 +16,7 @@ done
 [ $status = 0 ] || { echo "0 passed, 1 failed"; exit 1; }
 
 rm -rf build/native/results build/win64/results build/fuzz/results
+mkdir -p build/native/results build/win64/results build/fuzz/results
 run_ctest() { # dir
   (cd "$1" && ctest --output-on-failure --output-junit "$1/ctest-junit.xml" -j2 --timeout 900) || status=1
 }
