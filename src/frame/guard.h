@@ -46,6 +46,27 @@ R GuardedText(const wchar_t *functionName, const wchar_t *failureText, R failure
     }
 }
 
+// The plain utilities report only by their failure value: an exception ends
+// the export with fallback(), without a trace.
+template <class Body, class Fallback>
+auto Quietly(Body &&body, Fallback &&fallback) noexcept -> decltype(body()) {
+    try {
+        return std::forward<Body>(body)();
+    } catch (...) {
+        try {
+            return fallback();
+        } catch (...) {
+            return {};
+        }
+    }
+}
+
+// A string result whose failure value is the empty string.
+template <class Body>
+HostStr StringResult(Body &&body) noexcept {
+    return Quietly(std::forward<Body>(body), [] { return ZelStrEmpty(); });
+}
+
 // An exported control function: a null control pointer shows string 48 and
 // ends with the failure value; otherwise body(control) runs under the guard.
 template <class R, class Control, class Body>

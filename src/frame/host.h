@@ -30,6 +30,11 @@ inline wchar_t *StrBuffer(HostStr handle) {
     return HostStrLock(handle, &size);
 }
 
+// Writes `count` characters of `text` into the buffer of a string just made,
+// and a terminator after them unless `terminate` is false (a text that fills
+// its buffer to the last byte: the host ends its strings itself).
+void StrWrite(HostStr handle, const wchar_t *text, size_t count, bool terminate = true);
+
 // A host string holding `count` characters of `text`, allocated as
 // 2 * count + 2 bytes with retry.
 HostStr StrFromChars(const wchar_t *text, size_t count);

@@ -16,14 +16,19 @@ void StrAllocRetry(HostStr *slot, int32_t bytes) {
     }
 }
 
-HostStr StrFromChars(const wchar_t *text, size_t count) {
-    HostStr handle = 0;
-    StrAllocRetry(&handle, static_cast<int32_t>(2 * count + 2));
+void StrWrite(HostStr handle, const wchar_t *text, size_t count, bool terminate) {
     if (wchar_t *buffer = StrBuffer(handle)) {
         if (count)
             std::memcpy(buffer, text, 2 * count);
-        buffer[count] = 0;
+        if (terminate)
+            buffer[count] = 0;
     }
+}
+
+HostStr StrFromChars(const wchar_t *text, size_t count) {
+    HostStr handle = 0;
+    StrAllocRetry(&handle, static_cast<int32_t>(2 * count + 2));
+    StrWrite(handle, text, count);
     return handle;
 }
 
@@ -36,8 +41,7 @@ HostStr ZelStrFromText(const wchar_t *text) {
     HostStr handle = 0;
     if (!HostStrAlloc(&handle, static_cast<int32_t>(2 * count + 2)))
         return 0;
-    if (wchar_t *buffer = zk::StrBuffer(handle))
-        std::memcpy(buffer, text, 2 * count + 2);
+    zk::StrWrite(handle, text, count);
     return handle;
 }
 

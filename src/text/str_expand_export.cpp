@@ -1,13 +1,12 @@
 // ZelStrExpand: a template expanded over a host array into one host string.
 #include <algorithm>
-#include <cstring>
 
 #include "text/expand.h"
 #include "text/host_array_elements.h"
 #include "text/win_text.h"
 
 HostStr ZKAPI ZelStrExpand(const wchar_t *templateText, HostArray array) {
-    try {
+    return zk::StringResult([&]() -> HostStr {
         if (!templateText)
             return ZelStrEmpty();
         zk::text::ArrayShape shape;
@@ -27,14 +26,8 @@ HostStr ZKAPI ZelStrExpand(const wchar_t *templateText, HostArray array) {
             return ZelStrEmpty();
         HostStr slot = 0;
         zk::StrAllocRetry(&slot, static_cast<int32_t>(2 * chars));
-        if (wchar_t *buffer = zk::StrBuffer(slot)) {
-            if (!expanded.empty())
-                std::memcpy(buffer, expanded.data(), 2 * expanded.size());
-            buffer[expanded.size()] = 0;
-        }
+        zk::StrWrite(slot, zk::text::WideText(expanded), expanded.size());
         HostStrSetLength(&slot, static_cast<int32_t>(needed));
         return slot;
-    } catch (...) {
-        return ZelStrEmpty();
-    }
+    });
 }

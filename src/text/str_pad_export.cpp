@@ -5,18 +5,16 @@
 #include "text/win_text.h"
 
 HostStr ZKAPI ZelStrPad(const wchar_t *text, int32_t width) {
-    try {
+    return zk::StringResult([&]() -> HostStr {
         const uint64_t bytes = 2 * static_cast<uint64_t>(width > 0 ? width : 0) + 2;
         if (!text || width <= 0 || !zk::text::HostSizeFits(bytes))
             return ZelStrEmpty();
         return zk::text::SizedResult(zk::text::Pad(zk::text::ArgText(text), static_cast<std::size_t>(width)), bytes);
-    } catch (...) {
-        return ZelStrEmpty();
-    }
+    });
 }
 
 HostStr ZKAPI ZelStrPadB(const wchar_t *text, int32_t width) {
-    try {
+    return zk::StringResult([&]() -> HostStr {
         if (!text || width <= 0)
             return ZelStrEmpty();
         zk::text::WinCodePage codePage;
@@ -24,7 +22,5 @@ HostStr ZKAPI ZelStrPadB(const wchar_t *text, int32_t width) {
         if (!padded)
             return ZelStrEmpty();
         return zk::text::SizedResult(padded->text, padded->allocBytes);
-    } catch (...) {
-        return ZelStrEmpty();
-    }
+    });
 }

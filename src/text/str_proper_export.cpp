@@ -17,14 +17,11 @@ public:
 } // namespace
 
 HostStr ZKAPI ZelStrProper(const wchar_t *text) {
-    try {
+    return zk::StringResult([&]() -> HostStr {
         if (!text)
             return ZelStrEmpty();
         WinCaseMap caseMap;
         const std::u16string proper = zk::text::Proper(zk::text::ArgText(text), caseMap);
         return zk::text::SizedResult(proper, 2 * static_cast<uint64_t>(proper.size()) + 2);
-    } catch (...) {
-        // The working copy could not be made.
-        return ZelStrEmpty();
-    }
+    });
 }

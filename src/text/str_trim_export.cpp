@@ -9,13 +9,11 @@ namespace {
 bool IsWhiteSpace(char16_t c) { return std::iswspace(static_cast<wint_t>(c)) != 0; }
 
 HostStr Trimmed(const wchar_t *text, std::u16string_view (*trim)(std::u16string_view, zk::text::SpaceTest)) noexcept {
-    try {
+    return zk::StringResult([&]() -> HostStr {
         if (!text)
             return ZelStrEmpty();
         return zk::text::TextResult(trim(zk::text::ArgText(text), IsWhiteSpace));
-    } catch (...) {
-        return ZelStrEmpty();
-    }
+    });
 }
 
 } // namespace

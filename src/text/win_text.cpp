@@ -1,7 +1,5 @@
 #include "text/win_text.h"
 
-#include <cstring>
-
 namespace zk::text {
 
 HostStr SizedResult(std::u16string_view text, uint64_t bytes) {
@@ -10,12 +8,7 @@ HostStr SizedResult(std::u16string_view text, uint64_t bytes) {
         return ZelStrEmpty();
     HostStr slot = 0;
     StrAllocRetry(&slot, static_cast<int32_t>(bytes));
-    if (wchar_t *buffer = StrBuffer(slot)) {
-        if (!text.empty())
-            std::memcpy(buffer, text.data(), 2 * text.size());
-        if (bytes >= textBytes + 2)
-            buffer[text.size()] = 0;
-    }
+    StrWrite(slot, WideText(text), text.size(), bytes >= textBytes + 2);
     return slot;
 }
 

@@ -5,7 +5,7 @@
 #include <cstdint>
 #include <string_view>
 
-#include "frame/host.h"
+#include "frame/guard.h"
 
 namespace zk::text {
 
@@ -13,6 +13,9 @@ namespace zk::text {
 inline std::u16string_view ArgText(const wchar_t *text) {
     return text ? std::u16string_view(reinterpret_cast<const char16_t *>(text)) : std::u16string_view();
 }
+
+// The core's text as the platform's wide characters.
+inline const wchar_t *WideText(std::u16string_view text) { return reinterpret_cast<const wchar_t *>(text.data()); }
 
 // Whether `bytes` can be asked of the host.
 inline bool HostSizeFits(uint64_t bytes) { return bytes <= static_cast<uint64_t>(INT32_MAX); }
