@@ -8,23 +8,30 @@ endfunction()
 
 # A DLL with the exact file name, exports from a .def written in the 32-bit
 # form "Name@N == Name": undecorated exports on both targets, stdcall inside
-# on i686. For x86_64 the decorations are dropped by a generated copy.
-function(zk_add_dll target def)
+# on i686. The .def is a head plus the entry lists in an optional folder of
+# parts, joined into the build tree; for x86_64 the decorations are dropped.
+function(zk_add_dll target head)
+  cmake_parse_arguments(ARG "" "PARTS" "" ${ARGN})
   add_library(${target} SHARED)
   set_target_properties(${target} PROPERTIES PREFIX "" OUTPUT_NAME ${target} IMPORT_PREFIX "lib")
-  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
-    set(out ${CMAKE_BINARY_DIR}/def/${target}.def)
-    add_custom_command(OUTPUT ${out}
-      COMMAND ${CMAKE_COMMAND} -DIN=${def} -DOUT=${out} -P ${CMAKE_SOURCE_DIR}/cmake/def64.cmake
-      DEPENDS ${def} ${CMAKE_SOURCE_DIR}/cmake/def64.cmake VERBATIM)
-    add_custom_target(${target}_def DEPENDS ${out})
-    add_dependencies(${target} ${target}_def)
-    set(use ${out})
-  else()
-    set(use ${def})
+  set(parts "")
+  if(ARG_PARTS)
+    file(GLOB parts CONFIGURE_DEPENDS ${ARG_PARTS}/*.def)
   endif()
-  target_link_options(${target} PRIVATE ${use})
-  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${use})
+  if(CMAKE_SIZEOF_VOID_P EQUAL 8)
+    set(strip 1)
+  else()
+    set(strip 0)
+  endif()
+  set(out ${CMAKE_BINARY_DIR}/def/${target}.def)
+  add_custom_command(OUTPUT ${out}
+    COMMAND ${CMAKE_COMMAND} -DHEAD=${head} -DPARTS=${ARG_PARTS} -DOUT=${out} -DSTRIP=${strip}
+            -P ${CMAKE_SOURCE_DIR}/cmake/def-join.cmake
+    DEPENDS ${head} ${parts} ${CMAKE_SOURCE_DIR}/cmake/def-join.cmake VERBATIM)
+  add_custom_target(${target}_def DEPENDS ${out})
+  add_dependencies(${target} ${target}_def)
+  target_link_options(${target} PRIVATE ${out})
+  set_property(TARGET ${target} APPEND PROPERTY LINK_DEPENDS ${out})
   zk_warnings(${target})
 endfunction()
 

@@ -62,6 +62,12 @@ uint32_t   ZKAPI ZelNumberHighByte(uint32_t value);
 uint8_t    ZKAPI ZelNumberLowByte(uint32_t value);
 uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 
+/* ---- the other areas, one header each ------------------------------------ */
+#include "zklib/array.h"
+#include "zklib/strtable.h"
+#include "zklib/files.h"
+#include "zklib/calendar.h"
+
 #ifdef __cplusplus
 }
 #endif

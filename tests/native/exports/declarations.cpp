@@ -1,6 +1,8 @@
 #include "declarations.h"
 
+#include <algorithm>
 #include <cctype>
+#include <filesystem>
 #include <fstream>
 #include <regex>
 #include <sstream>
@@ -54,13 +56,13 @@ std::vector<std::string> zkapiFunctions(const std::string &header) {
     return names;
 }
 
-std::vector<DefEntry> defEntries(const std::string &def) {
+std::vector<DefEntry> defEntries(const std::string &def, bool part) {
     static const std::regex entry(
         R"(^([A-Za-z_][A-Za-z0-9_@?$]*)(\s*==\s*([A-Za-z_][A-Za-z0-9_@?$]*))?(\s+.*)?$)");
     std::vector<DefEntry> entries;
     std::istringstream in(def);
     std::string raw;
-    bool inExports = false;
+    bool inExports = part;
     int number = 0;
     while (std::getline(in, raw)) {
         ++number;
@@ -111,6 +113,47 @@ std::optional<std::string> readText(const std::string &path) {
     std::ostringstream out;
     out << file.rdbuf();
     return out.str();
+}
+
+std::optional<std::string> readHeaderTree(const std::string &path) {
+    static const std::regex include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"]+)"[^\n]*$)re");
+    auto text = readText(path);
+    if (!text) {
+        return std::nullopt;
+    }
+    const std::filesystem::path dir = std::filesystem::path(path).parent_path();
+    std::istringstream in(*text);
+    std::string out, line;
+    while (std::getline(in, line)) {
+        std::smatch m;
+        if (std::regex_match(line, m, include) && std::filesystem::exists(dir / m[1].str())) {
+            auto inner = readHeaderTree((dir / m[1].str()).string());
+            if (!inner) {
+                return std::nullopt;
+            }
+            out += *inner;
+        } else {
+            out += line;
+        }
+        out += '\n';
+    }
+    return out;
+}
+
+std::vector<std::string> defFiles(const std::string &head, const std::string &partsDir) {
+    std::vector<std::string> files{head};
+    std::vector<std::string> parts;
+    std::error_code error;
+    if (!partsDir.empty() && std::filesystem::is_directory(partsDir, error)) {
+        for (const auto &entry : std::filesystem::directory_iterator(partsDir, error)) {
+            if (entry.path().extension() == ".def") {
+                parts.push_back(entry.path().string());
+            }
+        }
+    }
+    std::sort(parts.begin(), parts.end());
+    files.insert(files.end(), parts.begin(), parts.end());
+    return files;
 }
 
 } // namespace decl

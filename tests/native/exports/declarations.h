@@ -18,10 +18,20 @@ struct DefEntry {
     int line = 0;
 };
 
-// The EXPORTS entries of a .def text ("Name@N == Name" or "Name").
-std::vector<DefEntry> defEntries(const std::string &def);
+// The EXPORTS entries of a .def text ("Name@N == Name" or "Name"). A part
+// of a .def (an area's own list, joined to the head by the build) is all
+// entries, without the EXPORTS keyword.
+std::vector<DefEntry> defEntries(const std::string &def, bool part = false);
 
 // The whole text of a file, or nothing if it cannot be read.
 std::optional<std::string> readText(const std::string &path);
+
+// A header's text with its quoted includes of files beside it written in
+// place, as the compiler sees them.
+std::optional<std::string> readHeaderTree(const std::string &path);
+
+// The files that make up a .def: the head, then the parts in its folder of
+// parts (if given and present) in name order, as the build joins them.
+std::vector<std::string> defFiles(const std::string &head, const std::string &partsDir);
 
 } // namespace decl

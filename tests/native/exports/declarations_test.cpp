@@ -58,45 +58,70 @@ std::string source(const std::string &relative) {
 }
 
 Names readHeader(const std::string &relative) {
-    const auto text = decl::readText(source(relative));
+    const auto text = decl::readHeaderTree(source(relative));
     EXPECT_TRUE(text) << "cannot read " << source(relative);
     return text ? decl::zkapiFunctions(*text) : Names{};
 }
 
-std::vector<decl::DefEntry> readDef(const std::string &relative) {
-    const auto text = decl::readText(source(relative));
-    EXPECT_TRUE(text) << "cannot read " << source(relative);
-    return text ? decl::defEntries(*text) : std::vector<decl::DefEntry>{};
+// One .def file as the build joins it: its head and its parts.
+struct DefSource {
+    std::string head;
+    std::string parts; // empty: no parts
+};
+
+const DefSource kZklibDef{"res/ZKLIB.def", "res/exports"};
+const DefSource kZkhostDef{"host/win/zkhost.def", ""};
+
+struct NamedEntry {
+    std::string file;
+    decl::DefEntry entry;
+};
+
+std::vector<NamedEntry> readDef(const DefSource &def) {
+    std::vector<NamedEntry> out;
+    const auto files = decl::defFiles(source(def.head), def.parts.empty() ? "" : source(def.parts));
+    for (std::size_t i = 0; i < files.size(); ++i) {
+        const auto text = decl::readText(files[i]);
+        EXPECT_TRUE(text) << "cannot read " << files[i];
+        if (text) {
+            for (decl::DefEntry &e : decl::defEntries(*text, i > 0)) {
+                out.push_back({files[i], std::move(e)});
+            }
+        }
+    }
+    return out;
 }
 
 // Every entry of a .def is "Name@N == Name": stdcall inside on i686, the
-// plain name outside; each name once.
-void expectStdcallForm(const std::string &relative) {
+// plain name outside; each name once over the head and all parts.
+void expectStdcallForm(const DefSource &def) {
     static const std::regex decorated(R"(([A-Za-z_][A-Za-z0-9_]*)@([0-9]+))");
-    const auto entries = readDef(relative);
-    EXPECT_FALSE(entries.empty()) << relative << " exports nothing";
+    const auto entries = readDef(def);
+    EXPECT_FALSE(entries.empty()) << def.head << " exports nothing";
     std::set<std::string> seen;
-    for (const decl::DefEntry &e : entries) {
+    for (const NamedEntry &n : entries) {
+        const decl::DefEntry &e = n.entry;
         std::smatch m;
         EXPECT_TRUE(std::regex_match(e.internal, m, decorated) && m[1] == e.exported)
-            << relative << ":" << e.line << ": \"" << e.exported
+            << n.file << ":" << e.line << ": \"" << e.exported
             << "\" is not of the form Name@N == Name";
         EXPECT_TRUE(seen.insert(e.exported).second)
-            << relative << ":" << e.line << ": " << e.exported << " is listed twice";
+            << n.file << ":" << e.line << ": " << e.exported << " is listed twice";
     }
 }
 
 TEST(DefFiles, AreInTheStdcallForm) {
-    expectStdcallForm("res/ZKLIB.def");
-    expectStdcallForm("host/win/zkhost.def");
+    expectStdcallForm(kZklibDef);
+    expectStdcallForm(kZkhostDef);
 }
 
 TEST(DefFiles, ZklibDefNamesAreDeclaredInZklibH) {
     const Names names = readHeader("include/zklib.h");
     const std::set<std::string> declared(names.begin(), names.end());
-    for (const decl::DefEntry &e : readDef("res/ZKLIB.def")) {
+    for (const NamedEntry &n : readDef(kZklibDef)) {
+        const decl::DefEntry &e = n.entry;
         EXPECT_TRUE(declared.count(e.exported))
-            << "res/ZKLIB.def:" << e.line << ": " << e.exported
+            << n.file << ":" << e.line << ": " << e.exported
             << " is not declared ZKAPI in include/zklib.h";
     }
 }
@@ -106,9 +131,10 @@ TEST(DefFiles, ZkhostDefNamesAreDeclaredInTheHostHeaders) {
     const Names controls = readHeader("include/zkhostctl.h");
     std::set<std::string> declared(host.begin(), host.end());
     declared.insert(controls.begin(), controls.end());
-    for (const decl::DefEntry &e : readDef("host/win/zkhost.def")) {
+    for (const NamedEntry &n : readDef(kZkhostDef)) {
+        const decl::DefEntry &e = n.entry;
         EXPECT_TRUE(declared.count(e.exported))
-            << "host/win/zkhost.def:" << e.line << ": " << e.exported
+            << n.file << ":" << e.line << ": " << e.exported
             << " is declared ZKAPI in neither include/zkhost.h nor include/zkhostctl.h";
     }
 }

@@ -61,7 +61,7 @@ NameSet exportNames(const pe::Image &image) {
 
 NameSet sourceNames(const std::string &relative, bool header) {
     const std::string path = locations::sourceDir() + "/" + relative;
-    const auto text = decl::readText(path);
+    const auto text = header ? decl::readHeaderTree(path) : decl::readText(path);
     EXPECT_TRUE(text) << "cannot read " << path;
     NameSet out;
     if (text && header) {
