@@ -66,6 +66,8 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/array.h"
 #include "zklib/strtable.h"
 #include "zklib/files.h"
+#include "zklib/list.h"
+#include "zklib/picture.h"
 #include "zklib/calendar.h"
 
 #ifdef __cplusplus
