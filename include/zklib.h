@@ -68,6 +68,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/files.h"
 #include "zklib/list.h"
 #include "zklib/picture.h"
+#include "zklib/diag.h"
 #include "zklib/calendar.h"
 
 #ifdef __cplusplus
