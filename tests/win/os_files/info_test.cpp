@@ -1,0 +1,170 @@
+// Attributes, sizes, types and dates of files.
+#include "files_support.h"
+
+using namespace filestest;
+
+namespace {
+
+class FileInfo : public FolderTest {};
+
+TEST_F(FileInfo, AttributesReadAndChangedByPattern) {
+    const std::wstring a = Make(L"a.txt", "a"), b = Make(L"b.txt", "b");
+    const std::wstring d = Folder(L"d.txt");
+    EXPECT_EQ(0, ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(FILE_ATTRIBUTE_DIRECTORY, ZelFileGetAttribute(d.c_str()) & FILE_ATTRIBUTE_DIRECTORY);
+
+    // Folders that match count and change too.
+    EXPECT_EQ(3, ZelFileSetAttribute(At(L"*.txt").c_str(), FILE_ATTRIBUTE_READONLY, 1));
+    EXPECT_TRUE(ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
+    EXPECT_TRUE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_READONLY);
+    EXPECT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_READONLY, 0));
+    EXPECT_FALSE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_READONLY);
+    EXPECT_TRUE(ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
+
+    ASSERT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_HIDDEN, 1));
+    if (ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_HIDDEN) {
+        EXPECT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_HIDDEN, 0));
+        EXPECT_FALSE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_HIDDEN);
+    }
+    // The pattern's folder itself is not a match: "." and ".." are left alone.
+    EXPECT_EQ(3, ZelFileSetAttribute(At(L"*").c_str(), FILE_ATTRIBUTE_READONLY, 0));
+    EXPECT_FALSE(Attributes(dir_) & FILE_ATTRIBUTE_READONLY);
+}
+
+TEST_F(FileInfo, AttributeFailures) {
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetAttribute(nullptr));
+    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetAttribute(At(L"none").c_str()));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileSetAttribute(nullptr, FILE_ATTRIBUTE_READONLY, 1));
+    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND),
+              ZelFileSetAttribute(At(L"*.none").c_str(), FILE_ATTRIBUTE_READONLY, 1));
+}
+
+TEST_F(FileInfo, SizeIsTheLow32Bits) {
+    EXPECT_EQ(12345, ZelFileGetSize(Make(L"s.bin", SampleBytes(12345, 1)).c_str()));
+    EXPECT_EQ(0, ZelFileGetSize(Make(L"empty", "").c_str()));
+    ASSERT_TRUE(MakeSparse(At(L"big.bin"), (1ull << 32) + 5));
+    EXPECT_EQ(5, ZelFileGetSize(At(L"big.bin").c_str()));
+    ASSERT_TRUE(MakeSparse(At(L"half.bin"), 0x80000010ull));
+    EXPECT_EQ(static_cast<int32_t>(0x80000010u), ZelFileGetSize(At(L"half.bin").c_str()));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(At(L"*.bin").c_str()));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(At(L"s.bi?").c_str()));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(nullptr));
+    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetSize(At(L"none").c_str()));
+}
+
+// The "Programs" entry of the system profile, set for one test and put back.
+class ProgramsEntry {
+public:
+    explicit ProgramsEntry(const wchar_t *value) {
+        GetProfileStringW(L"Windows", L"Programs", L"\x1", saved_, 255);
+        WriteProfileStringW(L"Windows", L"Programs", value);
+    }
+    ~ProgramsEntry() { WriteProfileStringW(L"Windows", L"Programs", saved_[0] == 1 ? nullptr : saved_); }
+
+private:
+    wchar_t saved_[256] = {};
+};
+
+// An extension opened by the system's text editor, for one test.
+class Association {
+public:
+    explicit Association(std::wstring extension) : extension_(std::move(extension)) {
+        HKEY key = nullptr;
+        if (RegCreateKeyExW(HKEY_CLASSES_ROOT, extension_.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
+                            nullptr) == ERROR_SUCCESS) {
+            RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE *>(kClass), sizeof kClass);
+            RegCloseKey(key);
+        }
+        const std::wstring command = std::wstring(kClass) + L"\\shell\\open\\command";
+        if (RegCreateKeyExW(HKEY_CLASSES_ROOT, command.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
+                            nullptr) == ERROR_SUCCESS) {
+            static const wchar_t open[] = L"notepad.exe \"%1\"";
+            RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE *>(open), sizeof open);
+            RegCloseKey(key);
+        }
+    }
+    ~Association() {
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, extension_.c_str());
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, kClass);
+    }
+
+private:
+    static constexpr wchar_t kClass[] = L"ZkTest.Associated";
+    std::wstring extension_;
+};
+
+TEST_F(FileInfo, TypeOfFiles) {
+    const ProgramsEntry programs(L"com exe bat pif zkp");
+    EXPECT_EQ(ZEL_FILETYPE_PROGRAM, ZelFileGetType(Make(L"tool.zkp", "p").c_str()));
+    EXPECT_EQ(ZEL_FILETYPE_PROGRAM, ZelFileGetType(Make(L"tool.ZK", "p").c_str())); // "ZK" occurs in "ZKP"
+    EXPECT_EQ(ZEL_FILETYPE_OTHER, ZelFileGetType(Make(L"data.zzq", "d").c_str()));
+    // The first dot counts: the extension of this one is "b.zkp", no
+    // program. (The platform, which reads the last dot, runs it as one.)
+    EXPECT_EQ(ZEL_FILETYPE_ASSOCIATED, ZelFileGetType(Make(L"a.b.zkp", "d").c_str()));
+    {
+        const Association association(L".zkassoc");
+        EXPECT_EQ(ZEL_FILETYPE_ASSOCIATED, ZelFileGetType(Make(L"notes.zkassoc", "n").c_str()));
+    }
+    EXPECT_EQ(ZEL_FILETYPE_OTHER, ZelFileGetType(At(L"notes.zkassoc").c_str()));
+    const std::wstring hidden = Make(L"tool2.zkp", "h");
+    ASSERT_TRUE(SetFileAttributesW(hidden.c_str(), FILE_ATTRIBUTE_SYSTEM));
+    if (Attributes(hidden) & FILE_ATTRIBUTE_SYSTEM) {
+        EXPECT_EQ(ZEL_FILETYPE_HIDDEN, ZelFileGetType(hidden.c_str()));
+    }
+    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetType(At(L"none.txt").c_str()));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetType(nullptr));
+}
+
+HostDateTime Date(int year, int month, int day, int hour, int minute, int second) {
+    HostDateTime d{};
+    HostDateConstruct(&d, year, month, day, hour, minute, second);
+    return d;
+}
+
+void ExpectLocal(const SYSTEMTIME &t, int year, int month, int day, int hour, int minute, int second) {
+    EXPECT_EQ(year, t.wYear);
+    EXPECT_EQ(month, t.wMonth);
+    EXPECT_EQ(day, t.wDay);
+    EXPECT_EQ(hour, t.wHour);
+    EXPECT_EQ(minute, t.wMinute);
+    EXPECT_EQ(second, t.wSecond);
+}
+
+TEST_F(FileInfo, DateTimeToTwoSecondsOnEveryFile) {
+    const std::wstring a = Make(L"a.log", "a"), b = Make(L"b.log", "b");
+    Folder(L"c.log");
+    EXPECT_EQ(2, ZelFileSetDateTime(At(L"*.log").c_str(), Date(2021, 7, 4, 10, 20, 31)));
+    ExpectLocal(WriteTimeLocal(a), 2021, 7, 4, 10, 20, 30);
+    ExpectLocal(WriteTimeLocal(b), 2021, 7, 4, 10, 20, 30);
+    WIN32_FILE_ATTRIBUTE_DATA data{};
+    ASSERT_TRUE(GetFileAttributesExW(a.c_str(), GetFileExInfoStandard, &data));
+    EXPECT_EQ(0, CompareFileTime(&data.ftLastWriteTime, &data.ftLastAccessTime));
+
+    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(1980, 1, 1, 0, 0, 0)));
+    ExpectLocal(WriteTimeLocal(a), 1980, 1, 1, 0, 0, 0);
+    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(2107, 12, 31, 23, 59, 59)));
+    ExpectLocal(WriteTimeLocal(a), 2107, 12, 31, 23, 59, 58);
+    // Years before 1980 are not representable and come out 128 years late.
+    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(1970, 6, 15, 12, 0, 0)));
+    ExpectLocal(WriteTimeLocal(a), 2098, 6, 15, 12, 0, 0);
+}
+
+TEST_F(FileInfo, DateTimeFailures) {
+    const HostDateTime date = Date(2020, 1, 2, 3, 4, 6);
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileSetDateTime(nullptr, date));
+    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileSetDateTime(At(L"*.none").c_str(), date));
+    const std::wstring busy = Make(L"busy.log", "r");
+    {
+        const Held held(busy);
+        ASSERT_TRUE(held.Holds());
+        EXPECT_EQ(-static_cast<int32_t>(ERROR_SHARING_VIOLATION), ZelFileSetDateTime(busy.c_str(), date));
+    }
+    // A null date has month and day 0, which the platform refuses.
+    const std::wstring a = Make(L"a.log", "a");
+    const FILETIME before = WriteTime(a);
+    EXPECT_LT(ZelFileSetDateTime(a.c_str(), HostDateTime{}), 0);
+    const FILETIME after = WriteTime(a);
+    EXPECT_EQ(0, CompareFileTime(&before, &after));
+}
+
+} // namespace
