@@ -60,8 +60,12 @@ void HostArrayData::clear() {
 }
 
 bool HostArrayData::resize(int64_t low, int64_t high) {
+    // Any high bound below the low one empties the array: the library's
+    // array functions empty with (low, -1) whatever the low bound is.
+    if (high < low)
+        high = low - 1;
     int64_t wanted = high - low + 1;
-    if (low < INT32_MIN || high > INT32_MAX || wanted < 0 || wanted > kMaxArrayElements)
+    if (low < INT32_MIN || high > INT32_MAX || wanted > kMaxArrayElements)
         return false;
     const HostNumber nullRecord{};
     int64_t oldLow = low_, oldHigh = int64_t(low_) + count() - 1;

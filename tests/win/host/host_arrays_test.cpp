@@ -93,9 +93,10 @@ TEST_F(HostArrays, SetBoundsKeepsElementsByIndex) {
     ASSERT_EQ(HostArraySetBounds(a, 100, 101), 1) << "no overlap: all new";
     EXPECT_EQ(HostArrayGetBoolean(a, &v, 100), 1);
     EXPECT_EQ(v, 0u);
-    EXPECT_EQ(HostArraySetBounds(a, 0, -2), 0) << "high below low - 1";
     EXPECT_EQ(HostArraySetBounds(a, 0, 0x7FFFFFFF), 0) << "far too many";
     EXPECT_EQ(BoundsOf(a), (Bounds{2, 100, 101}));
+    ASSERT_EQ(HostArraySetBounds(a, 3, -1), 1) << "high below low - 1 empties";
+    EXPECT_EQ(BoundsOf(a), (Bounds{0, 3, 2})) << "the low bound stays";
     ASSERT_EQ(HostArraySetBounds(a, 0, -1), 1);
     EXPECT_EQ(HostArrayIsEmpty(a), 1);
     HostArrayDestroy(a);
