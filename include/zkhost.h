@@ -188,7 +188,13 @@ int32_t ZKAPI HostTblColumnGetFlag(HWND column, uint32_t mask);
 int32_t ZKAPI HostTblColumnSetFlag(HWND column, uint32_t mask, int32_t value);
 int32_t ZKAPI HostTblColumnSetColor(HWND column, COLORREF colour, int32_t reserved);
 
-/* ---- designer outline --------------------------------------------------- */
+/* ---- designer outline --------------------------------------------------- *
+ * A design-time window belongs to an outline and an item. Items form a tree
+ * (item 0 stands for the outline's top level); each has a type, a flag,
+ * attributes (texts by attribute number and index) and named properties
+ * (bytes). Texts and bytes come back as host strings that are borrowed, as
+ * those read from arrays: the host keeps each until its value changes or
+ * its item goes, and the slot is written without dropping what it held. */
 HostOutline ZKAPI HostDesignGetOutline(HWND window);
 HostItem ZKAPI HostDesignGetItem(HWND window);
 HWND     ZKAPI HostDesignGetItemWindow(HostOutline outline, HostItem item);
@@ -196,16 +202,25 @@ HostItem ZKAPI HostDesignGetParentItem(HostOutline outline, HostItem item);
 int32_t  ZKAPI HostDesignGetItemType(HostOutline outline, HostItem item);
 HostItem ZKAPI HostDesignFirstChild(HostOutline outline, HostItem item);
 HostItem ZKAPI HostDesignNextSibling(HostOutline outline, HostItem item);
-int32_t  ZKAPI HostDesignItemQueryFlag(HostOutline outline, HostItem item, uint32_t flag);
+/* The item's flag: 1 when the designer wants HostDesignItemUpdate after a change. */
+int32_t  ZKAPI HostDesignItemQueryFlag(HostOutline outline, HostItem item);
+/* Called as (outline, item, 1, 0, 0); 0 for an unknown item. */
 int32_t  ZKAPI HostDesignItemUpdate(HostOutline outline, HostItem item, int32_t a, int32_t b, int32_t c);
+/* Called as (outline, item, flag, 0, 0); 0 for an unknown item. */
 int32_t  ZKAPI HostDesignNotifyItem(HostOutline outline, HostItem item, int32_t flag, int32_t b, int32_t c);
+/* 1 and the text in *value, or 0 (the slot untouched) when the item has no such attribute. */
 int32_t  ZKAPI HostDesignGetAttribute(HostOutline outline, HostItem item, int32_t attribute,
                                       int32_t index, HostStr *value);
+/* Sets the text of an attribute at an index (the library passes 1); 1 or 0. */
 int32_t  ZKAPI HostDesignSetAttribute(HostOutline outline, HostItem item, int32_t attribute,
-                                      int32_t index, int32_t value);
+                                      const wchar_t *text, int32_t index);
+/* Removes the attribute at every index; 1, or 0 for an unknown item. */
 int32_t  ZKAPI HostDesignDeleteAttribute(HostOutline outline, HostItem item, int32_t attribute);
+/* Stores `bytes` bytes (at least 1) under a name: 1, or 0. */
 int32_t  ZKAPI HostPropSet(HostOutline outline, HostItem item, const wchar_t *name,
                            const void *data, int32_t bytes);
+/* Nonzero and, in *data, a string whose locked size is one less than the
+ * count stored, holding that many of the bytes; 0 when there is no such property. */
 int32_t  ZKAPI HostPropGet(HostOutline outline, HostItem item, const wchar_t *name, HostStr *data);
 
 /* ---- multi-byte helpers -------------------------------------------------- */
@@ -215,6 +230,9 @@ int32_t ZKAPI HostByteFree(void *block);
 int32_t ZKAPI HostMbcsCopy(char *destination, const char *source, int32_t limit);
 
 /* ---- named host functions ------------------------------------------------ */
+/* Nonzero when the window is made on its own under a parent that exists,
+ * so a control may announce itself at once; 0 while the host is still
+ * building the form around it. */
 int32_t ZKAPI OrlParentWindowOnly(HWND window);
 HWND    ZKAPI OrlGetDlgItemEx(HWND window, int32_t id);
 

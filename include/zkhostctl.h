@@ -6,6 +6,7 @@
 
 #include <windows.h>
 #include "zkrecord.h"
+#include "zkhost.h" /* HostOutline, HostItem */
 
 #ifndef ZKAPI
 #define ZKAPI __stdcall
@@ -42,6 +43,28 @@ int32_t ZKAPI ZkHostArraySetDimensions(HostArray array, int32_t count);
 int32_t ZKAPI ZkHostResourceAdd(const wchar_t *name, const void *bytes, int32_t size);
 /* HostWaitCursor calls that are currently on. */
 int32_t ZKAPI ZkHostWaitCursorDepth(void);
+
+/* The designer outline: outlines, items, bound windows, and what the
+ * library asked of them. */
+/* A new empty outline; 0 when none can be had. */
+HostOutline ZKAPI ZkHostDesignNewOutline(void);
+/* Ends an outline with its items; their windows are unbound. 1 or 0. */
+int32_t  ZKAPI ZkHostDesignFreeOutline(HostOutline outline);
+/* A new last child of parent (0: top level) with a type; 0 on failure. */
+HostItem ZKAPI ZkHostDesignAddItem(HostOutline outline, HostItem parent, int32_t type);
+/* Binds a window to the item (null unbinds the item's window). 1 or 0. */
+int32_t  ZKAPI ZkHostDesignBindWindow(HostOutline outline, HostItem item, HWND window);
+/* The flag HostDesignItemQueryFlag answers for the item. 1 or 0. */
+int32_t  ZKAPI ZkHostDesignSetItemFlag(HostOutline outline, HostItem item, int32_t flag);
+/* Calls of HostDesignItemUpdate on the item so far; -1 for an unknown item. */
+int32_t  ZKAPI ZkHostDesignUpdates(HostOutline outline, HostItem item);
+/* Calls of HostDesignNotifyItem on the item so far, and the flag of the
+ * last in *lastFlag when given; -1 for an unknown item. */
+int32_t  ZKAPI ZkHostDesignNotifications(HostOutline outline, HostItem item, int32_t *lastFlag);
+/* Items alive in all outlines. */
+int32_t  ZKAPI ZkHostDesignLiveItems(void);
+/* What OrlParentWindowOnly answers for the children of `parent` (0 until set). */
+void     ZKAPI ZkHostSetParentWindowOnly(HWND parent, int32_t answer);
 
 #ifdef __cplusplus
 }

@@ -163,6 +163,21 @@ TEST_F(HostWindows, TheChildWalkFiltersDirectChildrenByTypeInZOrder) {
     EXPECT_EQ(HostWinNextChild(form, 0x7FFFFFFF), nullptr) << "a form is no child";
 }
 
+TEST_F(HostWindows, ControlsByIdAreFoundAmongDirectChildrenFirstThenDeeper) {
+    zkt::TestWindow form;
+    HWND group = form.addChild(L"Static", 6, {0, 0, 100, 100}, SS_LEFT);
+    HWND nested = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, group,
+                                  reinterpret_cast<HMENU>(7), GetModuleHandleW(nullptr), nullptr);
+    HWND shadow = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 30, 50, 20, group,
+                                  reinterpret_cast<HMENU>(6), GetModuleHandleW(nullptr), nullptr);
+    ASSERT_NE(nested, nullptr);
+    ASSERT_NE(shadow, nullptr);
+    EXPECT_EQ(OrlGetDlgItemEx(form, 7), nested) << "a grandchild of another owner";
+    EXPECT_EQ(OrlGetDlgItemEx(form, 6), group) << "the direct child before a deeper one";
+    EXPECT_EQ(OrlGetDlgItemEx(form, 99), nullptr);
+    EXPECT_EQ(OrlGetDlgItemEx(nullptr, 6), nullptr);
+}
+
 TEST_F(HostWindows, CentringOnTheParentTheOwnerOrTheWorkArea) {
     zkt::TestWindow form(320, 240);
     HWND child = form.addChild(L"Static", 1, {0, 0, 100, 50}, SS_LEFT);

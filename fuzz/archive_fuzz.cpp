@@ -1,0 +1,167 @@
+// Bytes of any shape into the archive reader and every block reader: the
+// generic block, the spin record, texts, counts, tagged objects and object
+// arrays. Beyond not crashing, nothing but the archive's own exceptions may
+// come out, and whatever was read whole must come back through its writer.
+#include <cstddef>
+#include <cstdint>
+#include <cstring>
+#include <string>
+
+#include "designer/archive.h"
+#include "designer/block_io.h"
+#include "designer/obarray.h"
+#include "designer/prop_generic.h"
+#include "designer/spin_block.h"
+
+namespace {
+
+void check(bool condition) {
+    if (!condition)
+        __builtin_trap();
+}
+
+// Two element classes, as palette colours and menu entries are built.
+class FuzzColour : public zk::CObject {
+    ZK_DECLARE_SERIAL(FuzzColour)
+public:
+    int32_t colour = 0;
+    int32_t flag = 0;
+    void Serialize(zk::CArchive &ar) override {
+        if (ar.IsStoring()) {
+            ar.WriteU32(1);
+            ar.WriteI32(colour);
+            ar.WriteFlag(flag);
+        } else if (ar.ReadU32() != 0) {
+            colour = ar.ReadI32();
+            flag = ar.ReadFlag();
+        }
+    }
+};
+ZK_IMPLEMENT_SERIAL(FuzzColour)
+
+class FuzzMenu : public zk::CObject {
+    ZK_DECLARE_SERIAL(FuzzMenu)
+public:
+    std::u16string text;
+    void Serialize(zk::CArchive &ar) override {
+        if (ar.IsStoring())
+            ar.WriteString(text);
+        else
+            text = ar.ReadString();
+    }
+};
+ZK_IMPLEMENT_SERIAL(FuzzMenu)
+
+// A block shaped like the richer ones: the generic part, a text, two arrays.
+struct FuzzBlock {
+    zk::SPropGeneric generic;
+    std::u16string text;
+    zk::ObArray<FuzzColour> colours;
+    zk::ObArray<FuzzMenu> menus;
+    void Serialize(zk::CArchive &ar) {
+        generic.Serialize(ar);
+        if (ar.IsStoring())
+            ar.WriteString(text);
+        else
+            text = ar.ReadString();
+        colours.Serialize(ar);
+        menus.Serialize(ar);
+    }
+};
+
+bool SameGeneric(const zk::SPropGeneric &a, const zk::SPropGeneric &b) {
+    return a.style1 == b.style1 && a.style2 == b.style2 && a.style3 == b.style3 && a.style4 == b.style4 &&
+           a.style5 == b.style5 && a.style6 == b.style6;
+}
+
+bool SameBlock(const FuzzBlock &a, const FuzzBlock &b) {
+    if (!SameGeneric(a.generic, b.generic) || a.text != b.text || a.colours.size() != b.colours.size() ||
+        a.menus.size() != b.menus.size())
+        return false;
+    for (size_t i = 0; i < a.colours.size(); ++i) {
+        const FuzzColour *x = a.colours.at(i), *y = b.colours.at(i);
+        if (!x != !y || (x && (x->colour != y->colour || x->flag != y->flag)))
+            return false;
+    }
+    for (size_t i = 0; i < a.menus.size(); ++i) {
+        const FuzzMenu *x = a.menus.at(i), *y = b.menus.at(i);
+        if (!x != !y || (x && x->text != y->text))
+            return false;
+    }
+    return true;
+}
+
+template <class Block>
+void RoundTrip(const Block &read, bool (*same)(const Block &, const Block &)) {
+    zk::CMemFile file;
+    zk::StoreBlock(file, const_cast<Block &>(read));
+    file.SeekToBegin();
+    Block back;
+    check(zk::LoadBlock(file, back));
+    check(file.Remaining() == 0);
+    check(same(read, back));
+}
+
+void Generic(const uint8_t *data, size_t size) {
+    zk::SPropGeneric block;
+    if (zk::LoadBlockBytes(data, size, block))
+        RoundTrip<zk::SPropGeneric>(block, &SameGeneric);
+    for (int32_t style : {block.style1, block.style2, block.style3, block.style4, block.style5, block.style6})
+        check(style >= 0 && style <= 255);
+}
+
+void Spin(const uint8_t *data, size_t size) {
+    zk::SpinBlock block;
+    const bool copied = zk::SpinBlockApply(data, static_cast<int64_t>(size), block);
+    check(copied == (size == 17));
+    check((static_cast<uint32_t>(block.decimalAdjust) >> 24) == 0);
+    if (copied) {
+        const auto image = zk::SpinBlockImage(block);
+        check(std::memcmp(image.data(), data, zk::kSpinCopiedBytes) == 0);
+    }
+}
+
+void Rich(const uint8_t *data, size_t size) {
+    FuzzBlock block;
+    if (zk::LoadBlockBytes(data, size, block))
+        RoundTrip<FuzzBlock>(block, &SameBlock);
+}
+
+// Single reads from the start: each either gives a value or an ArchiveException.
+void Pieces(const uint8_t *data, size_t size) {
+    zk::CMemFile file;
+    file.Write(data, size);
+    for (int piece = 0; piece < 4; ++piece) {
+        file.SeekToBegin();
+        zk::CArchive ar(file, zk::CArchive::load);
+        try {
+            switch (piece) {
+            case 0:
+                (void)ar.ReadString();
+                break;
+            case 1:
+                (void)ar.ReadCount();
+                break;
+            case 2:
+                while (ar.Remaining())
+                    (void)ar.ReadObjectAs<FuzzColour>();
+                break;
+            default:
+                while (ar.Remaining())
+                    (void)ar.ReadObjectAs<FuzzMenu>();
+                break;
+            }
+        } catch (const zk::ArchiveException &) {
+        }
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
+    Generic(data, size);
+    Spin(data, size);
+    Rich(data, size);
+    Pieces(data, size);
+    return 0;
+}
