@@ -1,0 +1,136 @@
+// The month grid against the C++ library's calendar for every month from
+// 1900 to 2100 and every week start, and the display and week-start effects.
+#include <gtest/gtest.h>
+
+#include "calendar_fakes.h"
+
+namespace {
+
+using caltest::Days;
+using caltest::Parts;
+using caltest::Shown;
+using zk::cal::CCalendar;
+using zk::cal::CDateTime;
+
+TEST(Cells, EveryMonthOfTwoCenturiesForEveryWeekStart) {
+    for (int weekStart = 1; weekStart <= 7; ++weekStart) {
+        CCalendar cal;
+        cal.SetWeekStart(weekStart);
+        for (int year = 1900; year <= 2100; ++year) {
+            for (int month = 1; month <= 12; ++month) {
+                cal.SetDisplayMonth(year, month, 0);
+                const auto first = Days(year, month, 1);
+                const int firstCell = (caltest::Weekday(first) - weekStart + 7) % 7;
+                ASSERT_EQ(cal.FirstCell(), firstCell) << year << "-" << month << " start " << weekStart;
+                ASSERT_EQ(cal.LastCell(), firstCell + caltest::MonthLength(year, month) - 1);
+                for (int cell = 0; cell < zk::cal::kCellCount; ++cell) {
+                    const auto day = first + std::chrono::days(cell - firstCell);
+                    const CDateTime date = cal.CellToDate(cell);
+                    ASSERT_EQ(Parts(date), Parts(day)) << "cell " << cell << " of " << year << "-" << month;
+                    ASSERT_EQ(cal.DateToCell(date), cell);
+                    ASSERT_EQ(cal.ColumnWeekday(cell % 7), caltest::Weekday(day));
+                }
+            }
+        }
+    }
+}
+
+TEST(Cells, KnownMonths) {
+    CCalendar cal;
+    cal.SetDisplayMonth(2023, 2, 0); // begins on a Wednesday
+    EXPECT_EQ(cal.FirstCell(), 3);
+    EXPECT_EQ(cal.LastCell(), 30);
+    cal.SetDisplayMonth(2023, 1, 0); // begins on a Sunday
+    EXPECT_EQ(cal.FirstCell(), 0);
+    EXPECT_EQ(cal.LastCell(), 30);
+    cal.SetDisplayMonth(2022, 12, 0); // 31 days from a Thursday
+    EXPECT_EQ(cal.FirstCell(), 4);
+    CCalendar monday;
+    monday.SetWeekStart(2);
+    monday.SetDisplayMonth(2024, 3, 0); // begins on a Friday, the fifth column from Monday
+    EXPECT_EQ(monday.FirstCell(), 4);
+    CCalendar saturday;
+    saturday.SetWeekStart(7);
+    saturday.SetDisplayMonth(2024, 3, 0); // 31 days from the last column
+    EXPECT_EQ(saturday.FirstCell(), 6);
+    EXPECT_EQ(saturday.LastCell(), 36);
+    EXPECT_EQ(saturday.ColumnWeekday(0), 7);
+    EXPECT_EQ(saturday.ColumnWeekday(1), 1) << "8 wraps to 1";
+}
+
+TEST(Cells, WithoutShowExtraOnlyTheMonthsCellsHaveDates) {
+    Shown s(2023, 2, false);
+    s.cal.SetStyle(CALS_ShowExtra, 0);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 2, 1)), 3);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 2, 28)), 30);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 1, 31)), -1);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 3, 1)), -1);
+    s.cal.SetStyle(CALS_ShowExtra, 2);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 3, 1)), -1) << "the range widens at 1 exactly";
+    s.cal.SetStyle(CALS_ShowExtra, 1);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 1, 29)), 0);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 3, 11)), 41);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 1, 28)), -1);
+    EXPECT_EQ(s.cal.DateToCell(CDateTime(2023, 3, 12)), -1);
+    EXPECT_EQ(s.cal.IsExtraCell(2), 1);
+    EXPECT_EQ(s.cal.IsExtraCell(3), 0);
+    EXPECT_EQ(s.cal.IsExtraCell(31), 1);
+    EXPECT_EQ(s.cal.IsExtraCell(31, 0, 35), 0) << "a range of the caller's";
+    EXPECT_EQ(s.cal.IsExtraCell(2, -1, 35), 1) << "-1 takes both ends from the object";
+}
+
+TEST(Cells, NoGridBeforeTheFirstMonth) {
+    CCalendar cal;
+    EXPECT_EQ(cal.DateToCell(CDateTime(2024, 1, 1)), -1);
+    EXPECT_TRUE(cal.CellToDate(10).IsNull());
+    EXPECT_EQ(cal.FocusCell(), -1);
+    EXPECT_EQ(cal.WeekStart(), 1);
+}
+
+TEST(DisplayMonth, TheSameMonthChangesNothing) {
+    Shown s(2024, 3);
+    s.cal.SetFocusCell(20, 0);
+    s.window.Take();
+    s.cal.SetDisplayMonth(2024, 3, 1);
+    EXPECT_EQ(s.cal.FocusCell(), 20);
+    EXPECT_TRUE(s.window.events.empty());
+}
+
+TEST(DisplayMonth, AnotherMonthResetsTheFocusCellAndTellsTheWindow) {
+    Shown s(2024, 3);
+    s.cal.SetFocusCell(20, 0);
+    s.window.Take();
+    s.cal.SetDisplayMonth(2024, 4, 1);
+    EXPECT_EQ(s.cal.FocusCell(), -1);
+    EXPECT_EQ(s.cal.FirstCell(), 1);
+    EXPECT_EQ(s.window.Take(), (std::vector<std::string>{"inv caption", "inv grid", "notify 3"}));
+    s.cal.SetDisplayMonth(2024, 5, 0);
+    EXPECT_EQ(s.window.Take(), (std::vector<std::string>{"notify 3"})) << "redraw 0 still notifies";
+    s.window.created = false;
+    s.cal.SetDisplayMonth(2024, 6, 1);
+    EXPECT_TRUE(s.window.events.empty());
+    EXPECT_EQ(s.cal.FirstCell(), 6);
+}
+
+TEST(WeekStart, ACreatedControlRecalculatesAndRedraws) {
+    Shown s(2024, 3);
+    s.cal.SetFocusCell(19, 0);
+    s.window.Take();
+    EXPECT_EQ(s.cal.SetWeekStart(2), 1);
+    EXPECT_EQ(s.cal.FirstCell(), 4);
+    EXPECT_EQ(s.cal.LastCell(), 34);
+    EXPECT_EQ(s.cal.FocusCell(), 19) << "the focus cell keeps its number";
+    EXPECT_EQ(s.window.Take(), (std::vector<std::string>{"redraw"}));
+    EXPECT_EQ(s.cal.SetWeekStart(3), 2);
+}
+
+TEST(WeekStart, WithoutAWindowTheCellsWaitForTheNextMonth) {
+    Shown s(2024, 3, false);
+    EXPECT_EQ(s.cal.SetWeekStart(2), 1);
+    EXPECT_EQ(s.cal.FirstCell(), 5) << "as for a Sunday start";
+    EXPECT_EQ(s.cal.ColumnWeekday(0), 2);
+    s.cal.SetDisplayMonth(2024, 4, 0);
+    EXPECT_EQ(s.cal.FirstCell(), 0);
+}
+
+} // namespace
