@@ -68,7 +68,9 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/files.h"
 #include "zklib/list.h"
 #include "zklib/picture.h"
+#include "zklib/listpaint.h"
 #include "zklib/diag.h"
+#include "zklib/designer.h"
 #include "zklib/calendar.h"
 
 #ifdef __cplusplus

@@ -1,7 +1,8 @@
 #!/usr/bin/env python3
 """Turns the library's pixel-text art (res/art/*.txt) into the binaries that
 the resource script embeds: a 24-bit .bmp for a one-image "bmp" file, an
-.ico of 32-bit BGRA images with AND masks for an "ico" file.
+.ico of 32-bit BGRA images with AND masks for an "ico" file, and a .cur of
+the same images with a hot spot for a "cur" file.
 
 Usage:
   art2bmp.py [--out DIR] FILE.txt...   write FILE.bmp / FILE.ico (beside the
@@ -12,9 +13,10 @@ Usage:
 Source format (one file per resource, named after it):
 
   # a comment (only before or between images, never inside the rows)
-  bmp 24 24              kind and size of an image: "bmp" or "ico", W H
+  bmp 24 24              kind and size of an image: "bmp" or "ico", W H;
+                         "cur W H X Y" for a cursor with its hot spot at X, Y
   . = C0C0C0             palette: one character, "=", RRGGBB or "none"
-  K = 000000               ("none" is a transparent pixel, icons only)
+  K = 000000               ("none" is a transparent pixel, icons and cursors only)
   rows                   then exactly H rows of exactly W characters
   ........................
   ...
@@ -36,8 +38,9 @@ class ArtError(Exception):
 
 
 class Image:
-    def __init__(self, kind, width, height, palette, rows):
+    def __init__(self, kind, width, height, palette, rows, hotspot=(0, 0)):
         self.kind = kind
+        self.hotspot = hotspot  # cursors only
         self.width = width
         self.height = height
         self.palette = palette  # char -> (r, g, b) or None
@@ -64,17 +67,20 @@ def parse(text, name="<art>"):
             i += 1
             continue
         head = line.split()
-        if len(head) != 3 or head[0] not in ("bmp", "ico"):
-            fail(i, "expected an image header 'bmp W H' or 'ico W H'")
+        if not ((len(head) == 3 and head[0] in ("bmp", "ico")) or (len(head) == 5 and head[0] == "cur")):
+            fail(i, "expected an image header 'bmp W H', 'ico W H' or 'cur W H X Y'")
         if kind is not None and head[0] != kind:
             fail(i, "a file holds images of one kind only")
         kind = head[0]
         try:
             width, height = int(head[1]), int(head[2])
+            hotspot = (int(head[3]), int(head[4])) if kind == "cur" else (0, 0)
         except ValueError:
-            fail(i, "width and height must be numbers")
+            fail(i, "width, height and hot spot must be numbers")
         if not (1 <= width <= 256 and 1 <= height <= 256):
             fail(i, "width and height must lie in 1..256")
+        if not (0 <= hotspot[0] < width and 0 <= hotspot[1] < height):
+            fail(i, "the hot spot must lie inside the image")
         i += 1
         palette = dict(palette)
         while True:
@@ -91,8 +97,8 @@ def parse(text, name="<art>"):
                 fail(i - 1, "expected a palette entry 'c = RRGGBB'")
             value = parts[2]
             if value == "none":
-                if kind != "ico":
-                    fail(i - 1, "'none' (transparent) is for icons only")
+                if kind == "bmp":
+                    fail(i - 1, "'none' (transparent) is for icons only (and cursors)")
                 palette[parts[0]] = None
                 continue
             if len(value) != 6:
@@ -114,7 +120,7 @@ def parse(text, name="<art>"):
                     fail(i, "character %r is not in the palette" % ch)
             rows.append(row)
             i += 1
-        images.append(Image(kind, width, height, palette, rows))
+        images.append(Image(kind, width, height, palette, rows, hotspot))
     if not images:
         raise ArtError("%s: no image" % name)
     if kind == "bmp" and len(images) != 1:
@@ -161,14 +167,16 @@ def ico_image_bytes(image):
     return info + bytes(xor) + bytes(mask)
 
 
-def ico_bytes(images):
-    """An .ico file: ICONDIR, one entry per image, then the images in order."""
+def ico_bytes(images, cursor=False):
+    """An .ico file: ICONDIR, one entry per image, then the images in order.
+    A .cur file has type 2 and the hot spot where an icon has planes and bits."""
     bodies = [ico_image_bytes(image) for image in images]
-    out = bytearray(struct.pack("<HHH", 0, 1, len(images)))
+    out = bytearray(struct.pack("<HHH", 0, 2 if cursor else 1, len(images)))
     offset = 6 + 16 * len(images)
     for image, body in zip(images, bodies):
+        planes, bits = image.hotspot if cursor else (1, 32)
         out += struct.pack("<BBBBHHII", image.width & 255, image.height & 255, 0, 0,
-                           1, 32, len(body), offset)
+                           planes, bits, len(body), offset)
         offset += len(body)
     for body in bodies:
         out += body
@@ -182,6 +190,8 @@ def convert(path):
     stem = os.path.splitext(os.path.basename(path))[0]
     if images[0].kind == "bmp":
         return stem + ".bmp", bmp_bytes(images[0])
+    if images[0].kind == "cur":
+        return stem + ".cur", ico_bytes(images, cursor=True)
     return stem + ".ico", ico_bytes(images)
 
 

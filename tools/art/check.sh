@@ -7,7 +7,7 @@ root=$(cd "$(dirname "$0")/../.." && pwd)
 python=${PYTHON:-python3}
 tmp=$(mktemp -d)
 trap 'rm -rf "$tmp"' EXIT
-"$python" "$root/tools/art/art2bmp.py" --out "$tmp" "$root"/res/art/*.txt || exit 1
+"$python" "$root/tools/art/art2bmp.py" --out "$tmp" "$root"/res/art/*.txt "$root"/res/art/cursors/*.txt || exit 1
 status=0
 count=0
 for made in "$tmp"/*; do
@@ -18,7 +18,7 @@ for made in "$tmp"/*; do
     status=1
   fi
 done
-for committed in "$root"/res/art/*.bmp "$root"/res/art/*.ico; do
+for committed in "$root"/res/art/*.bmp "$root"/res/art/*.ico "$root"/res/art/*.cur; do
   [ -e "$committed" ] || continue
   [ -e "$tmp/$(basename "$committed")" ] || { echo "orphan: res/art/$(basename "$committed") has no source" >&2; status=1; }
 done

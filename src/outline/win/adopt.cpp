@@ -1,0 +1,147 @@
+// ZelListSetStyle: a host list box or combo box becomes an adopted list.
+// The parent is subclassed once for the owner-draw messages, the control
+// once for the list messages; later calls only add style bits.
+#include "frame/guard.h"
+#include "outline/win/lbx_procs.h"
+
+namespace {
+
+// The parent record and its subclass, once per parent. False only when a
+// new record could not be made or stored; nothing of this call is left then.
+bool AdoptParent(HWND parent) {
+    if (LbxParentHandle(parent)) {
+        return true;
+    }
+    HLOCAL record = zk::LocalBlockNew(sizeof(LbxParent));
+    if (!record) {
+        return false;
+    }
+    const LONG_PTR former = GetWindowLongPtrW(parent, GWLP_WNDPROC);
+    zk::LocalWith<LbxParent>(record, [&](LbxParent &p) { p.parentProc = static_cast<std::uintptr_t>(former); });
+    if (!SetPropW(parent, kLbxParentProp, record)) {
+        LocalFree(record);
+        return false;
+    }
+    SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&LbxParentWndProc));
+    return true;
+}
+
+// The control record and its subclass, once per control.
+bool AdoptControl(HWND window, LbxKind kind) {
+    if (LbxChildHandle(window)) {
+        return true;
+    }
+    HLOCAL record = zk::LocalBlockNew(sizeof(LbxChild));
+    if (!record) {
+        return false;
+    }
+    const LONG_PTR former = GetWindowLongPtrW(window, GWLP_WNDPROC);
+    zk::LocalWith<LbxChild>(record, [&](LbxChild &c) {
+        c.childProc = static_cast<std::uintptr_t>(former);
+        c.indent = 5;
+    });
+    if (!SetPropW(window, kLbxChildProp, record)) {
+        LocalFree(record);
+        return false;
+    }
+    // The host's own window objects of the list classes (CMtkListBox,
+    // CMtkComboBox) exist only inside a framework host; this runtime keeps
+    // none, so there is nothing to detach before subclassing.
+    WNDPROC proc = kind == LbxKind::Combo ? &LbxComboBoxWndProc : &LbxListBoxWndProc;
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(proc));
+    return true;
+}
+
+LONG ListWindowStyle(LONG ws, uint32_t style) {
+    if (style & LBX_StyleMultiSelect) {
+        ws |= LBS_MULTIPLESEL;
+    } else if (style & LBX_StyleExtendedSelect) {
+        ws |= LBS_EXTENDEDSEL;
+    }
+    if (style & LBX_StyleExactHeight) {
+        ws |= LBS_NOINTEGRALHEIGHT;
+    }
+    if (style & LBX_StyleKeepScrollBar) {
+        ws |= LBS_DISABLENOSCROLL;
+    }
+    if (style & LBX_StyleAdoptMask) {
+        ws = (ws & ~LBS_HASSTRINGS) | LBS_OWNERDRAWVARIABLE;
+    }
+    if (style & (LBX_StyleAutoExtent | LBX_StyleWideExtent)) {
+        ws |= WS_HSCROLL;
+    }
+    return ws;
+}
+
+LONG ComboWindowStyle(LONG ws, uint32_t style) {
+    if (style & LBX_StyleExactHeight) {
+        ws |= CBS_NOINTEGRALHEIGHT;
+    }
+    if (style & LBX_StyleKeepScrollBar) {
+        ws |= CBS_DISABLENOSCROLL;
+    }
+    if (style & LBX_StyleAdoptMask) {
+        ws = (ws & ~CBS_HASSTRINGS) | CBS_OWNERDRAWVARIABLE;
+    }
+    return ws;
+}
+
+int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
+    HWND parent = IsWindow(window) ? GetParent(window) : nullptr;
+    if (!parent) {
+        return 0;
+    }
+    const LbxKind kind = LbxControlKind(window);
+    if (kind == LbxKind::None) {
+        return 0;
+    }
+    if (style & LBX_StyleAdoptMask) {
+        const bool parentWasPlain = LbxParentHandle(parent) == nullptr;
+        if (!AdoptParent(parent)) {
+            return 0;
+        }
+        if (!AdoptControl(window, kind)) {
+            if (parentWasPlain) {
+                // Undo this call's parent record; the parent saw no message meanwhile.
+                HLOCAL record = LbxParentHandle(parent);
+                LbxParent p{};
+                zk::LocalCopy(record, &p);
+                SetWindowLongPtrW(parent, GWLP_WNDPROC, static_cast<LONG_PTR>(p.parentProc));
+                RemovePropW(parent, kLbxParentProp);
+                LocalFree(record);
+            }
+            return 0;
+        }
+        style |= LBX_StyleOwnerDraw;
+        if (GetWindowLongW(window, GWL_STYLE) & WS_HSCROLL) {
+            style |= LBX_StyleAutoExtent;
+        }
+        if (style & LBX_StyleOutline) {
+            style |= LBX_StyleTextSelect;
+        }
+        LbxChildEdit(window, [&](LbxChild &c) {
+            if (style & LBX_StyleOutline) {
+                c.indent = 8;
+            }
+            c.style |= style;
+        });
+    }
+    if (kind == LbxKind::List) {
+        SetWindowLongW(window, GWL_STYLE, ListWindowStyle(GetWindowLongW(window, GWL_STYLE), style));
+        return 1;
+    }
+    if (style & (LBX_StyleExtendedUI | LBX_StyleOwnerDraw)) {
+        PostMessageW(window, CB_SETEXTENDEDUI, 1, 0);
+    }
+    if (create) {
+        create->style = ComboWindowStyle(create->style, style);
+        SetWindowLongW(window, GWL_STYLE, create->style);
+    }
+    return 1;
+}
+
+} // namespace
+
+extern "C" int32_t ZKAPI ZelListSetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
+    return zk::Guarded(L"ZelListSetStyle()", 52, int32_t{0}, [&] { return SetStyle(window, style, create); });
+}

@@ -1,0 +1,17 @@
+#include "outline/win/host_optional.h"
+
+#include "zkhost.h"
+
+HWND LbxHostDlgItem(HWND window, int id) { return OrlGetDlgItemEx(window, id); }
+
+bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, const wchar_t *text) {
+    HostStr value = 0;
+    if (!HostDesignGetAttribute(HostDesignGetOutline(window), HostDesignGetItem(window), attribute, index,
+                                &value) ||
+        !value) {
+        return false;
+    }
+    int32_t size = 0;
+    const wchar_t *chars = HostStrLock(value, &size);
+    return chars && lstrcmpiW(chars, text) == 0;
+}

@@ -1,0 +1,88 @@
+// LbxParentWndProc: the parent of adopted lists paints, measures, frees and
+// compares their rows, and steers focus and selection on their commands.
+#include "frame/host.h"
+#include "outline/win/lbx_paint_entry.h"
+#include "outline/win/lbx_procs.h"
+#include "outline/win/parent_parts.h"
+
+namespace {
+
+// The children of the parent learn that it goes; then the parent's own
+// procedure comes back and the record goes.
+LRESULT ParentDestroy(HWND window, const LbxParent &record, WPARAM wParam, LPARAM lParam) {
+    for (HWND child = GetTopWindow(window); child; child = GetWindow(child, GW_HWNDNEXT)) {
+        if (LbxChildHandle(child)) {
+            SendMessageW(child, ZKM_LbxParentGone, 0, 0);
+        }
+    }
+    const WNDPROC former = reinterpret_cast<WNDPROC>(record.parentProc);
+    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
+    LocalFree(LbxParentHandle(window));
+    RemovePropW(window, kLbxParentProp);
+    return CallWindowProcW(former, window, WM_DESTROY, wParam, lParam);
+}
+
+LRESULT ParentDispatch(HWND window, const LbxParent &record, UINT message, WPARAM wParam, LPARAM lParam) {
+    const WNDPROC former = reinterpret_cast<WNDPROC>(record.parentProc);
+    switch (message) {
+    case WM_DRAWITEM: {
+        LRESULT result = 0;
+        if (LbxDrawItem(window, reinterpret_cast<const DRAWITEMSTRUCT *>(lParam), &result)) {
+            return result;
+        }
+        break;
+    }
+    case WM_MEASUREITEM:
+        if (LbxParentMeasure(window, reinterpret_cast<MEASUREITEMSTRUCT *>(lParam))) {
+            return 1;
+        }
+        break;
+    case WM_DELETEITEM:
+        if (LbxParentDelete(window, record, reinterpret_cast<const DELETEITEMSTRUCT *>(lParam))) {
+            return 1;
+        }
+        break;
+    case WM_CHARTOITEM:
+        return -1;
+    case WM_COMPAREITEM: {
+        LRESULT result = 0;
+        if (LbxParentCompare(reinterpret_cast<const COMPAREITEMSTRUCT *>(lParam), &result)) {
+            return result;
+        }
+        break;
+    }
+    case WM_COMMAND: {
+        LRESULT result = 0;
+        if (LbxParentCommand(window, HIWORD(wParam), reinterpret_cast<HWND>(lParam), &result)) {
+            return result;
+        }
+        break;
+    }
+    case WM_CTLCOLOREDIT:
+        if (HBRUSH brush = LbxComboEditColor(GetParent(reinterpret_cast<HWND>(lParam)),
+                                             reinterpret_cast<HDC>(wParam))) {
+            return reinterpret_cast<LRESULT>(brush);
+        }
+        break;
+    case WM_DESTROY:
+        return ParentDestroy(window, record, wParam, lParam);
+    default:
+        break;
+    }
+    return CallWindowProcW(former, window, message, wParam, lParam);
+}
+
+} // namespace
+
+LRESULT CALLBACK LbxParentWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    LbxParent record{};
+    if (!zk::LocalCopy(LbxParentHandle(window), &record)) {
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    try {
+        return ParentDispatch(window, record, message, wParam, lParam);
+    } catch (...) {
+        ZelReportError(52, L"LbxParentWndProc()");
+        return 0;
+    }
+}
