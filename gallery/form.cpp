@@ -1,6 +1,7 @@
 #include "form.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace gallery {
 namespace {
@@ -113,6 +114,16 @@ void Form::Show() {
     SetForegroundWindow(window_);
     SetActiveWindow(window_);
     UpdateWindow(window_);
+}
+
+void Form::NextPage() {
+    std::vector<HWND> children;
+    for (HWND child = GetWindow(window_, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+        children.push_back(child);
+    for (HWND child : children)
+        DestroyWindow(child);
+    y_[0] = y_[1] = kMargin;
+    column_ = 0;
 }
 
 LRESULT CALLBACK Form::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -1,5 +1,6 @@
 // The gallery's form: a top-level window laid out in two columns of
-// sections, each row a call, its result and a mark (ok or FAIL).
+// sections, each row a call, its result and a mark (ok or FAIL), shown a
+// page at a time.
 #pragma once
 
 #include <windows.h>
@@ -28,6 +29,10 @@ public:
 
     // Sizes the window to the tallest column, shows and activates it.
     void Show();
+    // Empties the form for the next page of sections: every child window
+    // goes, both columns start again at the top. The caller photographs the
+    // page before.
+    void NextPage();
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);

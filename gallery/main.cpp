@@ -95,6 +95,26 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
         pictures.Save(L"art-panel", CaptureControl(panel.Window()));
     }
 
+    // Page 2: files, string tables and arrays, the adopted lists.
+    form.NextPage();
+    RunFileSteps(report);
+    RunStringTableSteps(report);
+    form.Column(1);
+    RunOutlineListSteps(report, form, pictures);
+    form.Show();
+    PumpPending();
+    if (pictures.Enabled())
+        pictures.Save(L"form-2", CaptureTopLevel(form.Window()));
+
+    // Page 3: the outline art, photographed on its own.
+    form.NextPage();
+    ArtPanel outlinePanel;
+    RunOutlineArtSteps(report, form, outlinePanel);
+    form.Show();
+    PumpPending();
+    if (pictures.Enabled())
+        pictures.Save(L"outline-art", CaptureControl(outlinePanel.Window()));
+
     report.Section(L"Host values");
     report.LogCheck(L"HostHalt calls", std::to_wstring(ZkHostHaltCount()), ZkHostHaltCount() == 0, L"0");
     report.LogCheck(L"live host arrays", std::to_wstring(ZkHostLiveArrays()),

@@ -17,6 +17,12 @@ void RunNumberSteps(Report &report);
 // Fails one allocation, lets the retry dialog come up, photographs it and
 // answers Retry after `answerDelayMs`.
 void RunRetrySteps(Report &report, Pictures &pictures, DWORD answerDelayMs);
+void RunStringTableSteps(Report &report);
+void RunFileSteps(Report &report);
+// The outline bitmaps and cursors of ZKLIB.dll in a panel on the form.
+void RunOutlineArtSteps(Report &report, Form &form, ArtPanel &panel);
+// An adopted list box and combo box with coloured rows, fonts, pictures.
+void RunOutlineListSteps(Report &report, Form &form, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);
