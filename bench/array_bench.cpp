@@ -13,6 +13,7 @@
 
 #include "zkhost.h"
 #include "zkhostctl.h"
+#include "bench_clock.h"
 #include "zklib.h"
 
 namespace {
@@ -20,17 +21,6 @@ namespace {
 constexpr double kBound = 40.0;
 constexpr int32_t kSmall = 1'000, kLarge = 20'000;
 constexpr DWORD kFlags = NORM_IGNORECASE | NORM_IGNOREKANATYPE | NORM_IGNOREWIDTH;
-
-double Seconds() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // Words in mixed case from a small alphabet: the short ones repeat often
 // and tie in case; the long ones hardly repeat.

@@ -18,6 +18,7 @@
 #include <cstdio>
 #include <functional>
 
+#include "bench_clock.h"
 #include "zklib.h"
 
 namespace {
@@ -26,17 +27,6 @@ constexpr int kPlainId = 1;
 constexpr int kAdoptedId = 2;
 constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE |
                              LBS_NOINTEGRALHEIGHT;
-
-double Seconds() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // The form: a fixed row height for the plain list; everything else default.
 LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {

@@ -13,22 +13,12 @@
 
 #include "zkhost.h"
 #include "zkhostctl.h"
+#include "bench_clock.h"
 #include "zklib.h"
 
 namespace {
 
 constexpr double kBound = 12.0;
-
-double Seconds() {
-    static LARGE_INTEGER frequency = [] {
-        LARGE_INTEGER f;
-        QueryPerformanceFrequency(&f);
-        return f;
-    }();
-    LARGE_INTEGER now;
-    QueryPerformanceCounter(&now);
-    return static_cast<double>(now.QuadPart) / static_cast<double>(frequency.QuadPart);
-}
 
 // One timing of a call that makes a host string; the string's length is
 // checked against the expected one.

@@ -89,14 +89,5 @@ LRESULT ComboDispatch(const LbxChild &child, HWND window, UINT message, WPARAM w
 } // namespace
 
 LRESULT CALLBACK LbxComboBoxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    LbxChild child{};
-    if (!zk::LocalCopy(LbxChildHandle(window), &child)) {
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
-    try {
-        return ComboDispatch(child, window, LbxComboTwin(message), wParam, lParam);
-    } catch (...) {
-        ZelReportError(52, L"LbxComboBoxWndProc");
-        return 0;
-    }
+    return LbxControlEntry(L"LbxComboBoxWndProc()", ComboDispatch, LbxComboTwin, window, message, wParam, lParam);
 }

@@ -15,6 +15,14 @@ LRESULT CALLBACK LbxComboBoxWndProc(HWND window, UINT message, WPARAM wParam, LP
 UINT LbxListTwin(UINT message);
 UINT LbxComboTwin(UINT message);
 
+// The entry of the two control procedures: the record copied once for the
+// message (a control without one answers as a plain window), then the
+// dispatch of the message's modern twin; nothing thrown leaves, it becomes
+// the trace of string 52 under `name` and the answer 0.
+using LbxDispatch = LRESULT (*)(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam);
+LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(UINT), HWND window, UINT message,
+                        WPARAM wParam, LPARAM lParam);
+
 // ---- handlers shared by the two control procedures ------------------------------
 // Each takes the record copied at entry; `combo` tells which messages of the
 // base to use.

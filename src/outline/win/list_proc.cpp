@@ -119,14 +119,5 @@ LRESULT ListDispatch(const LbxChild &child, HWND window, UINT message, WPARAM wP
 } // namespace
 
 LRESULT CALLBACK LbxListBoxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    LbxChild child{};
-    if (!zk::LocalCopy(LbxChildHandle(window), &child)) {
-        return DefWindowProcW(window, message, wParam, lParam);
-    }
-    try {
-        return ListDispatch(child, window, LbxListTwin(message), wParam, lParam);
-    } catch (...) {
-        ZelReportError(52, L"LbxListBoxWndProc()");
-        return 0;
-    }
+    return LbxControlEntry(L"LbxListBoxWndProc()", ListDispatch, LbxListTwin, window, message, wParam, lParam);
 }

@@ -1,0 +1,18 @@
+// The common entry of the list box and combo box procedures.
+#include "frame/host.h"
+#include "frame/localblock.h"
+#include "outline/win/lbx_procs.h"
+
+LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(UINT), HWND window, UINT message,
+                        WPARAM wParam, LPARAM lParam) {
+    LbxChild child{};
+    if (!zk::LocalCopy(LbxChildHandle(window), &child)) {
+        return DefWindowProcW(window, message, wParam, lParam);
+    }
+    try {
+        return dispatch(child, window, twin(message), wParam, lParam);
+    } catch (...) {
+        ZelReportError(52, name);
+        return 0;
+    }
+}
