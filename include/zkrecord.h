@@ -34,6 +34,12 @@ enum {
     HOST_TYPE_HANDLE = 256
 };
 
+/* Whether a code is one of the element types above. */
+static inline int HostIsArrayType(int32_t type) {
+    return type == HOST_TYPE_BOOLEAN || type == HOST_TYPE_DATETIME || type == HOST_TYPE_NUMBER ||
+           type == HOST_TYPE_STRING || type == HOST_TYPE_LONGSTRING || type == HOST_TYPE_HANDLE;
+}
+
 #ifdef __cplusplus
 }
 static_assert(sizeof(HostNumber) == 25, "host number records are 25 bytes");

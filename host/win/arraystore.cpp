@@ -18,20 +18,6 @@ HandleTable<std::unique_ptr<HostArrayData>> &Table() {
 
 } // namespace
 
-bool IsArrayType(int32_t type) {
-    switch (type) {
-    case HOST_TYPE_BOOLEAN:
-    case HOST_TYPE_DATETIME:
-    case HOST_TYPE_NUMBER:
-    case HOST_TYPE_STRING:
-    case HOST_TYPE_LONGSTRING:
-    case HOST_TYPE_HANDLE:
-        return true;
-    default:
-        return false;
-    }
-}
-
 void HostArrayData::dropFront(size_t n) {
     if (holdsRecords()) {
         records_.erase(records_.begin(), records_.begin() + n);
@@ -116,7 +102,7 @@ bool HostArrayData::reach(int32_t index) {
 }
 
 HostArray ArrayCreate(int32_t type) {
-    if (!IsArrayType(type))
+    if (!HostIsArrayType(type))
         return 0;
     try {
         return Table().add(std::make_unique<HostArrayData>(type));

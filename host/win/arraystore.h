@@ -14,8 +14,6 @@ namespace hostwin {
 // leave 32 bits.
 inline constexpr int64_t kMaxArrayElements = int64_t(1) << 26;
 
-bool IsArrayType(int32_t type);
-
 class HostArrayData {
 public:
     explicit HostArrayData(int32_t type) : type_(type) {}

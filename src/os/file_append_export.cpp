@@ -20,8 +20,8 @@ int32_t Append(const wchar_t *source, const wchar_t *destination) {
     FileWalk walk(source);
     if (!walk.Found())
         return walk.error();
-    uint32_t freeBytes = 0;
-    if (!FreeSpace32(destination, freeBytes))
+    SpaceBudget space;
+    if (!space.Read(destination))
         return 0;
 
     TransferBuffer buffer;
@@ -31,9 +31,8 @@ int32_t Append(const wchar_t *source, const wchar_t *destination) {
             continue;
         ++count;
         const WIN32_FIND_DATAW &entry = walk.entry();
-        if (LowSize(entry) > freeBytes)
+        if (!space.Take(entry))
             return ZEL_DISK_FULL;
-        freeBytes -= LowSize(entry);
 
         FileHandle from(ZelFileOpenEx(walk.Path().c_str(), nullptr, 0, OF_SHARE_DENY_WRITE));
         if (!from.Valid())

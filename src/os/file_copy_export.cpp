@@ -18,8 +18,8 @@ int32_t Copy(const wchar_t *source, const wchar_t *destination) {
 
     // The space check is the copy's own estimate, in 32 bits; a drive that
     // cannot tell its free space gets nothing copied and no error.
-    uint32_t freeBytes = 0;
-    if (!FreeSpace32(destination, freeBytes))
+    SpaceBudget space;
+    if (!space.Read(destination))
         return 0;
 
     TransferBuffer buffer;
@@ -29,9 +29,8 @@ int32_t Copy(const wchar_t *source, const wchar_t *destination) {
             continue;
         ++count;
         const WIN32_FIND_DATAW &entry = walk.entry();
-        if (LowSize(entry) > freeBytes)
+        if (!space.Take(entry))
             return ZEL_DISK_FULL;
-        freeBytes -= LowSize(entry);
 
         FileHandle from(ZelFileOpenEx(walk.Path().c_str(), nullptr, 0, OF_SHARE_DENY_WRITE));
         if (!from.Valid())

@@ -65,7 +65,7 @@ int32_t AbsoluteTarget(const wchar_t *destination, std::wstring &outDir, std::ws
     return ZelPathSplitTarget(absolute, outDir, outName);
 }
 
-bool FreeSpace32(const wchar_t *destination, uint32_t &freeBytes) {
+bool SpaceBudget::Read(const wchar_t *destination) {
     // The drive as the destination gives it, as the runtime's path splitter
     // finds it: the two characters of "X:", or none for the current drive.
     std::wstring root;
@@ -75,7 +75,7 @@ bool FreeSpace32(const wchar_t *destination, uint32_t &freeBytes) {
     DWORD sectorsPerCluster = 0, bytesPerSector = 0, freeClusters = 0, clusters = 0;
     if (!GetDiskFreeSpaceW(root.c_str(), &sectorsPerCluster, &bytesPerSector, &freeClusters, &clusters))
         return false;
-    freeBytes = FreeBytes32(sectorsPerCluster, bytesPerSector, freeClusters);
+    freeBytes_ = FreeBytes32(sectorsPerCluster, bytesPerSector, freeClusters);
     return true;
 }
 

@@ -89,12 +89,25 @@ private:
 // in the current directory. 0 or the negative code of ZelPathSplitTarget.
 int32_t AbsoluteTarget(const wchar_t *destination, std::wstring &outDir, std::wstring &outName);
 
-// Free bytes, counted in 32 bits, of the drive the destination names (the
-// current drive if it names none). False when the drive cannot say.
-bool FreeSpace32(const wchar_t *destination, uint32_t &freeBytes);
+// The copy's own estimate of the space left on the destination's drive (the
+// current drive if it names none): free bytes counted in 32 bits, from which
+// each file's low 32 bits of size are taken.
+class SpaceBudget {
+public:
+    // False when the drive cannot tell its free space.
+    bool Read(const wchar_t *destination);
+    // Takes the file's share; false (and nothing taken) when it does not fit.
+    bool Take(const WIN32_FIND_DATAW &entry) {
+        if (entry.nFileSizeLow > freeBytes_)
+            return false;
+        freeBytes_ -= entry.nFileSizeLow;
+        return true;
+    }
 
-// The low 32 bits of a match's size, which is all the space check counts.
-inline uint32_t LowSize(const WIN32_FIND_DATAW &entry) { return entry.nFileSizeLow; }
+private:
+    uint32_t freeBytes_ = 0;
+};
+
 inline uint64_t FullSize(const WIN32_FIND_DATAW &entry) {
     return static_cast<uint64_t>(entry.nFileSizeHigh) << 32 | entry.nFileSizeLow;
 }

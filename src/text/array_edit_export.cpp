@@ -87,7 +87,7 @@ int32_t ZKAPI ZelArrayInsertItem(HostArray array, int32_t index, int32_t type) {
                 return ZEL_INVALID_PARAMETER;
             // The last element always moves up, so a type outside the table
             // fails before anything is written.
-            if (!zk::text::IsElementType(type))
+            if (!HostIsArrayType(type))
                 return ZEL_INVALID_PARAMETER;
             // Falling order: the top element first grows the array by one.
             for (int64_t j = b.high; j >= index; --j)

@@ -16,20 +16,6 @@ ArrayBounds ReadBounds(HostArray array) {
     return bounds;
 }
 
-bool IsElementType(int32_t type) {
-    switch (type) {
-    case HOST_TYPE_BOOLEAN:
-    case HOST_TYPE_DATETIME:
-    case HOST_TYPE_NUMBER:
-    case HOST_TYPE_STRING:
-    case HOST_TYPE_LONGSTRING:
-    case HOST_TYPE_HANDLE:
-        return true;
-    default:
-        return false;
-    }
-}
-
 bool IsStringType(int32_t type) { return type == HOST_TYPE_STRING || type == HOST_TYPE_LONGSTRING; }
 
 bool MoveElement(int32_t type, HostArray from, int32_t fromIndex, HostArray to, int32_t toIndex,

@@ -20,8 +20,7 @@ bool IsSingleDimension(HostArray array);
 
 ArrayBounds ReadBounds(HostArray array);
 
-// Whether the code is one of the element types: 1, 2, 3, 5, 7 or 256.
-bool IsElementType(int32_t type);
+// Whether the code is one of the string types: 5 or 7.
 bool IsStringType(int32_t type);
 
 // When the extra reference of a moved string is taken: appending and

@@ -129,19 +129,6 @@ TEST(ArchiveObjects, TwoArraysShareTheClassIndicesOfTheArchive) {
                         {0xFF, 0xFE, 0xFF, 0x01, 'm', 0x00}, {0x03, 0x80}, {0xFF, 0xFE, 0xFF, 0x01, 'n', 0x00}}));
 }
 
-template <class Read>
-ArchiveException::Cause FailureOf(const Bytes &bytes, Read &&read) {
-    zk::CMemFile file = FileOf(bytes);
-    CArchive ar(file, CArchive::load);
-    try {
-        read(ar);
-    } catch (const ArchiveException &e) {
-        return e.cause;
-    }
-    ADD_FAILURE() << "the read went through";
-    return ArchiveException::wrongMode;
-}
-
 TEST(ArchiveObjects, TheReaderRefusesWhatThisFormatCannotHold) {
     auto readColour = [](CArchive &ar) { ar.ReadObjectAs<SColorItem>(); };
     EXPECT_EQ(FailureOf(Cat({NewClass("SMenuItem"), {0xFF, 0xFE, 0xFF, 0x00}}), readColour),

@@ -8,19 +8,6 @@ using zk::CArchive;
 
 namespace {
 
-template <class Read>
-ArchiveException::Cause FailureOf(const Bytes &bytes, Read &&read) {
-    zk::CMemFile file = FileOf(bytes);
-    CArchive ar(file, CArchive::load);
-    try {
-        read(ar);
-    } catch (const ArchiveException &e) {
-        return e.cause;
-    }
-    ADD_FAILURE() << "the read went through";
-    return ArchiveException::wrongMode;
-}
-
 TEST(Archive, IntegersAreLittleEndian) {
     EXPECT_EQ(Stored([](CArchive &ar) {
                   ar.WriteU8(0x12);

@@ -71,4 +71,18 @@ public:
     }
 };
 
+// The cause of the archive exception a read of `bytes` ends with.
+template <class Read>
+zk::ArchiveException::Cause FailureOf(const Bytes &bytes, Read &&read) {
+    zk::CMemFile file = FileOf(bytes);
+    zk::CArchive ar(file, zk::CArchive::load);
+    try {
+        read(ar);
+    } catch (const zk::ArchiveException &e) {
+        return e.cause;
+    }
+    ADD_FAILURE() << "the read went through";
+    return zk::ArchiveException::wrongMode;
+}
+
 } // namespace designertest
