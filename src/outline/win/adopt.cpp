@@ -1,6 +1,7 @@
 // ZelListSetStyle: a host list box or combo box becomes an adopted list.
 // The parent is subclassed once for the owner-draw messages, the control
 // once for the list messages; later calls only add style bits.
+#include "frame/propcache.h"
 #include "frame/guard.h"
 #include "outline/win/lbx_procs.h"
 
@@ -18,7 +19,7 @@ bool AdoptParent(HWND parent) {
     }
     const LONG_PTR former = GetWindowLongPtrW(parent, GWLP_WNDPROC);
     zk::LocalWith<LbxParent>(record, [&](LbxParent &p) { p.parentProc = static_cast<std::uintptr_t>(former); });
-    if (!SetPropW(parent, kLbxParentProp, record)) {
+    if (!zk::PropSet(parent, kLbxParentProp, record)) {
         LocalFree(record);
         return false;
     }
@@ -40,7 +41,7 @@ bool AdoptControl(HWND window, LbxKind kind) {
         c.childProc = static_cast<std::uintptr_t>(former);
         c.indent = 5;
     });
-    if (!SetPropW(window, kLbxChildProp, record)) {
+    if (!zk::PropSet(window, kLbxChildProp, record)) {
         LocalFree(record);
         return false;
     }
@@ -107,7 +108,7 @@ int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
                 LbxParent p{};
                 zk::LocalCopy(record, &p);
                 SetWindowLongPtrW(parent, GWLP_WNDPROC, static_cast<LONG_PTR>(p.parentProc));
-                RemovePropW(parent, kLbxParentProp);
+                zk::PropRemove(parent, kLbxParentProp);
                 LocalFree(record);
             }
             return 0;

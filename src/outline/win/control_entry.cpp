@@ -1,6 +1,7 @@
 // The common entry of the list box and combo box procedures.
 #include "frame/host.h"
 #include "frame/localblock.h"
+#include "outline/win/host_optional.h"
 #include "outline/win/lbx_procs.h"
 
 LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(UINT), HWND window, UINT message,
@@ -9,6 +10,7 @@ LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(
     if (!zk::LocalCopy(LbxChildHandle(window), &child)) {
         return DefWindowProcW(window, message, wParam, lParam);
     }
+    const LbxControlInHand inHand(window);
     try {
         return dispatch(child, window, twin(message), wParam, lParam);
     } catch (...) {

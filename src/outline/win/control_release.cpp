@@ -3,6 +3,7 @@
 // parent may have gone already (a form destroys its own window first). So
 // the items are freed here, once, and each row's data word is cleared
 // through the base procedure: the late delete notifications find no item.
+#include "frame/propcache.h"
 #include "outline/core/lbx_tree.h"
 #include "outline/pic.h"
 #include "outline/win/lbx_procs.h"
@@ -31,7 +32,7 @@ void LbxReleaseControl(HWND window, const LbxChild &child, bool combo) {
     if (LbxNode *root = LbxRootOf(window)) {
         LbxFreeTree(root);
     }
-    RemovePropW(window, kLbxRootProp);
+    zk::PropRemove(window, kLbxRootProp);
     if (combo && child.bkBrush) {
         DeleteObject(static_cast<HBRUSH>(child.bkBrush));
     }
@@ -40,7 +41,7 @@ void LbxReleaseControl(HWND window, const LbxChild &child, bool combo) {
     }
     SetWindowLongPtrW(window, GWLP_WNDPROC, static_cast<LONG_PTR>(child.childProc));
     LocalFree(LbxChildHandle(window));
-    RemovePropW(window, kLbxChildProp);
+    zk::PropRemove(window, kLbxChildProp);
     zk::LbxPicFreeAll(window);
     zk::LbxFontFreeAll(window);
 }

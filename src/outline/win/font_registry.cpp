@@ -1,6 +1,7 @@
 // The font registry of a list, in its property "ZK:FontList".
 #include <new>
 
+#include "frame/propcache.h"
 #include "frame/guard.h"
 #include "outline/pic.h"
 
@@ -10,7 +11,7 @@ namespace {
 constexpr const wchar_t *kFontListProp = L"ZK:FontList";
 
 CFontArray *Store(HWND list, CFontArray *registry) noexcept {
-    if (!SetPropW(list, kFontListProp, registry)) {
+    if (!zk::PropSet(list, kFontListProp, registry)) {
         delete registry;
         return nullptr;
     }
@@ -70,7 +71,7 @@ void CFontArray::FreeAllExcept(HFONT keep) noexcept {
 }
 
 CFontArray *LbxFontGet(HWND list) noexcept {
-    return list && IsWindow(list) ? static_cast<CFontArray *>(GetPropW(list, kFontListProp)) : nullptr;
+    return list && IsWindow(list) ? static_cast<CFontArray *>(zk::PropGet(list, kFontListProp)) : nullptr;
 }
 
 CFontArray *LbxFontAdd(HWND list, HFONT font) noexcept {
@@ -109,7 +110,7 @@ void LbxFontFreeAll(HWND list) noexcept {
         return;
     registry->FreeAllExcept(reinterpret_cast<HFONT>(SendMessageW(list, WM_GETFONT, 0, 0)));
     delete registry;
-    RemovePropW(list, kFontListProp);
+    zk::PropRemove(list, kFontListProp);
 }
 
 } // namespace zk

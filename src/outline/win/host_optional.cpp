@@ -15,3 +15,17 @@ bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, con
     const wchar_t *chars = HostStrLock(value, &size);
     return chars && lstrcmpiW(chars, text) == 0;
 }
+
+namespace {
+
+thread_local HWND inHand = nullptr;
+
+} // namespace
+
+LbxControlInHand::LbxControlInHand(HWND control) : previous_(inHand) { inHand = control; }
+
+LbxControlInHand::~LbxControlInHand() { inHand = previous_; }
+
+HWND LbxControlInHandFor(HWND parent, int id) {
+    return inHand && GetParent(inHand) == parent && GetDlgCtrlID(inHand) == id ? inHand : nullptr;
+}

@@ -14,3 +14,21 @@ HWND LbxHostDlgItem(HWND window, int id);
 // compared with `text` without regard to case. False when the window has no
 // design item or the attribute cannot be read.
 bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, const wchar_t *text);
+
+// The control whose procedure is running on this thread, for the parent's
+// handlers of the row messages it causes (WM_MEASUREITEM, WM_DELETEITEM):
+// they name the control by id only, and finding it by id is a search of the
+// parent's children (a server round trip under Wine) for every row added.
+class LbxControlInHand {
+public:
+    explicit LbxControlInHand(HWND control);
+    ~LbxControlInHand();
+    LbxControlInHand(const LbxControlInHand &) = delete;
+    LbxControlInHand &operator=(const LbxControlInHand &) = delete;
+
+private:
+    HWND previous_;
+};
+
+// The control in hand when it is the parent's control of that id, else 0.
+HWND LbxControlInHandFor(HWND parent, int id);

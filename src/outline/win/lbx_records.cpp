@@ -1,4 +1,5 @@
 // Finding and reading the outline records of a window.
+#include "frame/propcache.h"
 #include "outline/win/lbx_win.h"
 
 #include <iterator>
@@ -74,7 +75,7 @@ std::uintptr_t LbxBaseRow(const LbxChild &child, HWND window, bool combo, int32_
 }
 
 LbxNode *LbxRootOf(HWND window) {
-    void *root = GetPropW(window, kLbxRootProp);
+    void *root = zk::PropGet(window, kLbxRootProp);
     return LbxIsNode(root) ? static_cast<LbxNode *>(root) : nullptr;
 }
 
@@ -86,7 +87,7 @@ LbxNode *LbxGetRoot(HWND window) {
     if (!root) {
         return nullptr;
     }
-    if (!SetPropW(window, kLbxRootProp, root)) {
+    if (!zk::PropSet(window, kLbxRootProp, root)) {
         LbxFreeTree(root);
         return nullptr;
     }

@@ -7,6 +7,7 @@
 
 #include <cstdint>
 
+#include "frame/propcache.h"
 #include "frame/localblock.h"
 #include "outline/core/lbx_normalize.h"
 #include "outline/lbx.h"
@@ -23,8 +24,8 @@ enum class LbxKind { None, List, Combo };
 // combo boxes.
 LbxKind LbxControlKind(HWND window);
 
-inline HLOCAL LbxChildHandle(HWND window) { return static_cast<HLOCAL>(GetPropW(window, kLbxChildProp)); }
-inline HLOCAL LbxParentHandle(HWND window) { return static_cast<HLOCAL>(GetPropW(window, kLbxParentProp)); }
+inline HLOCAL LbxChildHandle(HWND window) { return static_cast<HLOCAL>(zk::PropGet(window, kLbxChildProp)); }
+inline HLOCAL LbxParentHandle(HWND window) { return static_cast<HLOCAL>(zk::PropGet(window, kLbxParentProp)); }
 
 // The adoption test: a valid window with "ZK:ChildLbx" whose style has
 // LBX_StyleOwnerDraw; the record is copied out under a short lock.

@@ -23,7 +23,10 @@ bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request) {
     if (!request) {
         return false;
     }
-    HWND control = LbxHostDlgItem(parent, static_cast<int>(request->CtlID));
+    HWND control = LbxControlInHandFor(parent, static_cast<int>(request->CtlID));
+    if (!control) {
+        control = LbxHostDlgItem(parent, static_cast<int>(request->CtlID));
+    }
     zk::LocalPin<LbxChild> child(LbxChildHandle(control));
     if (!child) {
         return false;

@@ -1,5 +1,6 @@
 // LbxParentWndProc: the parent of adopted lists paints, measures, frees and
 // compares their rows, and steers focus and selection on their commands.
+#include "frame/propcache.h"
 #include "frame/host.h"
 #include "outline/win/lbx_paint_entry.h"
 #include "outline/win/lbx_procs.h"
@@ -18,7 +19,7 @@ LRESULT ParentDestroy(HWND window, const LbxParent &record, WPARAM wParam, LPARA
     const WNDPROC former = reinterpret_cast<WNDPROC>(record.parentProc);
     SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
     LocalFree(LbxParentHandle(window));
-    RemovePropW(window, kLbxParentProp);
+    zk::PropRemove(window, kLbxParentProp);
     return CallWindowProcW(former, window, WM_DESTROY, wParam, lParam);
 }
 

@@ -8,7 +8,10 @@ bool LbxParentDelete(HWND parent, const LbxParent &record, const DELETEITEMSTRUC
     if (!request) {
         return false;
     }
-    HWND control = GetDlgItem(parent, static_cast<int>(request->CtlID));
+    HWND control = LbxControlInHandFor(parent, static_cast<int>(request->CtlID));
+    if (!control) {
+        control = GetDlgItem(parent, static_cast<int>(request->CtlID));
+    }
     if (!control) {
         control = LbxHostDlgItem(parent, static_cast<int>(request->CtlID));
     }

@@ -2,6 +2,7 @@
 #include <algorithm>
 #include <new>
 
+#include "frame/propcache.h"
 #include "frame/guard.h"
 #include "outline/pic.h"
 
@@ -18,7 +19,7 @@ void DeleteLive(PIC *pic) noexcept {
 }
 
 CPicArray *Store(HWND list, CPicArray *registry) noexcept {
-    if (!SetPropW(list, kPicListProp, registry)) {
+    if (!zk::PropSet(list, kPicListProp, registry)) {
         delete registry;
         return nullptr;
     }
@@ -49,7 +50,7 @@ bool CPicArray::Contains(const PIC *pic) const noexcept {
 }
 
 CPicArray *LbxPicGet(HWND list) noexcept {
-    return list && IsWindow(list) ? static_cast<CPicArray *>(GetPropW(list, kPicListProp)) : nullptr;
+    return list && IsWindow(list) ? static_cast<CPicArray *>(zk::PropGet(list, kPicListProp)) : nullptr;
 }
 
 CPicArray *LbxPicAdd(HWND list, PIC *pic) noexcept {
@@ -92,7 +93,7 @@ void LbxPicFreeAll(HWND list) noexcept {
     }
     registry->Clear();
     delete registry;
-    RemovePropW(list, kPicListProp);
+    zk::PropRemove(list, kPicListProp);
 }
 
 } // namespace zk

@@ -1,5 +1,7 @@
 #include "bench.h"
 
+#include "frame/propcache.h"
+
 namespace painttest {
 
 void PaintBench::SetUp() {
@@ -8,7 +10,7 @@ void PaintBench::SetUp() {
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     record = LocalAlloc(LMEM_MOVEABLE | LMEM_ZEROINIT, sizeof(LbxChild));
     ASSERT_NE(record, nullptr);
-    SetPropW(list, L"ZK:ChildLbx", record);
+    zk::PropSet(list, L"ZK:ChildLbx", record);
     SetStyle(LBX_StyleOwnerDraw);
     root = new LbxNode();
     root->item = new LbxItem();
@@ -17,7 +19,7 @@ void PaintBench::SetUp() {
 }
 
 void PaintBench::TearDown() {
-    RemovePropW(list, L"ZK:ChildLbx");
+    zk::PropRemove(list, L"ZK:ChildLbx");
     LocalFree(record);
     if (stops)
         LocalFree(stops);

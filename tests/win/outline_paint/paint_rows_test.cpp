@@ -1,6 +1,7 @@
 // Rows of a flat list: colours by state, the picture, the frames, tabs,
 // the focus frames and the horizontal extent.
 #include "bench.h"
+#include "frame/propcache.h"
 
 namespace painttest {
 namespace {
@@ -173,9 +174,9 @@ TEST_F(PaintBench, EmptyListsAndForeignControls) {
     // A row whose data is no item paints no text of ours.
     ASSERT_TRUE(Draw(nullptr, ODA_DRAWENTIRE, 0, {0, 0, kRowWidth, kRowHeight}, &answer));
     EXPECT_EQ(answer, 1);
-    RemovePropW(list, L"ZK:ChildLbx");
+    zk::PropRemove(list, L"ZK:ChildLbx");
     EXPECT_FALSE(Draw(Item(L"x"), ODA_DRAWENTIRE, 0));
-    SetPropW(list, L"ZK:ChildLbx", record);
+    zk::PropSet(list, L"ZK:ChildLbx", record);
 }
 
 } // namespace

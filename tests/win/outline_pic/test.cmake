@@ -4,4 +4,5 @@ target_sources(${test_target} PRIVATE
   ${CMAKE_SOURCE_DIR}/src/outline/win/pic_record.cpp
   ${CMAKE_SOURCE_DIR}/src/outline/win/pic_registry.cpp
   ${CMAKE_SOURCE_DIR}/src/outline/win/font_registry.cpp)
+target_sources(${test_target} PRIVATE ${CMAKE_SOURCE_DIR}/src/frame/propcache.cpp)
 target_link_libraries(${test_target} PRIVATE zkcore)
