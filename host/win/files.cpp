@@ -86,8 +86,10 @@ int32_t ZKAPI HostFileOpen(HostFile *file, const wchar_t *name, int32_t flags) {
                                                  : Access::Read;
     DWORD disposition = create ? CREATE_ALWAYS : OPEN_EXISTING;
     if (flags & OF_EXIST) {
+        // A question about the file must not empty it: with OF_CREATE it
+        // may make the file, but an existing one keeps its bytes.
         DWORD rights = access == Access::Read ? GENERIC_READ : GENERIC_WRITE;
-        return Probe(name, rights, disposition);
+        return Probe(name, rights, create ? OPEN_ALWAYS : OPEN_EXISTING);
     }
     *file = Stream(name, access, disposition);
     return *file ? 1 : 0;
