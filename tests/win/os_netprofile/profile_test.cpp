@@ -1,0 +1,117 @@
+// The keys of an INI section and the deletion of a key or a section, on
+// real INI files.
+#include "netprofile_support.h"
+#include "zkharness.h"
+
+using namespace netprofiletest;
+
+namespace {
+
+constexpr int kRetry = 203;
+
+class Profile : public FolderTest {};
+
+TEST_F(Profile, KeysOfASectionInOrder) {
+    const std::wstring ini = Make(L"app.ini", "[first]\r\nalpha=1\r\nBeta = two\r\n\r\n; note\r\ngamma=\r\n"
+                                              "[second]\r\nalpha=9\r\n");
+    // The array had more elements than keys: its bounds become 0 to the last key.
+    const HostArray keys = Array({L"x", L"y", L"z", L"w"});
+    EXPECT_EQ(3, ZelProfileEnumStrings(ini.c_str(), L"first", keys));
+    EXPECT_EQ((Texts{L"alpha", L"Beta", L"gamma"}), Elements(keys));
+    // Section names are matched without case.
+    EXPECT_EQ(1, ZelProfileEnumStrings(ini.c_str(), L"SECOND", keys));
+    EXPECT_EQ((Texts{L"alpha"}), Elements(keys));
+}
+
+TEST_F(Profile, MoreThan256CharactersOfNames) {
+    std::string text = "[big]\r\n";
+    Texts expected;
+    for (int i = 0; i < 60; ++i) { // 60 names of 24 characters and a NUL: 1500 characters
+        char name[32];
+        wsprintfA(name, "key_number_%03d_abcdefghi", i);
+        text += std::string(name) + "=" + std::to_string(i) + "\r\n";
+        expected.push_back(std::wstring(name, name + 24));
+    }
+    // Lists that end just below, at and just past the first block's size.
+    const std::wstring ini = Make(L"big.ini", text + "[edge]\r\n" + std::string(250, 'e') + "=1\r\nf=2\r\ng=3\r\n");
+    const HostArray keys = Array();
+    EXPECT_EQ(60, ZelProfileEnumStrings(ini.c_str(), L"big", keys));
+    EXPECT_EQ(expected, Elements(keys));
+    EXPECT_EQ(3, ZelProfileEnumStrings(ini.c_str(), L"edge", keys));
+    EXPECT_EQ((Texts{std::wstring(250, L'e'), L"f", L"g"}), Elements(keys));
+}
+
+TEST_F(Profile, EmptyOrMissingSectionLeavesTheArray) {
+    const std::wstring ini = Make(L"empty.ini", "[none]\r\n[some]\r\nk=v\r\n");
+    const HostArray keys = Array({L"kept", L"too"});
+    EXPECT_EQ(0, ZelProfileEnumStrings(ini.c_str(), L"none", keys));
+    EXPECT_EQ(0, ZelProfileEnumStrings(ini.c_str(), L"absent", keys));
+    EXPECT_EQ((Texts{L"kept", L"too"}), Elements(keys));
+}
+
+TEST_F(Profile, FileIsLookedUpOnTheSearchPath) {
+    Make(L"here.ini", "[s]\r\nlocal=1\r\n");
+    EnterFolder();
+    const HostArray keys = Array();
+    // A bare name is the file in the current folder, not one in the Windows folder.
+    EXPECT_EQ(1, ZelProfileEnumStrings(L"here.ini", L"s", keys));
+    EXPECT_EQ((Texts{L"local"}), Elements(keys));
+    EXPECT_NE(0, ZelProfileDelete(L"here.ini", L"s", L"local"));
+    EXPECT_EQ(0, ZelProfileEnumStrings(L"here.ini", L"s", keys));
+}
+
+TEST_F(Profile, MissingFileAndNullArguments) {
+    const HostArray keys = Array({L"kept"});
+    EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileEnumStrings(At(L"none.ini").c_str(), L"s", keys));
+    EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileEnumStrings(nullptr, L"s", keys));
+    EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(At(L"none.ini").c_str(), L"s", L"k"));
+    EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(nullptr, L"s", L""));
+    EXPECT_EQ("<missing>", Contents(L"none.ini")) << "nothing is created";
+    const std::wstring ini = Make(L"n.ini", "[s]\r\nk=v\r\n");
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileEnumStrings(ini.c_str(), nullptr, keys));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileDelete(ini.c_str(), nullptr, L"k"));
+    EXPECT_EQ((Texts{L"kept"}), Elements(keys));
+}
+
+TEST_F(Profile, DeleteAKeyOrTheWholeSection) {
+    const std::wstring ini = Make(L"del.ini", "[a]\r\nk1=1\r\nk2=2\r\n[b]\r\nk1=3\r\n[c]\r\nk=4\r\n");
+    const HostArray keys = Array();
+    EXPECT_NE(0, ZelProfileDelete(ini.c_str(), L"a", L"k1"));
+    EXPECT_EQ(1, ZelProfileEnumStrings(ini.c_str(), L"a", keys));
+    EXPECT_EQ((Texts{L"k2"}), Elements(keys));
+    EXPECT_EQ(1, ZelProfileEnumStrings(ini.c_str(), L"b", keys)) << "the same key of another section stays";
+
+    // An empty key, or none, takes the section with all its keys.
+    EXPECT_NE(0, ZelProfileDelete(ini.c_str(), L"a", L""));
+    EXPECT_NE(0, ZelProfileDelete(ini.c_str(), L"c", nullptr));
+    wchar_t sections[256] = {};
+    const DWORD length = GetPrivateProfileSectionNamesW(sections, 256, ini.c_str());
+    EXPECT_EQ(std::wstring(L"b\0", 2), std::wstring(sections, length));
+    EXPECT_EQ(std::string::npos, Contents(L"del.ini").find("[a]"));
+    EXPECT_EQ(std::string::npos, Contents(L"del.ini").find("k2"));
+
+    // A file that another program holds without sharing cannot be written:
+    // the platform's 0.
+    const std::wstring locked = Make(L"ro.ini", "[a]\r\nk=1\r\n");
+    const HANDLE held = CreateFileW(locked.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
+    ASSERT_NE(INVALID_HANDLE_VALUE, held);
+    EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L"k"));
+    EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L""));
+    CloseHandle(held);
+    EXPECT_EQ("[a]\r\nk=1\r\n", Contents(L"ro.ini"));
+}
+
+TEST_F(Profile, NameTheHostCannotMakeAsksOnceAndStandsAsNoString) {
+    const std::wstring ini = Make(L"oom.ini", "[s]\r\none=1\r\ntwo=2\r\nthree=3\r\n");
+    const HostArray keys = Array();
+    zkt::DialogAnswerer answerer(kRetry);
+    // Only the first name's allocation fails: a retry after the answer would
+    // have made it.
+    ZkHostFailAllocations(1);
+    EXPECT_EQ(3, ZelProfileEnumStrings(ini.c_str(), L"s", keys));
+    ZkHostFailAllocations(0);
+    EXPECT_EQ(1, answerer.answered());
+    EXPECT_EQ((Texts{L"<none>", L"two", L"three"}), Elements(keys));
+}
+
+} // namespace
