@@ -75,6 +75,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/dos.h"
 #include "zklib/stream.h"
 #include "zklib/netprofile.h"
+#include "zklib/outline_tree.h"
 
 #ifdef __cplusplus
 }
