@@ -76,6 +76,8 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/stream.h"
 #include "zklib/netprofile.h"
 #include "zklib/outline_tree.h"
+#include "zklib/outline_file.h"
+#include "zklib/outline_tree.h"
 
 #ifdef __cplusplus
 }

@@ -1,0 +1,175 @@
+// A form with adopted outline lists, streams spelt out byte by byte, and
+// host strings that carry them.
+#pragma once
+
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <cstdio>
+#include <cstring>
+#include <string>
+#include <vector>
+
+#include "outline/lbx.h"
+#include "outline/pic.h"
+#include "zkharness.h"
+#include "zkhostctl.h"
+#include "zklib.h"
+
+namespace ofiletest {
+
+using Bytes = std::vector<uint8_t>;
+
+constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
+constexpr DWORD kComboStyle = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
+// Adoption with the outline bit completes the style thus.
+constexpr uint32_t kOutlineStyle = LBX_StyleOutline | LBX_StyleTextSelect | LBX_StyleOwnerDraw;
+
+// Little-endian pieces of a stream.
+struct Spell {
+    Bytes b;
+    Spell &u8(uint8_t v) { b.push_back(v); return *this; }
+    Spell &u16(uint16_t v) { return u8(v & 0xFF).u8(v >> 8); }
+    Spell &u32(uint32_t v) { return u16(v & 0xFFFF).u16(v >> 16); }
+    Spell &wide(std::wstring_view s) {
+        u8(0xFF).u16(0xFFFE).u8(static_cast<uint8_t>(s.size()));
+        for (wchar_t c : s) u16(static_cast<uint16_t>(c));
+        return *this;
+    }
+    Spell &narrow(std::string_view s) {
+        u8(static_cast<uint8_t>(s.size()));
+        for (char c : s) u8(static_cast<uint8_t>(c));
+        return *this;
+    }
+    Spell &header(uint32_t style, uint32_t indent, int32_t top, uint32_t pics, uint32_t fonts, uint32_t items) {
+        return u16(0x8759).u32(style).u32(indent).u32(static_cast<uint32_t>(top)).u32(pics).u32(fonts).u32(items);
+    }
+    // level, normal, selected, font, colour, flags, value, then the text.
+    Spell &item(int32_t level, int32_t normal, int32_t selected, int32_t font, uint32_t colour, uint32_t flags,
+                int32_t value, std::wstring_view text) {
+        u32(static_cast<uint32_t>(level)).u32(static_cast<uint32_t>(normal)).u32(static_cast<uint32_t>(selected));
+        u32(static_cast<uint32_t>(font)).u32(colour).u32(flags).u32(static_cast<uint32_t>(value));
+        return wide(text);
+    }
+};
+
+// A host string holding the bytes and the NUL after them, as a save gives it.
+inline HostStr Carry(const Bytes &bytes) {
+    HostStr handle = 0;
+    if (!HostStrAlloc(&handle, static_cast<int32_t>(bytes.size() + 1)))
+        return 0;
+    int32_t size = 0;
+    auto *buffer = reinterpret_cast<uint8_t *>(HostStrLock(handle, &size));
+    if (!bytes.empty())
+        std::memcpy(buffer, bytes.data(), bytes.size());
+    buffer[bytes.size()] = 0;
+    return handle;
+}
+
+// The stream a host string carries: all its bytes but the last, which must be NUL.
+inline Bytes Carried(HostStr handle) {
+    int32_t size = 0;
+    const auto *buffer = reinterpret_cast<const uint8_t *>(HostStrLock(handle, &size));
+    EXPECT_TRUE(buffer && size >= 1);
+    if (!buffer || size < 1)
+        return {};
+    EXPECT_EQ(buffer[size - 1], 0);
+    return Bytes(buffer, buffer + size - 1);
+}
+
+inline std::wstring Text(ZelItemHandle node) {
+    HostStr text = ZelListGetItemText(node);
+    int32_t size = 0;
+    std::wstring out = HostStrLock(text, &size);
+    ZkHostStrRelease(text);
+    return out;
+}
+
+// A node's text read from its record (the text class's own members live in the library).
+inline std::wstring NodeText(const LbxNode *node) {
+    return reinterpret_cast<const wchar_t *>(node->item->text.c_str());
+}
+
+inline LbxNode *Node(ZelItemHandle handle) { return reinterpret_cast<LbxNode *>(handle); }
+
+// One line per node below `root`, pre-order: indentation by level, text,
+// value, flags and colour in hex.
+inline std::string Describe(ZelItemHandle root) {
+    std::string out;
+    const LbxNode *stop = Node(root);
+    for (const LbxNode *n = stop->firstChild; n;) {
+        char line[160];
+        std::snprintf(line, sizeof line, "%*s%ls v%d f%08x c%06x\n", 2 * n->level, "",
+                      reinterpret_cast<const wchar_t *>(n->item->text.c_str()), n->item->value,
+                      static_cast<unsigned>(n->item->flags), static_cast<unsigned>(n->item->color));
+        out += line;
+        if (n->firstChild) {
+            n = n->firstChild;
+            continue;
+        }
+        while (n != stop && !n->next) n = n->parent;
+        n = n == stop ? nullptr : n->next;
+    }
+    return out;
+}
+
+inline LbxChild ChildRecord(HWND window) {
+    LbxChild copy{};
+    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
+    if (void *p = handle ? LocalLock(handle) : nullptr) {
+        copy = *static_cast<LbxChild *>(p);
+        LocalUnlock(handle);
+    }
+    return copy;
+}
+
+inline int Rows(HWND list) { return static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)); }
+
+using zk::CPicArray;
+
+// The registries the list keeps in its properties.
+inline CPicArray *PicRegistry(HWND list) { return static_cast<CPicArray *>(GetPropW(list, L"ZK:PicList")); }
+inline void *FontRegistry(HWND list) { return GetPropW(list, L"ZK:FontList"); }
+
+// A registry entry, read through the record's own inline accessor.
+inline PIC *PicAt(const CPicArray *pics, int index) { return pics->Items()[static_cast<size_t>(index)]; }
+
+inline PIC *Pic(ZelPicHandle handle) { return reinterpret_cast<PIC *>(handle); }
+
+struct FileFixture : ::testing::Test {
+    zkt::TestWindow form{500, 400};
+    HWND list = nullptr;
+    HWND other = nullptr;
+
+    void SetUp() override {
+        list = form.addListBox(101, {10, 10, 200, 150}, kListStyle);
+        other = form.addListBox(102, {220, 10, 200, 150}, kListStyle);
+        ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOutline, nullptr), 1);
+        ASSERT_EQ(ZelListSetStyle(other, LBX_StyleOutline, nullptr), 1);
+    }
+
+    ZelItemHandle Root(HWND w = nullptr) { return ZelListGetRoot(w ? w : list); }
+    ZelItemHandle Child(ZelItemHandle parent, const wchar_t *text, int32_t value = 0, uint32_t flags = 0,
+                        ZelPicHandle normal = 0, ZelPicHandle selected = 0, HWND w = nullptr) {
+        return ZelListLoadChild(w ? w : list, parent, normal, selected, text, value, flags);
+    }
+
+    Bytes Save(HWND w) {
+        HostStr out = 0;
+        EXPECT_EQ(ZelListSaveOutline(w, &out), 0);
+        Bytes bytes = out ? Carried(out) : Bytes{};
+        if (out)
+            ZkHostStrRelease(out);
+        return bytes;
+    }
+    ZelItemHandle Load(HWND w, const Bytes &bytes) {
+        HostStr carrier = Carry(bytes);
+        const ZelItemHandle root = ZelListLoadOutline(w, carrier);
+        ZkHostStrRelease(carrier);
+        return root;
+    }
+};
+
+} // namespace ofiletest
