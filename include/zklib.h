@@ -77,7 +77,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/netprofile.h"
 #include "zklib/outline_tree.h"
 #include "zklib/outline_file.h"
-#include "zklib/outline_tree.h"
+#include "zklib/listfn.h"
 
 #ifdef __cplusplus
 }
