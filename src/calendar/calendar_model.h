@@ -90,6 +90,10 @@ public:
     int GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backColor, int32_t first, int32_t last,
                        const CDateTime *date) const;
     int MatchSpecial(const SSpecialRule &rule, uint32_t *textColor, uint32_t *backColor) const;
+    // GetCellSpecial for a day given as numbers, with its weekday: what
+    // painting asks for every cell. Show Special off or no rules answer 0.
+    int GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t weekday, uint32_t *textColor,
+                      uint32_t *backColor) const;
     int SetSpecialRule(const SSpecialRule &rule, int add);
     int ClearSpecials(int updateNow);
     const RuleStore &Rules() const { return rules_; }

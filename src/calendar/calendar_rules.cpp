@@ -23,6 +23,23 @@ int CCalendar::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backC
     return MatchSpecial(SSpecialRule(0, day, weekday, week, 0, 0), textColor, backColor);
 }
 
+int CCalendar::GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t weekday, uint32_t *textColor,
+                             uint32_t *backColor) const {
+    if (textColor)
+        *textColor = 0;
+    if (backColor)
+        *backColor = 0;
+    if (flags_.showSpecial != 1 || rules_.empty())
+        return 0;
+    SSpecialRule probe;
+    probe.year = year;
+    probe.month = month;
+    probe.day = day;
+    probe.weekday = weekday;
+    probe.week = day > 0 ? (day - 1) / 7 + 1 : 0;
+    return MatchSpecial(probe, textColor, backColor);
+}
+
 int CCalendar::MatchSpecial(const SSpecialRule &rule, uint32_t *textColor, uint32_t *backColor) const {
     if (textColor)
         *textColor = 0;

@@ -32,7 +32,7 @@ public:
     // A style flag was assigned, created or not. The control frame keeps
     // its own copy of the auto-size, pop-up and third to sixth flags, which
     // its window procedure reads.
-    virtual void FlagAssigned(uint32_t bit, int32_t value) {}
+    virtual void FlagAssigned(uint32_t /*bit*/, int32_t /*value*/) {}
 
 protected:
     ~CalendarWindow() = default;

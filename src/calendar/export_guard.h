@@ -3,14 +3,20 @@
 // under zk::GuardedControlText with its own literal failure words.
 #pragma once
 
+#include "calendar/cal_control.h"
 #include "calendar/calendar_model.h"
 #include "designer/control_guard.h"
 
 namespace zk::cal {
 
 // The one place that reads a control pointer: the pointer that
-// ZKM_ControlCreate announced is taken as the calendar model itself.
-inline CCalendar *CalendarOf(ZelCalControl control) { return reinterpret_cast<CCalendar *>(control); }
+// ZKM_ControlCreate announced is the calendar window object (a drop-down
+// hands out its pop-up's), and the exports work on its model. Null stays
+// null, for the guard's message.
+inline CCalendar *CalendarOf(ZelCalControl control) {
+    auto *window = reinterpret_cast<zk::CCalendar *>(control);
+    return window ? &window->Model() : nullptr;
+}
 
 // A date argument as the calendar holds it: the low four bits of its length.
 inline CDateTime DateArg(const HostDateTime &record) { return CDateTime(record); }

@@ -1,6 +1,7 @@
 #include "calendar/special_rule.h"
 
-#include <cstdio>
+#include <cstdint>
+#include <string>
 
 namespace zk::cal {
 
@@ -27,6 +28,25 @@ uint32_t KeyFields(int32_t type) {
     }
 }
 
+// "%.Nd" of value: a sign when negative, then at least `precision` digits.
+void AppendField(std::string &out, int32_t value, int precision) {
+    int64_t magnitude = value;
+    if (magnitude < 0) {
+        out += '-';
+        magnitude = -magnitude;
+    }
+    char digits[16];
+    int count = 0;
+    do {
+        digits[count++] = static_cast<char>('0' + magnitude % 10);
+        magnitude /= 10;
+    } while (magnitude > 0);
+    for (int pad = count; pad < precision; ++pad)
+        out += '0';
+    while (count > 0)
+        out += digits[--count];
+}
+
 } // namespace
 
 SSpecialRule::SSpecialRule(int32_t type_, const CDateTime &date, int32_t weekday_, int32_t week_,
@@ -37,11 +57,17 @@ SSpecialRule::SSpecialRule(int32_t type_, const CDateTime &date, int32_t weekday
 std::string SSpecialRule::Key() const {
     const uint32_t fields = KeyFields(type);
     auto pick = [fields](uint32_t field, int32_t value) { return (fields & field) ? value : 0; };
-    char key[64];
-    // "%04.4d%02.2d..." in the rule's own words: with a precision the 0
-    // flag changes nothing, so the plain precision writes the same text.
-    std::snprintf(key, sizeof key, "%.4d%.2d%.2d%.2d%.2d", pick(kYear, year), pick(kMonth, month),
-                  pick(kDay, day), pick(kWeekday, weekday), pick(kWeek, week));
+    // "%04.4d%02.2d%02.2d%02.2d%02.2d": with a precision the 0 flag changes
+    // nothing, so each field is its digits, at least the precision of them,
+    // after a minus sign when negative. Painting builds keys for every
+    // cell, so they are written here rather than through the C library.
+    std::string key;
+    key.reserve(24);
+    AppendField(key, pick(kYear, year), 4);
+    AppendField(key, pick(kMonth, month), 2);
+    AppendField(key, pick(kDay, day), 2);
+    AppendField(key, pick(kWeekday, weekday), 2);
+    AppendField(key, pick(kWeek, week), 2);
     return key;
 }
 

@@ -77,7 +77,9 @@ void CGenericControl::SetNotifyWindow(HWND window) {
 
 void CGenericControl::ControlNotify(int code) {
     HWND window = GetSafeHwnd();
-    if (!window)
+    // A pop-up made without a notify window has nobody to tell; posting to
+    // no window would put the command in the thread's own queue.
+    if (!window || !notifyWindow)
         return;
     const auto id = static_cast<WORD>(GetDlgCtrlID(window) & 0xFFFF);
     PostMessageW(notifyWindow, WM_COMMAND, MAKEWPARAM(id, static_cast<WORD>(code)),

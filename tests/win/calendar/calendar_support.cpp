@@ -12,7 +12,7 @@ namespace {
 class Library : public testing::Environment {
     void SetUp() override {
         zk::ModuleInstance = GetModuleHandleW(L"ZKLIB.dll");
-        zk::cal::CCalendar warmUp;
+        zk::CCalendar warmUp;
         ZelCalMarkDate(reinterpret_cast<ZelCalControl>(&warmUp), Date(2000, 1, 1), 1);
     }
 };
@@ -32,11 +32,13 @@ void CalendarExports::SetUp() {
     ZkHostFailAllocations(0);
     strings_ = ZkHostLiveStrings();
     arrays_ = ZkHostLiveArrays();
-    calendar = std::make_unique<zk::cal::CCalendar>();
+    object_ = std::make_unique<zk::CCalendar>();
+    calendar = &object_->Model();
 }
 
 void CalendarExports::TearDown() {
-    calendar.reset();
+    calendar = nullptr;
+    object_.reset();
     EXPECT_EQ(ZkHostLiveStrings(), strings_) << "host strings leaked";
     EXPECT_EQ(ZkHostLiveArrays(), arrays_) << "host arrays leaked";
 }

@@ -1,6 +1,7 @@
-// What the calendar export tests share: a calendar model made directly,
-// without a window, handed to the exports as the host would hand its
-// pointer; host dates and arrays; and a check that no test leaks.
+// What the calendar export tests share: a calendar control object made
+// directly, without a window (so its model is not created), handed to the
+// exports as the host would hand its pointer; host dates and arrays; and a
+// check that no test leaks.
 #pragma once
 
 #include <gtest/gtest.h>
@@ -11,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "calendar/cal_control.h"
 #include "calendar/calendar_model.h"
 #include "zkharness.h"
 #include "zkhost.h"
@@ -55,11 +57,13 @@ class CalendarExports : public testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
-    ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(calendar.get()); }
+    ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_.get()); }
 
-    std::unique_ptr<zk::cal::CCalendar> calendar;
+    // The model the exports work on.
+    zk::cal::CCalendar *calendar = nullptr;
 
 private:
+    std::unique_ptr<zk::CCalendar> object_;
     int32_t strings_ = 0, arrays_ = 0;
 };
 

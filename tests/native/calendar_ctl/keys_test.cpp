@@ -1,0 +1,139 @@
+// The keyboard of the control: which keys act, in which mode, and where
+// they leave the focus.
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <tuple>
+
+#include "calendar/date_ops.h"
+#include "control_fakes.h"
+
+namespace {
+
+using calctl::Control;
+using caltest::Ymd;
+using zk::cal::CDateTime;
+using Events = std::vector<std::string>;
+namespace k = zk::cal;
+
+// Records every date the host is asked to build, for the length of a scope.
+class ConstructRecorder {
+public:
+    ConstructRecorder() {
+        saved_ = zk::cal::DateOps();
+        original = saved_.construct;
+        asked.clear();
+        zk::cal::HostDateOps ops = saved_;
+        ops.construct = &Construct;
+        zk::cal::BindDateOps(ops);
+    }
+    ~ConstructRecorder() { zk::cal::BindDateOps(saved_); }
+    static inline std::vector<std::tuple<int, int, int>> asked;
+
+private:
+    static HostDateTime *Construct(HostDateTime *out, int32_t y, int32_t m, int32_t d, int32_t h, int32_t mi,
+                                   int32_t s) {
+        asked.emplace_back(y, m, d);
+        return original(out, y, m, d, h, mi, s);
+    }
+    static inline decltype(zk::cal::HostDateOps::construct) original = nullptr;
+    zk::cal::HostDateOps saved_{};
+};
+
+TEST(CalKeys, PageUpGoesForwardInTimeAndRepaintsTheCaption) {
+    Control c(2024, 3, 31);
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyPrior));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 4, 30}));
+    EXPECT_EQ(c.fx.Take(), (Events{"caption"}));
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyNext));
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyNext));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 29}));
+    c.fx.ctrl = true;
+    c.input.KeyDown(k::kKeyNext);
+    EXPECT_EQ(c.Focus(), (Ymd{2023, 3, 1})) << "a year back: the host rolls 29 February 2023 over";
+}
+
+TEST(CalKeys, CtrlPageUpOn29FebruaryAsksTheHostFor29FebruaryNextYear) {
+    Control c(2024, 2, 29);
+    c.fx.ctrl = true;
+    ConstructRecorder recorder;
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyPrior));
+    ASSERT_FALSE(ConstructRecorder::asked.empty());
+    EXPECT_EQ(ConstructRecorder::asked.front(), std::make_tuple(2025, 2, 29));
+    EXPECT_EQ(c.fx.Take(), (Events{"caption"}));
+}
+
+TEST(CalKeys, HomeAndEndWithTheirModifiers) {
+    Control c(2024, 2, 14); // cells 4 to 32; the 14th is cell 17
+    c.input.KeyDown(k::kKeyHome);
+    EXPECT_EQ(c.cal().FocusCell(), 14);
+    c.input.KeyDown(k::kKeyEnd);
+    EXPECT_EQ(c.cal().FocusCell(), 20);
+    c.fx.ctrl = true;
+    c.input.KeyDown(k::kKeyHome);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 1}));
+    c.input.KeyDown(k::kKeyEnd);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 29}));
+    c.fx.shift = true;
+    c.input.KeyDown(k::kKeyHome);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 1, 1}));
+    c.input.KeyDown(k::kKeyEnd);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 12, 31}));
+    EXPECT_EQ(c.cal().DisplayMonth(), 12);
+}
+
+TEST(CalKeys, ArrowsAndCharacters) {
+    Control c(2024, 3, 15);
+    c.input.KeyDown(k::kKeyDown);
+    c.input.KeyDown(k::kKeyRight);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 23}));
+    c.input.KeyDown(k::kKeyUp);
+    c.input.KeyDown(k::kKeyLeft);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+    EXPECT_TRUE(c.input.Char(u'+'));
+    EXPECT_TRUE(c.input.Char(u'+'));
+    EXPECT_TRUE(c.input.Char(u'-'));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 16}));
+    c.cal().SetFocusDate(CDateTime(2023, 7, 1), 0, 1);
+    EXPECT_TRUE(c.input.Char(u't'));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15})) << "today, by the host's clock";
+    EXPECT_FALSE(c.input.Char(u'x'));
+    EXPECT_FALSE(c.input.KeyDown(0x41)) << "keys the calendar leaves alone go to the default";
+}
+
+TEST(CalKeys, WithoutEnableKeyboardNothingActs) {
+    Control c(2024, 3, 15);
+    c.Style(CALS_EnableKeyboard, 0);
+    EXPECT_FALSE(c.input.KeyDown(k::kKeyRight));
+    EXPECT_FALSE(c.input.Char(u'+'));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+}
+
+TEST(CalKeys, ReturnOnAFormDoesNothingAndClosesAPopUp) {
+    Control c(2024, 3, 15);
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyReturn));
+    EXPECT_TRUE(c.fx.Take().empty());
+    c.Style(CALS_PopUp, 1);
+    EXPECT_TRUE(c.input.KeyDown(k::kKeyEscape));
+    const Events e = c.fx.Take();
+    ASSERT_FALSE(e.empty());
+    EXPECT_EQ(e.back(), "notify 8");
+    EXPECT_EQ(std::count(e.begin(), e.end(), std::string("post select 19")), 0) << "nothing was pressed";
+}
+
+TEST(CalKeys, SelectionKeysNeedMultipleSelection) {
+    Control c(2024, 3, 15);
+    c.cal().ClearMarks(0);
+    c.input.KeyDown(k::kKeySpace);
+    c.input.KeyDown(k::kKeyInsert);
+    EXPECT_EQ(c.cal().Marks().size(), 0u);
+    c.Style(CALS_MultipleSelection, 1);
+    c.input.KeyDown(k::kKeyInsert);
+    EXPECT_EQ(c.cal().IsMarked(CDateTime(2024, 3, 15)), 1);
+    c.input.KeyDown(k::kKeyDelete);
+    EXPECT_EQ(c.cal().IsMarked(CDateTime(2024, 3, 15)), 0);
+    c.input.KeyDown(k::kKeySpace);
+    EXPECT_EQ(c.cal().IsMarked(CDateTime(2024, 3, 15)), 1);
+}
+
+} // namespace

@@ -1,0 +1,145 @@
+// The calendar's classes, its creation on a form, the property block a
+// form's calendar loads, and the size that fits the month.
+#include "ctl_support.h"
+
+#include <cstring>
+
+#include "designer/block_io.h"
+
+namespace {
+
+using ctltest::FormCalendar;
+using ctltest::Ymd;
+
+TEST(CalendarClass, TheFormsClassIsRegisteredAsTheLibraryLoads) {
+    const HINSTANCE library = GetModuleHandleW(L"ZKLIB.dll");
+    WNDCLASSEXW wc{};
+    wc.cbSize = sizeof wc;
+    ASSERT_TRUE(GetClassInfoExW(library, L"ZK:cCalendar:10", &wc)) << "registered as the library loads";
+    EXPECT_EQ(wc.style, 0x6880u);
+    EXPECT_EQ(wc.hbrBackground, nullptr);
+    EXPECT_NE(wc.hCursor, nullptr);
+}
+
+TEST(CalendarCreation, TheAnnouncedPointerIsTheControlShowingToday) {
+    FormCalendar c;
+    ASSERT_NE(c.control(), 0);
+    EXPECT_EQ(ZelCalGetStyle(c.control()), 0x03CC) << "buttons, keyboard, extra, special, show extra, focus";
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+    EXPECT_EQ(c.FocusCell(), 19);
+    EXPECT_EQ(c.object().Model().DisplayMonth(), 3);
+    EXPECT_EQ(ZelCalIsDateMarked(c.control(), ctltest::Date(2024, 3, 15)), 1) << "the focus date is the mark";
+    RECT client{};
+    GetClientRect(c.hwnd(), &client);
+    EXPECT_EQ(c.layout().Client().right, client.right) << "laid out for its own client area";
+    EXPECT_GE(c.layout().CellWidth(), 240 / 7 - 1);
+}
+
+TEST(CalendarCreation, AutoSizeFitsTheWindowToTheMonthWhenTheFontChanges) {
+    FormCalendar c;
+    ZelCalSetStyle(c.control(), CALS_AutoSize, 1);
+    SendMessageW(c.hwnd(), WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
+    RECT window{};
+    GetWindowRect(c.hwnd(), &window);
+    const auto &l = c.layout();
+    EXPECT_EQ(window.right - window.left, 7 * l.CellWidth() + 8);
+    EXPECT_EQ(window.bottom - window.top, 8 * l.CellHeight() + 9);
+    EXPECT_EQ(l.Client().right, window.right - window.left) << "the layout follows the new size";
+}
+
+// A form whose design item holds a calendar block: new windows are bound to
+// the item before their first message, and the creation parameter says
+// that the host stored properties.
+class StoredBlock : public testing::Test {
+protected:
+    void SetUp() override {
+        outline = ZkHostDesignNewOutline();
+        item = ZkHostDesignAddItem(outline, 0, 1);
+        self = this;
+        hook = SetWindowsHookExW(WH_CBT, &Bind, nullptr, GetCurrentThreadId());
+    }
+    void TearDown() override {
+        UnhookWindowsHookEx(hook);
+        ZkHostDesignFreeOutline(outline);
+    }
+    void Store(zk::SPropCalendar &block, uint32_t calendarVersion = 2) {
+        zk::CMemFile file;
+        zk::StoreBlock(file, block);
+        std::vector<uint8_t> bytes(file.Data(), file.Data() + file.GetLength());
+        std::memcpy(bytes.data() + 10, &calendarVersion, 4); // after the generic part
+        if (calendarVersion == 1)
+            bytes.pop_back(); // a version 1 writer had no alternateButtons
+        bytes.push_back(0);
+        bytes.push_back(0);
+        ASSERT_EQ(HostPropSet(outline, item, L"ZK:Calendar", bytes.data(), static_cast<int32_t>(bytes.size())), 1);
+    }
+    static LRESULT CALLBACK Bind(int code, WPARAM wParam, LPARAM lParam) {
+        if (code == HCBT_CREATEWND)
+            ZkHostDesignBindWindow(self->outline, self->item, reinterpret_cast<HWND>(wParam));
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+    }
+
+    HostOutline outline = 0;
+    HostItem item = 0;
+    HHOOK hook = nullptr;
+    uint8_t parameter[8] = {0, 0, 0, 0, 1, 0, 0, 0}; // bit 0 of byte 4: stored properties
+    static inline StoredBlock *self = nullptr;
+};
+
+TEST_F(StoredBlock, VersionTwoAppliesEveryField) {
+    zk::SPropCalendar block;
+    block.style5 = 1; // Multiple Selection
+    block.etchedLook = 1;
+    block.showGridlines = 1;
+    block.alternateButtons = 1;
+    block.showExtra = 0;
+    block.initialDateMode = 1;
+    block.initialDate = u"2024-02-29";
+    Store(block);
+    FormCalendar c({10, 10, 240, 180}, parameter);
+    const int32_t style = ZelCalGetStyle(c.control());
+    EXPECT_EQ(style & (CALS_MultipleSelection | CALS_EtchedLook | CALS_ShowGridlines | CALS_AlternateButtons),
+              CALS_MultipleSelection | CALS_EtchedLook | CALS_ShowGridlines | CALS_AlternateButtons);
+    EXPECT_EQ(style & CALS_ShowExtra, 0);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 29})) << "the static initial date";
+    EXPECT_EQ(c.object().Model().DisplayMonth(), 2);
+}
+
+TEST_F(StoredBlock, VersionOneLacksAlternateButtonsAndABadDateStaysToday) {
+    zk::SPropCalendar block;
+    block.alternateButtons = 1;
+    block.showSpecial = 1;
+    block.initialDateMode = 1;
+    block.initialDate = u"no date at all";
+    Store(block, 1);
+    FormCalendar c({10, 10, 240, 180}, parameter);
+    const int32_t style = ZelCalGetStyle(c.control());
+    EXPECT_EQ(style & CALS_AlternateButtons, 0);
+    EXPECT_EQ(style & CALS_ShowSpecial, CALS_ShowSpecial);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+}
+
+TEST_F(StoredBlock, VersionZeroAndAShortBlockKeepTheDefaults) {
+    zk::SPropCalendar block;
+    block.etchedLook = 1;
+    Store(block, 0);
+    {
+        FormCalendar c({10, 10, 240, 180}, parameter);
+        EXPECT_EQ(ZelCalGetStyle(c.control()), 0x03CC);
+    }
+    const uint8_t shortBlock[] = {1, 0, 0, 0, 1, 1, 0, 0};
+    ASSERT_EQ(HostPropSet(outline, item, L"ZK:Calendar", shortBlock, sizeof shortBlock), 1);
+    FormCalendar c({10, 10, 240, 180}, parameter);
+    EXPECT_EQ(ZelCalGetStyle(c.control()), 0x03CC) << "a block that does not read to its end is not applied";
+}
+
+TEST_F(StoredBlock, WithoutTheStoredFlagNothingIsRead) {
+    zk::SPropCalendar block;
+    block.etchedLook = 1;
+    Store(block);
+    parameter[4] = 0;
+    FormCalendar c({10, 10, 240, 180}, parameter);
+    EXPECT_EQ(ZelCalGetStyle(c.control()) & CALS_EtchedLook, 0);
+}
+
+} // namespace
