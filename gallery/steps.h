@@ -23,6 +23,11 @@ void RunFileSteps(Report &report);
 void RunOutlineArtSteps(Report &report, Form &form, ArtPanel &panel);
 // An adopted list box and combo box with coloured rows, fonts, pictures.
 void RunOutlineListSteps(Report &report, Form &form, Pictures &pictures);
+// An outline list through expand, collapse, demote, promote and a drag, each state photographed.
+void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures);
+// The calendar control in its looks (default, etched, marked dates,
+// special-day rules, disabled, pop-up), a picture of each.
+void RunCalendarSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);
