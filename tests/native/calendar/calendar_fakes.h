@@ -1,12 +1,14 @@
 // What the calendar tests put in place of the host and the window: the
-// reference host's arithmetic with a fixed clock, resource texts that name
-// their ids, system colours that name their indices, a window that records
-// what the model asks of it, and an independent calendar to check against.
+// reference host's arithmetic with a fixed clock (2024-03-15 13:45:10),
+// resource texts "#<id>", system colours 0x00C0FF00 + index, a window that
+// records what the model asks of it, and the C++ library's calendar as an
+// independent check.
 #pragma once
 
 #include <chrono>
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "calendar/calendar_model.h"
@@ -17,9 +19,6 @@ namespace caltest {
 
 using zk::cal::CDateTime;
 
-// The clock of every test: 2024-03-15 13:45:10, unless a test moves it.
-void SetClock(const HostDateTime &now);
-HostDateTime DefaultNow();
 // Moves the clock for the length of a scope.
 class ClockAt {
 public:
@@ -30,16 +29,13 @@ private:
     HostDateTime saved_;
 };
 
-// The text of resource `id` in these tests: "#" and the id.
 std::u16string ResourceText(uint32_t id);
-// The system colour of index i in these tests: 0x00C0FF00 + i.
 inline uint32_t SysColor(int32_t index) { return 0x00C0FF00u + static_cast<uint32_t>(index); }
 
 // A record straight from the reference host, bypassing the classes.
 HostDateTime Record(int year, int month, int day, int hour = 0, int minute = 0, int second = 0,
                     int microsecond = 0);
 
-// ---- the independent calendar: the C++ library's own ---------------------------
 inline std::chrono::sys_days Days(int year, int month, int day) {
     return std::chrono::sys_days(std::chrono::year(year) / std::chrono::month(static_cast<unsigned>(month)) /
                                  std::chrono::day(static_cast<unsigned>(day)));
@@ -47,9 +43,10 @@ inline std::chrono::sys_days Days(int year, int month, int day) {
 // 1 Sunday .. 7 Saturday.
 inline int Weekday(std::chrono::sys_days d) { return static_cast<int>(std::chrono::weekday(d).c_encoding()) + 1; }
 inline int MonthLength(int year, int month) {
-    const auto first = std::chrono::year(year) / std::chrono::month(static_cast<unsigned>(month)) / 1;
-    const auto next = first + std::chrono::months(1);
-    return static_cast<int>((std::chrono::sys_days(next) - std::chrono::sys_days(first)).count());
+    const auto first = Days(year, month, 1);
+    return static_cast<int>((std::chrono::sys_days((std::chrono::year_month_day(first) + std::chrono::months(1))) -
+                             first)
+                                .count());
 }
 struct Ymd {
     int year, month, day;
@@ -63,23 +60,22 @@ inline Ymd Parts(std::chrono::sys_days d) {
 inline Ymd Parts(const CDateTime &d) { return {d.GetYear(), d.GetMonth(), d.GetDay()}; }
 std::ostream &operator<<(std::ostream &out, const Ymd &d);
 
-// ---- a window that records -------------------------------------------------------
 class RecordingWindow : public zk::cal::CalendarWindow {
 public:
     bool IsCreated() const override { return created; }
     void Invalidate(zk::cal::CalArea area, bool erase) override;
-    void InvalidateCell(int32_t cell) override;
+    void InvalidateCell(int32_t cell) override { events.push_back("cell " + std::to_string(cell)); }
     void UpdateNow() override { events.push_back("update"); }
     void RedrawAll() override { events.push_back("redraw"); }
     void Notify(int32_t code) override { events.push_back("notify " + std::to_string(code)); }
     // The events since the last call, which forgets them.
-    std::vector<std::string> Take();
+    std::vector<std::string> Take() { return std::exchange(events, {}); }
 
     bool created = true;
     std::vector<std::string> events;
 };
 
-// A model on display at year/month with a created window attached.
+// A model on display at year/month with a window attached.
 struct Shown {
     Shown(int year, int month, bool created = true);
     zk::cal::CCalendar cal;

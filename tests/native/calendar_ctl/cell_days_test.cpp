@@ -2,8 +2,6 @@
 // dates, keys and special rules, cell by cell, over many months.
 #include <gtest/gtest.h>
 
-#include <climits>
-#include <cstdio>
 
 #include "calendar/cal_nav.h"
 #include "control_fakes.h"
@@ -34,30 +32,6 @@ TEST(CalCellDays, AgreeWithTheModelsDatesKeysAndRules) {
                 EXPECT_EQ(b1, b2);
             }
         }
-    }
-}
-
-} // namespace
-
-namespace {
-
-// "%04.4d%02.2d..." writes what "%.4d%.2d..." writes: the 0 flag gives way to the precision.
-TEST(CalRuleKeys, AreTheTextOfTheirFormat) {
-    const int32_t values[] = {0, 1, 9, 10, 99, 100, 2024, 12345, -1, -5, -2024, INT32_MAX, INT32_MIN};
-    for (int32_t v : values) {
-        zk::cal::SSpecialRule r;
-        r.type = SPECIAL_Date;
-        r.year = v;
-        r.month = v;
-        r.day = -v == v ? v : 7;
-        char expected[96];
-        std::snprintf(expected, sizeof expected, "%.4d%.2d%.2d%.2d%.2d", r.year, r.month, r.day, 0, 0);
-        EXPECT_EQ(r.Key(), expected) << v;
-        r.type = SPECIAL_YearWeekday;
-        r.weekday = v;
-        r.week = 3;
-        std::snprintf(expected, sizeof expected, "%.4d%.2d%.2d%.2d%.2d", 0, r.month, 0, v, 3);
-        EXPECT_EQ(r.Key(), expected) << v;
     }
 }
 

@@ -46,14 +46,6 @@ public:
         out.swap(events);
         return out;
     }
-    // Whether an event was recorded since the last Take.
-    bool Saw(const std::string &event) const {
-        for (const auto &e : events)
-            if (e == event)
-                return true;
-        return false;
-    }
-
     bool timersFail = false;
     bool focused = true;
     int32_t validateAnswer = 1;

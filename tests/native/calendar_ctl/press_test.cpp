@@ -16,7 +16,6 @@ namespace k = zk::cal;
 bool Has(const Events &events, const std::string &event) {
     return std::find(events.begin(), events.end(), event) != events.end();
 }
-// Position of an event, or -1.
 long At(const Events &events, const std::string &event) {
     const auto found = std::find(events.begin(), events.end(), event);
     return found == events.end() ? -1 : found - events.begin();
@@ -39,32 +38,19 @@ TEST(CalPressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
 
 TEST(CalPressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
     Control c(2024, 3, 15);
-    const auto p = c.Centre(10);
-    c.input.LButtonDown(p.x, p.y, 0);
-    EXPECT_TRUE(Has(c.fx.Take(), "capture"));
-    c.input.LButtonUp(p.x, p.y, 0);
-    const Events e = c.fx.Take();
-    EXPECT_TRUE(Has(e, "release"));
-    EXPECT_TRUE(Has(e, "post select 10"));
-    EXPECT_FALSE(Has(e, "notify 8"));
-}
-
-TEST(CalPressGrid, APressOnAGapLeavesTheFocusWhereItWas) {
-    Control c(2024, 3, 15);
     const auto cell = c.layout.CellRect(10);
     c.input.LButtonDown(cell.right, cell.top + 2, 0); // the gap after cell 10
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+    EXPECT_TRUE(Has(c.fx.Take(), "capture"));
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15})) << "a gap leaves the focus where it was";
     EXPECT_EQ(c.state, k::CALF_GridDown);
     c.input.LButtonUp(cell.right, cell.top + 2, 0);
-    EXPECT_TRUE(Has(c.fx.Take(), "post select 19")) << "the release still selects the focus cell";
-}
-
-TEST(CalPressGrid, AnExtraCellIsNotTakenWithoutSelectExtra) {
-    Control c(2024, 3, 15);
+    const Events e = c.fx.Take();
+    EXPECT_TRUE(Has(e, "release"));
+    EXPECT_TRUE(Has(e, "post select 19")) << "the release selects the focus cell";
+    EXPECT_FALSE(Has(e, "notify 8"));
     c.Style(CALS_SelectExtra, 0);
-    const auto p = c.Centre(2);
-    c.input.LButtonDown(p.x, p.y, 0);
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+    c.input.LButtonDown(c.Centre(2).x, c.Centre(2).y, 0);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15})) << "an extra cell is not taken without Select Extra";
 }
 
 TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
@@ -82,39 +68,33 @@ TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
     EXPECT_EQ(c.fx.Take(), (Events{"stop 500", "start 501/75"}));
     c.input.MouseMove(p.x, 5, 0); // off the grid, inside the client
     EXPECT_EQ(c.fx.Take(), (Events{"stop 500", "stop 501"}));
-    // Back on the grid the pointer takes the focus again.
     const auto q = c.Centre(30);
     c.input.MouseMove(q.x, q.y, 0);
     EXPECT_FALSE(c.state & k::CALF_Outside);
-    EXPECT_EQ(c.cal().FocusCell(), 30);
-    // A release outside the grid completes nothing.
+    EXPECT_EQ(c.cal().FocusCell(), 30) << "back on the grid the pointer takes the focus again";
     c.input.MouseMove(q.x, 130, 0);
     c.fx.Take();
     c.input.LButtonUp(q.x, 130, 0);
-    EXPECT_FALSE(Has(c.fx.Take(), "post select 30"));
+    EXPECT_FALSE(Has(c.fx.Take(), "post select 30")) << "a release outside the grid completes nothing";
     EXPECT_EQ(c.state, 0);
 }
 
-TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAtOnce) {
+TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) {
     Control c(2024, 3, 15);
     c.fx.timersFail = true;
     const auto p = c.Centre(19);
     c.input.LButtonDown(p.x, p.y, 0);
     c.input.MouseMove(p.x, 150, 0);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 22}));
+    Control d(2024, 3, 15);
+    d.Style(CALS_EnableKeyboard, 0);
+    d.input.LButtonDown(p.x, p.y, 0);
+    d.input.MouseMove(p.x, 150, 0);
+    d.input.Timer(k::kTimerScrollDown);
+    EXPECT_EQ(d.Focus(), (Ymd{2024, 3, 15}));
 }
 
-TEST(CalPressGrid, WithoutTheKeyboardADragDoesNotScroll) {
-    Control c(2024, 3, 15);
-    c.Style(CALS_EnableKeyboard, 0);
-    const auto p = c.Centre(19);
-    c.input.LButtonDown(p.x, p.y, 0);
-    c.input.MouseMove(p.x, 150, 0);
-    c.input.Timer(k::kTimerScrollDown);
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
-}
-
-TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeys) {
+TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksArePosted) {
     Control c(2024, 3, 15);
     c.Style(CALS_MultipleSelection, 1);
     c.cal().ClearMarks(0);
@@ -123,15 +103,11 @@ TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeys) {
     c.input.LButtonUp(p.x, p.y, 0);
     p = c.Centre(12);
     c.input.LButtonDown(p.x, p.y, k::kMouseShift | k::kMouseControl);
+    c.input.LButtonUp(p.x, p.y, 0);
     EXPECT_EQ(c.cal().Marks().size(), 3u) << "6 to 8 March, from the anchor";
-}
-
-TEST(CalPressGrid, ADoubleClickPressesAndPostsIt) {
-    Control c(2024, 3, 15);
-    const auto p = c.Centre(20);
-    c.input.LButtonDblClk(p.x, p.y, 0);
-    const Events e = c.fx.Take();
-    EXPECT_TRUE(Has(e, "post dblclk 20"));
+    c.fx.Take();
+    c.input.LButtonDblClk(c.Centre(20).x, c.Centre(20).y, 0);
+    EXPECT_TRUE(Has(c.fx.Take(), "post dblclk 20"));
     EXPECT_EQ(c.state, k::CALF_GridDown);
     c.input.LButtonDblClk(60, 5, 0); // the caption
     EXPECT_FALSE(Has(c.fx.Take(), "post dblclk 20"));
@@ -160,6 +136,8 @@ TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     EXPECT_EQ(c.state, 0);
     c.input.Timer(k::kTimerCatchUp);
     EXPECT_EQ(c.fx.Take(), (Events{"invalidate", "stop 502"}));
+    EXPECT_FALSE(c.input.Timer(499)) << "other timers are not the calendar's";
+    EXPECT_FALSE(c.input.Timer(507));
 }
 
 TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
@@ -178,11 +156,12 @@ TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     EXPECT_TRUE(Has(c.fx.Take(), "start 502/100"));
 }
 
-TEST(CalPressButton, ReleasedOutsideNothingMoreHappens) {
-    Control c(2024, 3, 15);
+TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut) {
+    Control c(2024, 3, 31);
     const auto l = c.layout.LeftButton();
     c.input.LButtonDown(l.left + 2, 3, 0);
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 15}));
+    EXPECT_EQ(c.cal().DisplayMonth(), 2);
+    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 2})) << "31 February is the host's 2 March, an extra cell of February";
     c.input.MouseMove(60, 50, 0);
     c.fx.Take();
     c.input.LButtonUp(60, 50, 0);
@@ -190,22 +169,10 @@ TEST(CalPressButton, ReleasedOutsideNothingMoreHappens) {
     EXPECT_FALSE(Has(e, "start 502/100"));
     EXPECT_FALSE(Has(e, "caption"));
     EXPECT_EQ(c.state, 0);
-}
-
-TEST(CalPressButton, TheMonthStepKeepsTheDayUncut) {
-    Control c(2024, 3, 31);
-    const auto l = c.layout.LeftButton();
-    c.input.LButtonDown(l.left + 2, 3, 0);
-    EXPECT_EQ(c.cal().DisplayMonth(), 2);
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 2})) << "31 February is the host's 2 March, an extra cell of February";
-}
-
-TEST(CalPressButton, DisabledButtonsEndThePress) {
-    Control c(2024, 3, 15);
     c.Style(CALS_EnableButtons, 0);
-    c.input.LButtonDown(c.layout.LeftButton().left + 2, 3, 0);
-    EXPECT_EQ(c.state, 0);
-    EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
+    c.input.LButtonDown(l.left + 2, 3, 0);
+    EXPECT_EQ(c.state, 0) << "disabled buttons end the press";
+    EXPECT_EQ(c.cal().DisplayMonth(), 2);
 }
 
 TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
@@ -218,18 +185,8 @@ TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
     c.fx.validateAnswer = 1;
     c.input.LButtonDown(p.x, p.y, 0);
-    const Events e = c.fx.Take();
-    EXPECT_EQ(At(e, "focus"), 1);
+    EXPECT_EQ(At(c.fx.Take(), "focus"), 1);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 21}));
-}
-
-TEST(CalPressFocus, APressBesideAPopUpAsksToCloseAndStillCounts) {
-    Control c(2024, 3, 15);
-    c.Style(CALS_PopUp, 1);
-    c.input.LButtonDown(-5, 40, 0);
-    const Events e = c.fx.Take();
-    EXPECT_EQ(e.at(0), "release");
-    EXPECT_EQ(e.at(1), "notify 8");
 }
 
 TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
@@ -251,9 +208,16 @@ TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 5, 15})) << "ticks count again";
 }
 
-TEST(CalPressFocus, APopUpHidesAndClosesUpWhenItLosesTheFocus) {
+TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
     Control c(2024, 3, 15);
     c.Style(CALS_PopUp, 1);
+    c.input.LButtonDown(-5, 40, 0);
+    const Events beside = c.fx.Take();
+    ASSERT_GE(beside.size(), 2u);
+    EXPECT_EQ(beside[0], "release");
+    EXPECT_EQ(beside[1], "notify 8");
+    c.input.LButtonUp(-5, 40, 0);
+    c.fx.Take();
     c.input.FocusLost();
     EXPECT_EQ(c.fx.Take(), (Events{"release", "hide", "notify 8", "notify 2"}));
     c.input.LButtonDown(c.Centre(3).x, c.Centre(3).y, 0);
@@ -267,12 +231,6 @@ TEST(CalPressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
     c.Style(CALS_ShowFocus, 0);
     c.input.FocusGained();
     EXPECT_TRUE(c.fx.Take().empty());
-}
-
-TEST(CalPressTimers, OtherTimersAreNotTheCalendars) {
-    Control c(2024, 3, 15);
-    EXPECT_FALSE(c.input.Timer(499));
-    EXPECT_FALSE(c.input.Timer(507));
 }
 
 } // namespace

@@ -8,39 +8,11 @@ using zk::SPropGeneric;
 
 namespace {
 
-Bytes Image(SPropGeneric &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return Bytes(file.Data(), file.Data() + file.GetLength());
-}
-
 std::vector<int32_t> Styles(const SPropGeneric &b) {
     return {b.style1, b.style2, b.style3, b.style4, b.style5, b.style6};
 }
 
 const std::vector<int32_t> kDefaults = {0, 1, 0, 1, 0, 1};
-
-TEST(GenericBlock, DefaultsAndTheirImage) {
-    SPropGeneric block;
-    EXPECT_EQ(Styles(block), kDefaults);
-    EXPECT_EQ(Image(block), (Bytes{0x01, 0x00, 0x00, 0x00, 0x00, 0x01, 0x00, 0x01, 0x00, 0x01}))
-        << "no class tag at the top: version 1, then one byte per style";
-}
-
-TEST(GenericBlock, RoundTripOfEveryStyle) {
-    SPropGeneric block;
-    block.style1 = 1;
-    block.style2 = 0;
-    block.style3 = 1;
-    block.style4 = 0;
-    block.style5 = 1;
-    block.style6 = 0;
-    const Bytes image = Image(block);
-    EXPECT_EQ(image, (Bytes{0x01, 0x00, 0x00, 0x00, 0x01, 0x00, 0x01, 0x00, 0x01, 0x00}));
-    SPropGeneric back;
-    EXPECT_TRUE(zk::LoadBlockBytes(image.data(), image.size(), back));
-    EXPECT_EQ(Styles(back), Styles(block));
-}
 
 TEST(GenericBlock, AnyVersionButZeroIsReadAndBytesWidenWithoutSign) {
     const Bytes image = {0x07, 0x00, 0x00, 0x80, 0xFF, 0x02, 0x00, 0x00, 0x01, 0x80};
@@ -78,14 +50,6 @@ TEST(GenericBlock, AShortRecordKeepsTheDefaultsOfWhatItLacks) {
     SPropGeneric cut;
     EXPECT_FALSE(zk::LoadBlockBytes(versionOnly.data(), versionOnly.size(), cut));
     EXPECT_EQ(Styles(cut), kDefaults);
-}
-
-TEST(GenericBlock, TrailingBytesAreLeftUnread) {
-    const Bytes image = {0x01, 0x00, 0x00, 0x00, 0x01, 0x01, 0x01, 0x01, 0x01, 0x01, 0xEE, 0xEE};
-    zk::CMemFile file = FileOf(image);
-    SPropGeneric block;
-    EXPECT_TRUE(zk::LoadBlock(file, block));
-    EXPECT_EQ(file.Remaining(), 2u);
 }
 
 TEST(HeldBlock, TheBlockIsFollowedByAVersionWordThatIsReadAndIgnored) {

@@ -63,14 +63,11 @@ TEST_F(DesignModel, AttributesAreAddressedByNumberAndIndex) {
     const auto outline = store.NewOutline();
     const auto item = store.AddItem(outline, 0, 22);
     ASSERT_TRUE(store.SetAttribute(outline, item, 286, 0, u"ZK:cCalendar:10"));
-    ASSERT_TRUE(store.SetAttribute(outline, item, 286, 1, u"second"));
     ASSERT_TRUE(store.SetAttribute(outline, item, 287, 0, u"cCalendar"));
     EXPECT_EQ(store.GetAttribute(outline, item, 286, 0)->text, u"ZK:cCalendar:10");
-    EXPECT_EQ(store.GetAttribute(outline, item, 286, 1)->text, u"second");
-    EXPECT_EQ(store.GetAttribute(outline, item, 286, 2), nullptr);
+    EXPECT_EQ(store.GetAttribute(outline, item, 286, 1), nullptr);
     ASSERT_TRUE(store.DeleteAttribute(outline, item, 286));
     EXPECT_EQ(store.GetAttribute(outline, item, 286, 0), nullptr);
-    EXPECT_EQ(store.GetAttribute(outline, item, 286, 1), nullptr);
     EXPECT_EQ(store.GetAttribute(outline, item, 287, 0)->text, u"cCalendar") << "other attributes stay";
     EXPECT_TRUE(store.DeleteAttribute(outline, item, 999)) << "nothing to delete is no error";
     EXPECT_FALSE(store.DeleteAttribute(outline, 0, 286));
@@ -95,14 +92,6 @@ TEST_F(DesignModel, StringsHandedOutGoWhenTheirValuesChangeOrTheOutlineGoes) {
     EXPECT_EQ(store.WindowItem(0x99), std::make_pair(0u, 0u)) << "windows of a gone outline are unbound";
     EXPECT_EQ(store.Find(outline, item), nullptr);
     EXPECT_FALSE(store.FreeOutline(outline));
-}
-
-TEST_F(DesignModel, PropertyNamesAreExact) {
-    const auto outline = store.NewOutline();
-    const auto item = store.AddItem(outline, 0, 22);
-    store.SetProperty(outline, item, u"ZK:Calendar", {1});
-    EXPECT_NE(store.FindProperty(outline, item, u"ZK:Calendar"), nullptr);
-    EXPECT_EQ(store.FindProperty(outline, item, u"zk:calendar"), nullptr);
 }
 
 } // namespace

@@ -13,10 +13,6 @@ TEST(SpinRecord, ImageIsTheRecordLittleEndianAndTwoZeros) {
     EXPECT_EQ(Bytes(image.begin(), image.end()),
               (Bytes{0x01, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0x7F, 0x01, 0, 0, 0, 0, 0, 0, 0, 0, 0}))
         << "defaults 1, 0x7FFFFFFF, 1, 0";
-    block = {-5, 1000, 25, -2};
-    const auto other = zk::SpinBlockImage(block);
-    EXPECT_EQ(Bytes(other.begin(), other.end()),
-              (Bytes{0xFB, 0xFF, 0xFF, 0xFF, 0xE8, 0x03, 0, 0, 0x19, 0, 0, 0, 0xFE, 0xFF, 0xFF, 0xFF, 0, 0}));
 }
 
 TEST(SpinRecord, SeventeenBytesCopyFifteenAndKeepTheTopByteOfTheAdjust) {

@@ -55,15 +55,6 @@ TEST(DebugString, WithTheBoxFlagShowsABoxCaptionedDebug) {
     EXPECT_TRUE(system.debug.empty());
 }
 
-TEST(DebugAssert, ATrueConditionShowsNothing) {
-    FakeSystem system;
-    Diagnostics diag(system);
-    EXPECT_EQ(diag.Assert(1, u"fine"), 1);
-    EXPECT_EQ(diag.Assert(-5, nullptr), 1);
-    EXPECT_TRUE(system.boxes.empty());
-    EXPECT_TRUE(system.memory.allocs.empty());
-}
-
 TEST(DebugAssert, AFalseConditionNamesTheActiveWindow) {
     FakeSystem system;
     Diagnostics diag(system);

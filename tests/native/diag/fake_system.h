@@ -65,10 +65,6 @@ public:
     }
 
     size_t Live() const { return blocks_.size(); }
-    uint32_t SizeOf(Handle handle) {
-        Block *block = Find(handle);
-        return block ? block->size : 0;
-    }
 
     // The next `count` allocations and resizes are refused (after `skip` more succeed).
     void FailNext(int count, int skip = 0) {

@@ -11,37 +11,6 @@ using diagtest::FakeSystem;
 
 namespace {
 
-TEST(ReportSink, TheDebuggerGetsEachPieceAsItComes) {
-    FakeSystem system;
-    ReportSink out(system, false);
-    ASSERT_TRUE(out.Open());
-    out.Put(u"a");
-    out.Put(nullptr);
-    out.Put(u"bc");
-    EXPECT_EQ((std::vector<std::u16string>{u"a", u"", u"bc"}), system.debug);
-    out.Show(308);
-    EXPECT_TRUE(system.boxes.empty());
-    EXPECT_TRUE(system.memory.allocs.empty());
-}
-
-TEST(ReportSink, GatheredPiecesShowInOneBox) {
-    FakeSystem system;
-    {
-        ReportSink out(system, true);
-        ASSERT_TRUE(out.Open());
-        EXPECT_EQ(out.Capacity(), 512u);
-        out.Put(u"Total ");
-        out.Put(u"run");
-        out.Put(u": 0:00.05");
-        EXPECT_TRUE(system.debug.empty());
-        out.Show(308);
-        EXPECT_EQ(system.memory.Live(), 0u);
-    }
-    ASSERT_EQ(system.boxes.size(), 1u);
-    EXPECT_EQ(system.boxes[0].text, u"Total run: 0:00.05");
-    EXPECT_EQ(system.boxes[0].caption, 308u);
-}
-
 TEST(ReportSink, CharactersUpToTheCapacityInBytesStayInTheBlock) {
     FakeSystem system;
     ReportSink out(system, true);

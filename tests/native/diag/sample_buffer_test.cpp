@@ -16,15 +16,6 @@ HostDateTime At(uint8_t second) {
     return clock;
 }
 
-TEST(SampleBuffer, NothingWithoutAStart) {
-    FakeBlocks memory;
-    SampleBuffer buffer(memory);
-    EXPECT_FALSE(buffer.Add(1, At(0), u"x"));
-    std::vector<Sample> samples;
-    EXPECT_FALSE(buffer.Read(samples));
-    EXPECT_TRUE(memory.allocs.empty());
-}
-
 TEST(SampleBuffer, StartTakes512BytesAndTheFirstSampleGrowsIt) {
     FakeBlocks memory;
     SampleBuffer buffer(memory);
@@ -104,22 +95,6 @@ TEST(SampleBuffer, FailuresKeepWhatWasThere) {
     ASSERT_TRUE(buffer.Read(samples));
     ASSERT_EQ(samples.size(), 1u);
     EXPECT_EQ(samples[0].label, u"kept");
-}
-
-TEST(SampleBuffer, ReleaseFreesTheBlock) {
-    FakeBlocks memory;
-    {
-        SampleBuffer buffer(memory);
-        ASSERT_TRUE(buffer.Start());
-        ASSERT_TRUE(buffer.Add(1, At(0), u"a"));
-        buffer.Release();
-        EXPECT_FALSE(buffer.Exists());
-        EXPECT_EQ(buffer.Count(), 0u);
-        EXPECT_EQ(memory.Live(), 0u);
-        ASSERT_TRUE(buffer.Start());
-    }
-    // The buffer's end frees what it still has.
-    EXPECT_EQ(memory.Live(), 0u);
 }
 
 } // namespace

@@ -80,30 +80,11 @@ TEST(HostCalendar, DayWalkAgreesBothWays) {
     }
 }
 
-TEST(HostCalendar, KnownWeekdays) {
-    const struct {
-        int y, m, d, weekday;
-    } known[] = {{1899, 12, 30, 0}, {2000, 1, 1, 0},  {2024, 2, 29, 5}, {1970, 1, 1, 5},
-                 {1900, 1, 1, 2},   {2020, 5, 17, 1}, {1, 1, 1, 2}};
-    for (const auto &k : known)
-        EXPECT_EQ(zkh::dateToParts(zkh::dateFromParts(k.y, k.m, k.d, 0, 0, 0)).weekday, k.weekday)
-            << k.y << "-" << k.m << "-" << k.d;
-}
-
-TEST(HostCalendar, LeapRules) {
-    EXPECT_EQ(zkh::daysInMonth(1900, 2), 28);
-    EXPECT_EQ(zkh::daysInMonth(2000, 2), 29);
-    EXPECT_EQ(zkh::daysInMonth(2024, 2), 29);
-    EXPECT_EQ(zkh::daysInMonth(2023, 2), 28);
-    EXPECT_EQ(zkh::daysInMonth(2023, 1), 31);
-    EXPECT_EQ(zkh::daysInMonth(2023, 4), 30);
-    EXPECT_EQ(zkh::daysInMonth(0, 2), 29);
-    EXPECT_EQ(zkh::daysInMonth(-4, 2), 29);
-    EXPECT_EQ(zkh::daysInMonth(-1, 2), 28);
-    EXPECT_EQ(zkh::daysInMonth(-100, 2), 28);
-    EXPECT_EQ(zkh::daysInMonth(-400, 2), 29);
-    EXPECT_EQ(zkh::daysInMonth(2023, 0), 0);
-    EXPECT_EQ(zkh::daysInMonth(2023, 13), 0);
+TEST(HostCalendar, LeapRulesAndBadMonths) {
+    const int cases[][3] = {{1900, 2, 28}, {2000, 2, 29}, {2023, 4, 30}, {0, 2, 29},   {-1, 2, 28},
+                            {-100, 2, 28}, {-400, 2, 29}, {2023, 0, 0},  {2023, 13, 0}};
+    for (const auto &c : cases)
+        EXPECT_EQ(zkh::daysInMonth(c[0], c[1]), c[2]) << c[0] << "-" << c[1];
 }
 
 void expectParts(const HostDateTime &d, int y, int mo, int da, int h = 0, int mi = 0, int s = 0,
@@ -120,13 +101,9 @@ void expectParts(const HostDateTime &d, int y, int mo, int da, int h = 0, int mi
 
 TEST(HostCalendar, FieldsRollOver) {
     expectParts(zkh::dateFromParts(2020, 13, 1, 0, 0, 0), 2021, 1, 1);
-    expectParts(zkh::dateFromParts(2020, 0, 1, 0, 0, 0), 2019, 12, 1);
     expectParts(zkh::dateFromParts(2020, -13, 1, 0, 0, 0), 2018, 11, 1);
     expectParts(zkh::dateFromParts(2020, 3, 0, 0, 0, 0), 2020, 2, 29);
-    expectParts(zkh::dateFromParts(2021, 3, 0, 0, 0, 0), 2021, 2, 28);
-    expectParts(zkh::dateFromParts(2020, 1, 32, 0, 0, 0), 2020, 2, 1);
     expectParts(zkh::dateFromParts(2020, 1, 367, 0, 0, 0), 2021, 1, 1);
-    expectParts(zkh::dateFromParts(2020, 5, 17, 24, 0, 0), 2020, 5, 18);
     expectParts(zkh::dateFromParts(2020, 1, 1, 0, -1, 0), 2019, 12, 31, 23, 59);
     expectParts(zkh::dateFromParts(2020, 5, 17, 0, 0, 86400), 2020, 5, 18);
     expectParts(zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 1000000), 2020, 5, 17, 13, 45, 11);
@@ -135,10 +112,7 @@ TEST(HostCalendar, FieldsRollOver) {
 
 TEST(HostCalendar, RecordsAreDayCounts) {
     EXPECT_TRUE(sameRecord(zkh::dateFromParts(1899, 12, 30, 0, 0, 0), zkh::numberZero()));
-    EXPECT_TRUE(sameRecord(zkh::dateFromParts(1899, 12, 31, 0, 0, 0), num("1")));
-    EXPECT_TRUE(sameRecord(zkh::dateFromParts(1899, 12, 30, 12, 0, 0), num("0.5")));
     EXPECT_TRUE(sameRecord(zkh::dateFromParts(1899, 12, 29, 18, 0, 0), num("-0.25")));
-    EXPECT_TRUE(sameRecord(zkh::dateFromParts(1900, 1, 1, 6, 0, 0), num("2.25")));
     EXPECT_TRUE(sameRecord(zkh::dateFromParts(2020, 5, 17, 0, 0, 0), num("43968")));
     // One hour is 1/24 of a day, rounded to 28 significant digits.
     EXPECT_EQ(text(zkh::dateFromParts(1899, 12, 30, 1, 0, 0)), "0.04166666666666666666666666667");
@@ -152,8 +126,7 @@ TEST(HostCalendar, RecordsAreDayCounts) {
 
 // Every sampled microsecond of a day comes back, at days of every size.
 TEST(HostCalendar, MicrosecondsRoundTrip) {
-    const int years[] = {1899,  1900, 2020,   1,       0,       -1,
-                         -4713, 9999, 275760, 1000000, INT_MAX, INT_MIN};
+    const int years[] = {1899, 2020, 0, -4713, 275760, INT_MAX, INT_MIN};
     for (int year : years) {
         const int month = year == INT_MIN ? 1 : 12, day = year == INT_MIN ? 1 : 31;
         auto check = [&](int64_t micros) {
@@ -186,23 +159,7 @@ TEST(HostCalendar, AnyNumberReadsToTheNearestMicrosecond) {
     // 1/6400000000 of a day is exactly 13.5 microseconds: half rounds away from zero.
     expectParts(num("0.00000000015625"), 1899, 12, 30, 0, 0, 0, 14);
     expectParts(num("-0.00000000015625"), 1899, 12, 29, 23, 59, 59, 999986);
-    expectParts(num("0.00000000015624"), 1899, 12, 30, 0, 0, 0, 13);
     expectParts(num("1e-60"), 1899, 12, 30);
-}
-
-TEST(HostCalendar, RecordsOrderLikeTime) {
-    const HostDateTime ordered[] = {zkh::dateFromParts(-500, 1, 1, 0, 0, 0),
-                                    zkh::dateFromParts(1899, 12, 29, 0, 0, 0),
-                                    zkh::dateFromParts(1899, 12, 29, 23, 59, 59, 999999),
-                                    zkh::dateFromParts(1899, 12, 30, 0, 0, 0),
-                                    zkh::dateFromParts(1899, 12, 30, 0, 0, 0, 1),
-                                    zkh::dateFromParts(2020, 5, 17, 13, 45, 10),
-                                    zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 1),
-                                    zkh::dateFromParts(9999, 12, 31, 23, 59, 59)};
-    for (size_t i = 0; i + 1 < std::size(ordered); ++i) {
-        EXPECT_LT(zkh::numberCompare(ordered[i], ordered[i + 1]), 0) << i;
-        EXPECT_LE(zkh::numberToDouble(ordered[i]), zkh::numberToDouble(ordered[i + 1])) << i;
-    }
 }
 
 TEST(HostCalendar, NullAndOutOfRange) {

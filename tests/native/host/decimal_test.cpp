@@ -19,28 +19,15 @@ HostNumber raw(std::initializer_list<uint8_t> bytes, int length) {
 }
 
 TEST(HostDecimal, RecordLayout) {
-    const HostNumber zero = zkh::numberZero();
-    EXPECT_EQ(zero.length, 1);
-    EXPECT_EQ(zero.digits[0], 0x40);
-    EXPECT_FALSE(zkh::isNull(zero));
-
-    // 123.45 = 0.12345e3: exponent byte 0x43, BCD 12 34 50.
+    // 123.45 = 0.12345e3: exponent byte 0x43, BCD 12 34 50, the rest zero.
+    EXPECT_TRUE(sameRecord(num("123.45"), raw({0x43, 0x12, 0x34, 0x50}, 4)));
     const HostNumber n = num("123.45");
-    EXPECT_EQ(n.length, 4);
-    EXPECT_EQ(n.digits[0], 0x43);
-    EXPECT_EQ(n.digits[1], 0x12);
-    EXPECT_EQ(n.digits[2], 0x34);
-    EXPECT_EQ(n.digits[3], 0x50);
     for (int i = 4; i < 24; ++i)
         EXPECT_EQ(n.digits[i], 0) << i;
-
-    const HostNumber m = num("-0.05");
-    EXPECT_EQ(m.length, 2);
-    EXPECT_EQ(m.digits[0], 0x80 | (64 - 1));
-    EXPECT_EQ(m.digits[1], 0x50);
-
-    // Twenty-eight digits take the full fifteen bytes.
-    EXPECT_EQ(num("1234567890123456789012345678").length, 15);
+    EXPECT_TRUE(sameRecord(num("-0.05"), raw({0x80 | (64 - 1), 0x50}, 2)));
+    EXPECT_TRUE(sameRecord(zkh::numberZero(), raw({0x40}, 1)));
+    EXPECT_FALSE(zkh::isNull(zkh::numberZero()));
+    EXPECT_EQ(num("1234567890123456789012345678").length, 15) << "28 digits fill 15 bytes";
 }
 
 TEST(HostDecimal, EqualValuesHaveEqualBytes) {
@@ -56,17 +43,6 @@ TEST(HostDecimal, EqualValuesHaveEqualBytes) {
     EXPECT_TRUE(sameRecord(num("-0"), zkh::numberZero()));
     EXPECT_TRUE(sameRecord(sub(num("0.3"), num("0.3")), zkh::numberZero()));
     EXPECT_TRUE(sameRecord(zkh::numberFromInt64(1), zkh::numberFromDouble(1.0)));
-}
-
-TEST(HostDecimal, SumsAreExact) {
-    EXPECT_EQ(text(add(num("0.1"), num("0.2"))), "0.3");
-    EXPECT_EQ(text(sub(add(num("0.1"), num("0.2")), num("0.3"))), "0");
-    EXPECT_EQ(text(add(num("1e20"), num("1e-7"))), "100000000000000000000.0000001");
-    EXPECT_EQ(text(sub(num("1"), num("1e-27"))), "0.999999999999999999999999999");
-    EXPECT_EQ(text(add(num("-5"), num("3"))), "-2");
-    EXPECT_EQ(text(sub(num("-5"), num("-7.25"))), "2.25");
-    EXPECT_EQ(text(add(num("9999999999999999999999999999"), num("1"))),
-              "10000000000000000000000000000");
 }
 
 TEST(HostDecimal, RoundsHalfAwayFromZeroBeyondTwentyEightDigits) {
@@ -86,9 +62,7 @@ TEST(HostDecimal, RoundsHalfAwayFromZeroBeyondTwentyEightDigits) {
 TEST(HostDecimal, NullReadsAsZeroInSums) {
     const HostNumber null{};
     EXPECT_TRUE(sameRecord(add(null, null), zkh::numberZero()));
-    EXPECT_EQ(text(add(null, num("2.5"))), "2.5");
     EXPECT_EQ(text(sub(null, num("2.5"))), "-2.5");
-    EXPECT_EQ(text(sub(num("2.5"), null)), "2.5");
 }
 
 TEST(HostDecimal, OutputMayBeAnOperand) {
@@ -115,20 +89,13 @@ TEST(HostDecimal, ExponentLimits) {
     EXPECT_TRUE(sameRecord(num("1e-66"), zkh::numberZero()));
 }
 
+// Order beyond what the random sums reach: null first, the extremes.
 TEST(HostDecimal, CompareOrdersValuesAndPutsNullFirst) {
-    const HostNumber null{};
-    const HostNumber ordered[] = {num("-1e40"),     num("-2"),    num("-1.5"), num("-1e-30"),
-                                  num("0"),         num("1e-30"), num("0.5"),  num("1"),
-                                  num("1.0000001"), num("10"),    num("9e62")};
-    EXPECT_EQ(zkh::numberCompare(null, null), 0);
-    for (size_t i = 0; i < std::size(ordered); ++i) {
-        EXPECT_LT(zkh::numberCompare(null, ordered[i]), 0);
-        EXPECT_GT(zkh::numberCompare(ordered[i], null), 0);
-        EXPECT_EQ(zkh::numberCompare(ordered[i], ordered[i]), 0);
-        for (size_t j = i + 1; j < std::size(ordered); ++j) {
-            EXPECT_LT(zkh::numberCompare(ordered[i], ordered[j]), 0) << i << " " << j;
-            EXPECT_GT(zkh::numberCompare(ordered[j], ordered[i]), 0) << i << " " << j;
-        }
+    const HostNumber ordered[] = {HostNumber{}, num("-1e40"), num("-1e-30"), num("0"),
+                                  num("1e-30"), num("1.0000001"), num("9e62")};
+    for (size_t i = 0; i + 1 < std::size(ordered); ++i) {
+        EXPECT_LT(zkh::numberCompare(ordered[i], ordered[i + 1]), 0) << i;
+        EXPECT_GT(zkh::numberCompare(ordered[i + 1], ordered[i]), 0) << i;
     }
 }
 
@@ -154,13 +121,7 @@ TEST(HostDecimal, OddRecordsAreReadSafely) {
 }
 
 TEST(HostDecimal, Int64Conversions) {
-    const int64_t values[] = {0,
-                              1,
-                              -1,
-                              10,
-                              -90,
-                              1234567890123,
-                              std::numeric_limits<int64_t>::max(),
+    const int64_t values[] = {0, -90, 1234567890123, std::numeric_limits<int64_t>::max(),
                               std::numeric_limits<int64_t>::min()};
     for (int64_t v : values) {
         int64_t back = 42;
@@ -169,12 +130,8 @@ TEST(HostDecimal, Int64Conversions) {
         EXPECT_EQ(text(zkh::numberFromInt64(v)), std::to_string(v));
     }
     int64_t out = 0;
-    EXPECT_TRUE(zkh::numberToInt64(num("2.9"), out));
-    EXPECT_EQ(out, 2);
     EXPECT_TRUE(zkh::numberToInt64(num("-2.9"), out));
     EXPECT_EQ(out, -2);
-    EXPECT_TRUE(zkh::numberToInt64(num("0.999"), out));
-    EXPECT_EQ(out, 0);
     EXPECT_TRUE(zkh::numberToInt64(num("-9223372036854775808.7"), out));
     EXPECT_EQ(out, std::numeric_limits<int64_t>::min());
     EXPECT_FALSE(zkh::numberToInt64(num("9223372036854775808"), out));

@@ -41,17 +41,6 @@ TEST(LbxNormalizeText, MacRuleNeedsNoWordBoundaryAndTouchesOnlyTheFirst) {
     EXPECT_EQ(Normalized(LBX_StyleProperCase, u"MAC DUFF"), u"Mac Duff");
 }
 
-TEST(LbxNormalizeText, KeepsTheLengthAndSharedCopies) {
-    AsciiRules rules;
-    LbxText original;
-    original.assign(u"shared Text");
-    LbxText copy(original);
-    LbxNormalizeText(LBX_StyleUpperCase, copy, rules);
-    EXPECT_EQ(copy.view(), u"SHARED TEXT");
-    EXPECT_EQ(original.view(), u"shared Text");
-    EXPECT_EQ(copy.size(), original.size());
-}
-
 TEST(LbxProperCase, EmptyAndBlankTexts) {
     AsciiRules rules;
     char16_t blanks[] = u"   ";

@@ -99,28 +99,4 @@ TEST(LiveHandles, AnAddressReusedByAnotherKindIsReentered) {
     zk::LiveRemove(zk::LiveKind::Picture, &a);
 }
 
-TEST(LbxContract, StyleAndFlagValues) {
-    EXPECT_EQ(LBX_StyleOwnerDraw | LBX_StyleUpperCase | LBX_StyleLowerCase | LBX_StyleKeepTextColor |
-                  LBX_StyleTextSelect | LBX_StylePictureAbove | LBX_StyleNoLines,
-              0x7Fu);
-    EXPECT_EQ(LBX_StyleOutline, 0x00020000u);
-    EXPECT_EQ(LBX_StyleProperCase, 0x00040000u);
-    EXPECT_EQ(LBX_StyleExtendedUI, 0x08000000u);
-    EXPECT_EQ(LBX_StyleAdoptMask, 0x08FFFFFFu);
-    EXPECT_EQ(LBX_ItemLeftLine | LBX_ItemPrevA | LBX_ItemPrevB | LBX_ItemHasNext, 0x000F0000u);
-    EXPECT_EQ(LBX_ItemExpanded, 0x80000000u);
-    EXPECT_EQ(ZKM_LbxToggle, 0x6009);
-    EXPECT_EQ(ZKM_LbxProbe, 0x600D);
-}
-
-TEST(LbxGeometry, LineAndBox) {
-    // indent 8, average width 7: half 3, step 24; the box of level 2 centres at 38.
-    EXPECT_EQ(LbxLineX(24, 2, 0), 38);
-    EXPECT_EQ(LbxLineX(24, 1, 0), 24 / 2 + 2);
-    const LbxRect box = LbxBoxRect(38, 10);
-    EXPECT_EQ(box.right - box.left, 9);
-    EXPECT_EQ(box.bottom - box.top, 9);
-    EXPECT_EQ(LbxMidY(LbxRect{0, 10, 100, 27}), 18);
-}
-
 } // namespace

@@ -11,7 +11,7 @@ using Bytes = std::vector<uint8_t>;
 
 namespace {
 
-// Little-endian pieces for vectors that are too long to spell out.
+// Little-endian pieces for vectors too long to spell out.
 struct Spell {
     Bytes b;
     Spell &u8(uint8_t v) { b.push_back(v); return *this; }
@@ -38,26 +38,17 @@ struct Spell {
 
 // A list with one picture, one font, the root and one child.
 const Bytes kGolden = {
-    0x59, 0x87,                                           // magic
-    0x11, 0x00, 0x02, 0x00,                               // style 0x00020011
-    0x08, 0x00, 0x00, 0x00,                               // indent
-    0x03, 0x00, 0x00, 0x00,                               // topIndex
-    0x01, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x02, 0x00, 0x00, 0x00,
-    // OBPIC at offset 26: flags 0x8201, "ZK.dll", "plus"
-    0x01, 0x82,
-    0xFF, 0xFE, 0xFF, 0x06, 'Z', 0, 'K', 0, '.', 0, 'd', 0, 'l', 0, 'l', 0,
+    0x59, 0x87, 0x11, 0x00, 0x02, 0x00, 0x08, 0x00, 0x00, 0x00, 0x03, 0x00, 0x00, 0x00, // magic style indent top
+    0x01, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x02, 0x00, 0x00, 0x00,             // counts
+    0x01, 0x82, 0xFF, 0xFE, 0xFF, 0x06, 'Z', 0, 'K', 0, '.', 0, 'd', 0, 'l', 0, 'l', 0, // OBPIC at 26
     0xFF, 0xFE, 0xFF, 0x04, 'p', 0, 'l', 0, 'u', 0, 's', 0,
-    // OBFONT: 8 points, bold, "Arial"
-    0x08, 0x00, 0x08, 0x00,
-    0xFF, 0xFE, 0xFF, 0x05, 'A', 0, 'r', 0, 'i', 0, 'a', 0, 'l', 0,
+    0x08, 0x00, 0x08, 0x00, 0xFF, 0xFE, 0xFF, 0x05, 'A', 0, 'r', 0, 'i', 0, 'a', 0, 'l', 0, // OBFONT
     // the root: level -1, nothing, expanded parent, value 7, empty text
     0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
-    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC0, 0x07, 0x00, 0x00, 0x00,
-    0xFF, 0xFE, 0xFF, 0x00,
+    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC0, 0x07, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x00,
     // "A": level 0, picture 0 normal, none selected, font 0, red, an application bit
     0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x00, 0x00,
-    0xFF, 0x00, 0x00, 0x00, 0x01, 0x00, 0x08, 0x00, 0x2A, 0x00, 0x00, 0x00,
-    0xFF, 0xFE, 0xFF, 0x01, 'A', 0,
+    0xFF, 0x00, 0x00, 0x00, 0x01, 0x00, 0x08, 0x00, 0x2A, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x01, 'A', 0,
 };
 
 OBLOB GoldenBlob() {
@@ -83,15 +74,10 @@ TEST(OutlineStream, WritesTheGoldenBytesAndReadsThemBack) {
     ASSERT_EQ(Read(kGolden, blob, parents), ReadStatus::ok);
     EXPECT_EQ(blob, GoldenBlob());
     EXPECT_EQ(parents, (std::vector<int32_t>{kIsRoot, kUnderRoot}));
-}
-
-TEST(OutlineStream, AnEmptyOutlineIsTheHeaderAndTheRootAlone) {
-    OBLOB blob;
-    blob.indent = 5;
-    blob.items.push_back({-1, -1, -1, -1, 0, 0, 0, u""});
-    const Bytes written = OutlineWrite(blob);
-    EXPECT_EQ(written, Spell{}.header(0, 0, 1).item(-1, u"").b);
-    EXPECT_EQ(written.size(), 26u + 28u + 4u);
+    OBLOB empty;
+    empty.indent = 5;
+    empty.items.push_back({-1, -1, -1, -1, 0, 0, 0, u""});
+    EXPECT_EQ(OutlineWrite(empty), Spell{}.header(0, 0, 1).item(-1, u"").b);
 }
 
 TEST(OutlineStream, OlderStreamsWithSingleByteStringsAreWidened) {
@@ -169,19 +155,15 @@ TEST(OutlineStream, ParentsFollowTheTableOfLevels) {
     // Without a root record the first record loads under the root.
     ASSERT_TRUE(OutlineParents(Levels({0, 1, 0}), parents));
     EXPECT_EQ(parents, (std::vector<int32_t>{kUnderRoot, 0, kUnderRoot}));
-    // 255 levels deep is the end of the table.
     std::vector<OBITEM> deep = Levels({-1});
-    for (int32_t l = 0; l <= kMaxLevel; ++l) deep.push_back({l, -1, -1, -1, 0, 0, 0, u""});
+    for (int32_t l = 0; l <= kMaxLevel; ++l) deep.push_back(Levels({l})[0]);
     ASSERT_TRUE(OutlineParents(deep, parents));
     EXPECT_EQ(parents.back(), static_cast<int32_t>(deep.size()) - 2);
-    deep.push_back({kMaxLevel + 1, -1, -1, -1, 0, 0, 0, u""});
-    EXPECT_FALSE(OutlineParents(deep, parents));
-}
-
-TEST(OutlineStream, LevelsOutsideTheTableRefuseTheWholeStream) {
-    for (auto levels : {Levels({-1, 1}), Levels({0, 2}), Levels({1}), Levels({0, 1, 3}), Levels({0, -1}),
+    // Levels outside the table refuse the whole stream.
+    deep.push_back(Levels({kMaxLevel + 1})[0]);
+    for (auto levels : {deep, Levels({-1, 1}), Levels({0, 2}), Levels({1}), Levels({0, 1, 3}), Levels({0, -1}),
                         Levels({-1, -1}), Levels({-2}), Levels({0, 0x7FFFFFFF})}) {
-        std::vector<int32_t> parents{5};
+        parents = {5};
         EXPECT_FALSE(OutlineParents(levels, parents));
         EXPECT_EQ(parents, std::vector<int32_t>{5});
         OBLOB blob;

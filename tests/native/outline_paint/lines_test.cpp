@@ -22,14 +22,6 @@ LineInput Lines(int32_t level, std::vector<bool> last, bool outline = true) {
     return in;
 }
 
-TEST(PaintLines, LevelZeroHasNothing) {
-    LineInput in = Lines(0, {});
-    in.boxShown = true;
-    const TreeLines t = PlanTreeLines(in);
-    EXPECT_TRUE(t.lines.empty());
-    EXPECT_FALSE(t.hasBox);
-}
-
 TEST(PaintLines, OwnLevelLineAndStub) {
     TreeLines t = PlanTreeLines(Lines(1, {false}));
     ASSERT_EQ(t.lines.size(), 2u);

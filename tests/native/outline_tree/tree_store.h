@@ -12,7 +12,6 @@ namespace outlinetest {
 class TreeRows final : public LbxTreeRows {
 public:
     FakeRows base;
-    bool multi = false;
     std::uintptr_t Data(int32_t row) override { return base.Data(row); }
     int32_t Insert(int32_t row, LbxItem *item) override {
         if (row > static_cast<int32_t>(base.rows.size()) || row < -1) return -1;
@@ -22,7 +21,7 @@ public:
     bool BeginKeepItems() override { return base.BeginKeepItems(); }
     void EndKeepItems() override { base.EndKeepItems(); }
     bool IsCombo() override { return false; }
-    bool IsMultiSelect() override { return multi; }
+    bool IsMultiSelect() override { return false; }
     uint32_t Style() override { return LBX_StyleOutline; }
     void SetSel(int32_t row, bool) override { base.selected.push_back(row); }
     void SetCurSel(int32_t row) override { base.curSel = row; }

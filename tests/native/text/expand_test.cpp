@@ -25,66 +25,52 @@ FakeArray Strings(std::initializer_list<std::u16string> values, int32_t low = 0)
 std::u16string X(std::u16string_view text, FakeArray &a) { return Expand(text, a.Shape(), a); }
 uint64_t E(std::u16string_view text, FakeArray &a) { return EstimateExpandSize(text, a.Shape(), a); }
 
-TEST(Expand, PlainCodes) {
-    FakeArray a = Numbers({7, -3});
-    EXPECT_EQ(X(u"a%nb%nc", a), u"a7b-3c");
-    FakeArray s = Strings({u"x", u"yy"});
-    EXPECT_EQ(X(u"[%s|%s]", s), u"[x|yy]");
-    EXPECT_EQ(X(u"%u %u", s), u"0 1");
-    EXPECT_EQ(X(u"100%%", s), u"100%");
-    EXPECT_EQ(X(u"no codes", s), u"no codes");
-    FakeArray big = Numbers({INT32_MIN});
-    EXPECT_EQ(X(u"%n", big), u"-2147483648");
+struct Case {
+    std::u16string_view text, expected;
+};
+
+void ExpectAll(FakeArray a, std::initializer_list<Case> cases) {
+    for (const Case &c : cases)
+        EXPECT_EQ(X(c.text, a), c.expected) << std::string(c.text.begin(), c.text.end());
 }
 
-TEST(Expand, CodesAfterTheElementsAreText) {
-    FakeArray one = Strings({u"E"});
-    EXPECT_EQ(X(u"%s%s", one), u"E%s");
-    EXPECT_EQ(X(u"%s %n %u", one), u"E %n %u");
-    FakeArray none;
-    EXPECT_EQ(X(u"%s%%", none), u"%s%");
-    EXPECT_EQ(X(u"%x %", one), u"%x %");
+TEST(Expand, PlainCodesAndCodesAfterTheElements) {
+    ExpectAll(Numbers({7, -3}), {{u"a%nb%nc", u"a7b-3c"}, {u"%n%n%n", u"7-3%n"}});
+    ExpectAll(Numbers({INT32_MIN}), {{u"%n", u"-2147483648"}});
+    ExpectAll(Strings({u"x", u"yy"}), {{u"[%s|%s]", u"[x|yy]"},
+                                       {u"%u %u", u"0 1"},
+                                       {u"100%%", u"100%"},
+                                       {u"no codes", u"no codes"},
+                                       {u"%s%s%s %n %u %x %", u"xyy%s %n %u %x %"}});
+    ExpectAll(FakeArray(), {{u"%s%%", u"%s%"}});
 }
 
 TEST(Expand, Groups) {
-    FakeArray a = Numbers({1, 2});
-    EXPECT_EQ(X(u"{x%,ny}", a), u"x1y,x2y");
-    EXPECT_EQ(X(u"{x%ny}", a), u"x1yx2y");
-    EXPECT_EQ(X(u"<{%,u}>", a), u"<0,1>");
-    FakeArray s = Strings({u"p", u"q"});
-    EXPECT_EQ(X(u"{'%s'}", s), u"'p''q'");
+    ExpectAll(Numbers({1, 2}), {
+                                   {u"{x%,ny}", u"x1y,x2y"},
+                                   {u"{x%ny}", u"x1yx2y"},
+                                   {u"<{%,u}>", u"<0,1>"},
+                                   // The group's code is the first % with a letter.
+                                   {u"{%x%n}", u"%x1%x2"},
+                                   {u"{%%n}", u"%1%2"},
+                                   {u"{%n%n}", u"1%n2%n"}, // the suffix is copied as it stands
+                                   {u"{a{%n}", u"a{1a{2"}, // a group runs to its first }
+                                   // A group without code is copied.
+                                   {u"{plain}", u"{plain}"},
+                                   {u"{%d}%n", u"{%d}1"},
+                                   {u"a}b", u"a}b"},
+                                   // An unterminated brace is plain text.
+                                   {u"{%n", u"{1"},
+                                   {u"{%,n%", u"{%,n%"},
+                                   {u"{{%n", u"{{1"},
+                                   {u"{", u"{"},
+                                   {u"{%", u"{%"},
+                                   {u"{%,", u"{%,"},
+                                   {u"{%n}{%n", u"12{1"},
+                               });
     // The plain cursor is not moved by groups.
-    EXPECT_EQ(X(u"{%s}%s", s), u"pqp");
-    FakeArray none;
-    EXPECT_EQ(X(u"a{%,n}b", none), u"ab");
-}
-
-TEST(Expand, GroupCodeIsTheFirstWithALetter) {
-    FakeArray a = Numbers({1, 2});
-    EXPECT_EQ(X(u"{%x%n}", a), u"%x1%x2");   // the earlier % stays in the prefix
-    EXPECT_EQ(X(u"{%%n}", a), u"%1%2");
-    EXPECT_EQ(X(u"{%n%n}", a), u"1%n2%n");   // the suffix is copied as it stands
-    EXPECT_EQ(X(u"{a{%n}", a), u"a{1a{2");   // a group runs to its first }
-}
-
-TEST(Expand, GroupWithoutCodeIsCopied) {
-    FakeArray a = Numbers({1});
-    EXPECT_EQ(X(u"{plain}", a), u"{plain}");
-    EXPECT_EQ(X(u"{%d}%n", a), u"{%d}1");
-    EXPECT_EQ(X(u"a}b", a), u"a}b");
-}
-
-TEST(Expand, UnterminatedBraceIsPlainText) {
-    FakeArray a = Numbers({5, 6});
-    EXPECT_EQ(X(u"{%n", a), u"{5");
-    EXPECT_EQ(X(u"{%,n%", a), u"{%,n%");
-    EXPECT_EQ(X(u"x{", a), u"x{");
-    EXPECT_EQ(X(u"{{%n", a), u"{{5");
-    EXPECT_EQ(X(u"{", a), u"{");
-    EXPECT_EQ(X(u"{%", a), u"{%");
-    EXPECT_EQ(X(u"{abc", a), u"{abc");
-    EXPECT_EQ(X(u"{%,", a), u"{%,");
-    EXPECT_EQ(X(u"{%n}{%n", a), u"56{5");
+    ExpectAll(Strings({u"p", u"q"}), {{u"{'%s'}", u"'p''q'"}, {u"{%s}%s", u"pqp"}});
+    ExpectAll(FakeArray(), {{u"a{%,n}b", u"ab"}});
 }
 
 TEST(Expand, NonZeroLowBound) {
@@ -115,7 +101,6 @@ TEST(Expand, EstimateFollowsTheRules) {
     EXPECT_EQ(E(u"%s", s), 2u + 1 + 5);                      // the strings' lengths
     EXPECT_EQ(E(u"a{%s}", s), 5u + 1 + 5 + 4 * 2 + 5);
     EXPECT_EQ(E(u"%x%,s", s), 5u + 1 + 5);                   // first % followed by n or s decides
-    EXPECT_EQ(E(u"plain", s), 6u);
     EXPECT_EQ(E(u"{%n", s), 3u + 1 + 24);                    // an unterminated group adds nothing
 }
 

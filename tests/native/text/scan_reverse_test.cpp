@@ -31,26 +31,14 @@ int32_t Reference(std::u16string_view text, int32_t start, std::u16string_view s
     return -1;
 }
 
-TEST(ScanReverse, Caseless) {
-    EXPECT_EQ(Scan(u"abcabc", -1, u"BC"), 4);
-    EXPECT_EQ(Scan(u"abcabc", 3, u"bc"), 1);
-    EXPECT_EQ(Scan(u"abcabc", 0, u"bc"), -1);
-    EXPECT_EQ(Scan(u"abcabc", -1, u"x"), -1);
-}
-
+// The edges the random texts may miss.
 TEST(ScanReverse, Bounds) {
-    EXPECT_EQ(Scan(u"abc", 3, u"c"), -1);  // start equal to the length
-    EXPECT_EQ(Scan(u"abc", 2, u"c"), 2);
+    EXPECT_EQ(Scan(u"abcabc", -1, u"BC"), 4);
+    EXPECT_EQ(Scan(u"abc", 3, u"c"), -1); // start equal to the length
     EXPECT_EQ(Scan(u"abc", -2, u"a"), -1);
     EXPECT_EQ(Scan(u"", 0, u""), -1);
-    EXPECT_EQ(Scan(u"abc", 1, u"abcd"), -1);
-}
-
-TEST(ScanReverse, EmptySearchMatchesAtStart) {
-    EXPECT_EQ(Scan(u"abc", 1, u""), 1);
-    EXPECT_EQ(Scan(u"abc", -1, u""), 2);
+    EXPECT_EQ(Scan(u"abc", 1, u""), 1); // an empty search matches at the start
     EXPECT_EQ(Scan(u"", -1, u""), 0);
-    EXPECT_EQ(Scan(u"", -1, u"a"), -1);
 }
 
 TEST(ScanReverse, StepsOverSurrogatePairs) {

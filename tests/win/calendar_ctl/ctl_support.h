@@ -54,7 +54,7 @@ public:
     void Mouse(UINT message, int x, int y, WPARAM keys = 0) const;
     void MouseAtCell(UINT message, int cell, WPARAM keys = 0) const;
     // Takes what is queued on this thread, in order, and dispatches it.
-    std::vector<Posted> Drain() const;
+    static std::vector<Posted> Drain();
     // WM_COMMAND codes posted to the form by the control.
     static std::vector<int> Notifications(const std::vector<Posted> &posted, HWND control);
 

@@ -20,15 +20,6 @@ protected:
             DestroyWindow(window);
         zkt::pumpMessages();
     }
-    std::vector<ctltest::Posted> Drain() {
-        std::vector<ctltest::Posted> out;
-        MSG m{};
-        for (int i = 0; i < 1000 && PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE); ++i) {
-            out.push_back({m.hwnd, m.message, m.wParam, m.lParam});
-            DispatchMessageW(&m);
-        }
-        return out;
-    }
 
     zkt::TestWindow notify;
     HWND edit = nullptr;
@@ -54,10 +45,10 @@ TEST_F(Popup, LosingTheFocusHidesItClosesUpAndCancelsTheHeldButton) {
     const auto &r = popup->Layout().RightButton();
     SendMessageW(window, WM_LBUTTONDOWN, 0, MAKELPARAM(r.left + 3, r.top + 3));
     const int month = popup->Model().DisplayMonth();
-    Drain();
+    FormCalendar::Drain();
     SetFocus(edit);
     EXPECT_FALSE(IsWindowVisible(window));
-    EXPECT_EQ(FormCalendar::Notifications(Drain(), window), (std::vector<int>{CALN_CloseUp, CALN_KillFocus}));
+    EXPECT_EQ(FormCalendar::Notifications(FormCalendar::Drain(), window), (std::vector<int>{CALN_CloseUp, CALN_KillFocus}));
     SendMessageW(window, WM_TIMER, 503, 0);
     EXPECT_EQ(popup->Model().DisplayMonth(), month) << "the tick cancels instead of stepping";
     EXPECT_EQ(popup->State() & zk::cal::CALF_RightDown, 0);
@@ -70,9 +61,9 @@ TEST_F(Popup, ReturnClosesUpWithTheSelectionOfAPressOnTheGrid) {
     SetFocus(window);
     const auto cell = popup->Layout().CellRect(24);
     SendMessageW(window, WM_LBUTTONDOWN, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
-    Drain();
+    FormCalendar::Drain();
     SendMessageW(window, WM_KEYDOWN, VK_RETURN, 0);
-    const auto posted = Drain();
+    const auto posted = FormCalendar::Drain();
     bool selected = false;
     for (const auto &p : posted)
         selected = selected || (p.hwnd == window && p.message == HostMsgSelect && p.wParam == 24);

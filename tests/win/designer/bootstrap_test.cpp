@@ -103,24 +103,6 @@ TEST_F(Bootstrap, UnderAHostClassTheObjectIsAttachedAndTheHostKeepsItsProcedure)
     EXPECT_EQ(object->DefaultProcedure(), nullptr);
     EXPECT_EQ(SendMessageW(window, WM_GETDLGCODE, 0, 0), DLGC_WANTARROWS | DLGC_WANTCHARS)
         << "messages pass through the bootstrap to the object";
-    STYLESTRUCT styles{WS_CHILD, WS_CHILD | WS_BORDER};
-    EXPECT_EQ(SendMessageW(window, WM_STYLECHANGING, GWL_STYLE, reinterpret_cast<LPARAM>(&styles)), 1);
-    EXPECT_EQ(SendMessageW(window, WM_STYLECHANGED, GWL_STYLE, reinterpret_cast<LPARAM>(&styles)), 1);
-    DestroyWindow(window);
-    EXPECT_EQ(gone(), 1);
-}
-
-TEST_F(Bootstrap, TheKeepingFormLeavesTheClassProcedureInPlace) {
-    zkt::MessageRecorder recorder;
-    recorder.watchAll();
-    HWND window = MakeControl(kKeepClass, parent);
-    ASSERT_NE(window, nullptr);
-    auto *object = zk::Window::FromHandle(window);
-    ASSERT_NE(object, nullptr);
-    EXPECT_EQ(static_cast<ULONG_PTR>(GetWindowLongPtrW(window, GWLP_WNDPROC)), GetClassLongPtrW(window, GCLP_WNDPROC));
-    EXPECT_EQ(object->DefaultProcedure(), &DefWindowProcW);
-    zkt::pumpMessages();
-    EXPECT_EQ(recorder.count(ZKM_ControlCreate, window), 1);
     DestroyWindow(window);
     EXPECT_EQ(gone(), 1);
 }
@@ -142,18 +124,6 @@ TEST_F(Bootstrap, AnObjectThatCannotBeMadeEndsCreationOrIsAnnouncedAsNull) {
         }
     }
     DestroyWindow(window);
-}
-
-TEST_F(Bootstrap, EveryWindowHasItsOwnObjectUntilItGoes) {
-    HWND a = MakeControl(kSubclassClass, parent, 1);
-    HWND b = MakeControl(kHostClass, parent, 2);
-    HWND c = MakeControl(kKeepClass, parent, 3);
-    EXPECT_EQ(made(), 3);
-    EXPECT_NE(zk::Window::FromHandle(a), zk::Window::FromHandle(b));
-    DestroyWindow(parent); // the children go with it
-    EXPECT_EQ(gone(), 3);
-    for (HWND w : {a, b, c})
-        EXPECT_EQ(zk::Window::FromHandle(w), nullptr);
 }
 
 } // namespace

@@ -98,8 +98,6 @@ LPARAM HostKeptPointer(HWND window) {
     return found == keptPointers.end() ? 0 : found->second;
 }
 
-WNDPROC SubclassClassProcedure() { return subclassProcedure; }
-
 HWND MakeControl(const wchar_t *className, HWND parent, int id, void *parameter, DWORD style) {
     return CreateWindowExW(0, className, L"", style, 10, 10, 120, 80, parent,
                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), parameter);

@@ -29,26 +29,21 @@ public:
 
     std::vector<int> sizeToFit; // arguments of SizeToFit, in order
     int recalcMetrics = 0;
-    int recalcFrame = 0;
 
     void SizeToFit(int autoSizeFlag) override { sizeToFit.push_back(autoSizeFlag); }
+    void RecalcFrame() override {}
     void RecalcMetrics() override {
         ++recalcMetrics;
         CGenericControl::RecalcMetrics();
     }
-    void RecalcFrame() override { ++recalcFrame; }
 
-    // The fields the frame keeps, for the tests to look at and set.
     int32_t &AutoSize() { return autoSize; }
     int32_t &PopUp() { return popUp; }
     int32_t &Created() { return created; }
-    RECT &Frame() { return frame; }
     int32_t Flags(int which) const {
         const int32_t all[] = {autoSize, thirdFlag, popUp, fourthFlag, fifthFlag, sixthFlag};
         return all[which];
     }
-    int32_t RowHeight() const { return rowHeight; }
-    int32_t ColumnWidth() const { return columnWidth; }
     static uint16_t &RoleEntry(int role) { return roleTable[role]; }
 };
 
@@ -74,8 +69,6 @@ void RegisterTestClasses();
 
 // The pointer the host class kept for a window (0 until announced).
 LPARAM HostKeptPointer(HWND window);
-// The procedure of kSubclassClass, as registered.
-WNDPROC SubclassClassProcedure();
 
 // A child control of a class on a parent, with an id.
 HWND MakeControl(const wchar_t *className, HWND parent, int id = 7, void *parameter = nullptr,

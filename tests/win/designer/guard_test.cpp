@@ -50,13 +50,4 @@ TEST(ControlGuard, ABodyThatThrowsTracesItsWordsWithoutABox) {
     EXPECT_EQ(capture.lines(), std::vector<std::wstring>{L"ZelCalGetColor() - Unable to retrieve color for specified role."});
 }
 
-TEST(ControlGuard, TheStringIdFormTracesTheResourceText) {
-    zkt::DebugOutputCapture capture;
-    zkt::DialogAnswerer answerer(IDOK);
-    zk::CGenericControl *none = nullptr;
-    EXPECT_EQ(zk::GuardedControl(L"ZelPalColorGet()", 52, 0, none, [](zk::CGenericControl &) { return 1; }), 0);
-    EXPECT_EQ(answerer.answered(), 1);
-    EXPECT_EQ(capture.text(), L"ZelPalColorGet() - Unhandled exception in function '%1'.\n");
-}
-
 } // namespace

@@ -155,17 +155,4 @@ TEST_F(PropBlocks, AWrapperLoadsItsBlockAtCreationWhenTheHostMarksIt) {
     EXPECT_FALSE(d->loaded) << "a window without design item";
 }
 
-TEST_F(PropBlocks, ADamagedBlockLeavesTheWrapperWithItsDefaults) {
-    Put(zk::kPropCalendar, {1, 0, 0}); // one byte of a version word
-    zkt::TestWindow parent;
-    uint8_t marked[8] = {0, 0, 0, 0, 1, 0, 0, 0};
-    BindNewWindows bind(outline, item);
-    HWND window = MakeControl(kWrapperClass, parent, 1, marked);
-    ASSERT_NE(window, nullptr) << "creation goes on";
-    auto *control = static_cast<WrapperControl *>(zk::Window::FromHandle(window));
-    EXPECT_TRUE(control->loaded);
-    EXPECT_EQ(control->Flags(0), 0);
-    EXPECT_EQ(control->Flags(1), 1);
-}
-
 } // namespace

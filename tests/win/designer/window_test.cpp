@@ -137,33 +137,4 @@ TEST(WindowFramework, DefaultGivesEachMessageToTheFormerProcedureEvenWhenNested)
     DestroyWindow(window);
 }
 
-TEST(WindowFramework, AnObjectThatGoesBeforeItsWindowGivesTheProcedureBack) {
-    HWND window = CreateWindowExW(0, L"static", L"", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
-    const LONG_PTR own = GetWindowLongPtrW(window, GWLP_WNDPROC);
-    {
-        Probe probe;
-        probe.ownedByWindow = false;
-        ASSERT_TRUE(probe.SubclassWindow(window));
-    }
-    EXPECT_EQ(GetWindowLongPtrW(window, GWLP_WNDPROC), own);
-    EXPECT_EQ(zk::Window::FromHandle(window), nullptr);
-    DestroyWindow(window);
-}
-
-TEST(WindowFramework, AttachLeavesTheProcedureAndRefusesWhatIsNoWindow) {
-    RegisterFrameClass();
-    HWND window = CreateWindowExW(0, kFrameClass, L"", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
-    ASSERT_NE(window, nullptr) << "a framework window without object acts as a plain one";
-    Probe probe;
-    probe.ownedByWindow = false;
-    EXPECT_FALSE(probe.Attach(nullptr));
-    EXPECT_FALSE(probe.Attach(reinterpret_cast<HWND>(0x7654)));
-    ASSERT_TRUE(probe.Attach(window));
-    SendMessageW(window, WM_APP + 7, 0, 0);
-    EXPECT_EQ(probe.seen.back(), static_cast<UINT>(WM_APP + 7));
-    EXPECT_EQ(probe.Detach(), window);
-    EXPECT_EQ(zk::ReplaceProcedure(reinterpret_cast<HWND>(0x7654), &Former), nullptr);
-    DestroyWindow(window);
-}
-
 } // namespace

@@ -48,16 +48,6 @@ TEST_F(Diag, AStringGoesToTheDebuggerWithALineFeed) {
     EXPECT_EQ(capture.lines(), std::vector<std::wstring>{L""});
 }
 
-TEST_F(Diag, AStringAboveTheLevelIsDropped) {
-    zkt::DebugOutputCapture capture;
-    EXPECT_EQ(ZelDebugString(L"too deep", 1), 0);
-    EXPECT_EQ(ZelDebugSetLevel(3), 1);
-    EXPECT_EQ(ZelDebugString(L"level four", 4), 0);
-    EXPECT_EQ(ZelDebugString(L"level three", 3), 1);
-    EXPECT_EQ(ZelDebugString(L"level 65535", 65535), 0);
-    EXPECT_EQ(capture.text(), L"level three\n");
-}
-
 TEST_F(Diag, TheLevelIsASixteenBitWord) {
     // A host that pushes a 32-bit value: only its low word is the level.
     using WideLevel = int32_t(ZKAPI *)(const wchar_t *, int32_t);
@@ -80,14 +70,6 @@ TEST_F(Diag, WithTheBoxFlagAStringShowsABoxCaptionedDebug) {
     EXPECT_EQ(BoxText(answerer.dialogs()[0]), L"value is 42");
     EXPECT_EQ(icon, LoadIconW(nullptr, IDI_EXCLAMATION));
     EXPECT_EQ(capture.calls(), 0u);
-}
-
-TEST_F(Diag, ATrueAssertionShowsNothing) {
-    zkt::DialogAnswerer answerer(IDOK);
-    EXPECT_EQ(ZelDebugAssert(1, L"fine"), 1);
-    EXPECT_EQ(ZelDebugAssert(-1, nullptr), 1);
-    zkt::pumpMessages();
-    EXPECT_EQ(answerer.answered(), 0);
 }
 
 TEST_F(Diag, AFalseAssertionNamesTheActiveWindow) {

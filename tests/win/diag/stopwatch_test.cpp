@@ -30,34 +30,6 @@ TEST_F(Diag, BeginAndEndGiveOneLineForTheTotal) {
     EXPECT_EQ(ZelDebugEndTime(L"run", 0), 0);
 }
 
-TEST_F(Diag, ClockTimeAddsTheBeginLineAndTheEndsTime) {
-    ZelDebugSetFlags(DBG_ClockTime, 1);
-    zkt::DebugOutputCapture capture;
-    ASSERT_EQ(ZelDebugBeginTime(), 1);
-    ASSERT_EQ(ZelDebugEndTime(L"load", 0), 1);
-    const auto lines = capture.lines();
-    ASSERT_EQ(lines.size(), 3u) << capture.text().c_str();
-    EXPECT_EQ(lines[0], L"Begin: (10:20:30 PM)");
-    EXPECT_TRUE(Matches(lines[1], L"Total load: " + kSpan + kClock)) << lines[1].c_str();
-    EXPECT_EQ(lines[2], L"");
-}
-
-TEST_F(Diag, WithThreeSamplesEveryLaterOneHasALine) {
-    ZelDebugSetFlags(DBG_ClockTime, 1);
-    zkt::DebugOutputCapture capture;
-    ASSERT_EQ(ZelDebugBeginTime(), 1);
-    ASSERT_EQ(ZelDebugSetTime(L"open"), 1);
-    ASSERT_EQ(ZelDebugSetTime(L"read"), 1);
-    ASSERT_EQ(ZelDebugEndTime(L"all", 0), 1);
-    const auto lines = capture.lines();
-    ASSERT_EQ(lines.size(), 5u) << capture.text().c_str();
-    EXPECT_EQ(lines[0], L"Begin: (10:20:30 PM)");
-    EXPECT_TRUE(Matches(lines[1], L"open: " + kSpan + kClock)) << lines[1].c_str();
-    EXPECT_TRUE(Matches(lines[2], L"read: " + kSpan + kClock)) << lines[2].c_str();
-    EXPECT_TRUE(Matches(lines[3], L"Total all: " + kSpan)) << lines[3].c_str();
-    EXPECT_EQ(lines[4], L"");
-}
-
 TEST_F(Diag, TheBoxShowsTheWholeReport) {
     ZelDebugSetFlags(DBG_MessageBox | DBG_ClockTime, 1);
     zkt::DebugOutputCapture capture;
@@ -88,13 +60,6 @@ TEST_F(Diag, ARunHoldsAt81Samples) {
     ASSERT_EQ(lines.size(), 82u);
     EXPECT_TRUE(Matches(lines[79], L"s80: " + kSpan));
     EXPECT_TRUE(Matches(lines[80], L"Total run: " + kSpan));
-    // A new run starts from an empty buffer.
-    capture.clear();
-    ASSERT_EQ(ZelDebugBeginTime(), 1);
-    ASSERT_EQ(ZelDebugSetTime(L"again"), 1);
-    ASSERT_EQ(ZelDebugSetTime(L"more"), 1);
-    ASSERT_EQ(ZelDebugEndTime(L"run", 0), 1);
-    EXPECT_EQ(capture.lines().size(), 4u);
 }
 
 TEST_F(Diag, ClockTextsDoNotPileUpHostStrings) {

@@ -55,16 +55,6 @@ TEST(Registry, InnerClassesWaitForTheirFirstWindow) {
     }
 }
 
-TEST(Registry, WindowsOfTheOuterClassesKeepTheirExtraWord) {
-    zkt::TestWindow form;
-    HWND meter = CreateWindowW(L"ZK:cMeter:10", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, form, nullptr,
-                               GetModuleHandleW(nullptr), nullptr);
-    ASSERT_NE(meter, nullptr);
-    SetWindowLongW(meter, 0, 0x12345678);
-    EXPECT_EQ(GetWindowLongW(meter, 0), 0x12345678);
-    DestroyWindow(meter);
-}
-
 TEST(Registry, ASecondCopyOfTheLibraryFindsTheClassesAndLoads) {
     wchar_t original[MAX_PATH], temp[MAX_PATH], copy[MAX_PATH];
     GetModuleFileNameW(Library(), original, MAX_PATH);

@@ -12,8 +12,6 @@ namespace {
 constexpr int kMessage = 101;
 constexpr int kRetry = 203;
 constexpr int kHalt = 204;
-constexpr int kIgnored = 205; // a button the dialog does not act on
-constexpr int kNested = 206;  // shows a message box, then ends with 3
 
 // An in-memory dialog shaped like the retry dialog: a message and buttons.
 class DialogTemplate {
@@ -32,8 +30,6 @@ public:
         item(kMessage, 0x0082, SS_LEFT, L"Something went wrong.", 38, 9, 180, 21);
         item(kRetry, 0x0080, BS_DEFPUSHBUTTON | WS_TABSTOP, L"&Retry", 38, 36, 40, 14);
         item(kHalt, 0x0080, BS_PUSHBUTTON | WS_TABSTOP, L"&Halt", 80, 36, 40, 14);
-        item(kIgnored, 0x0080, BS_PUSHBUTTON, L"&Ignored", 122, 36, 40, 14);
-        item(kNested, 0x0080, BS_PUSHBUTTON, L"&Nested", 164, 36, 40, 14);
     }
 
     const DLGTEMPLATE *get() const { return reinterpret_cast<const DLGTEMPLATE *>(words_.data()); }
@@ -81,10 +77,6 @@ INT_PTR CALLBACK testDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
         case kHalt:
             EndDialog(dialog, 2);
             return TRUE;
-        case kNested:
-            MessageBoxW(dialog, L"inner text", L"Inner", MB_OK);
-            EndDialog(dialog, 3);
-            return TRUE;
         }
     }
     return FALSE;
@@ -111,47 +103,6 @@ TEST(DialogAnswerer, AnswersAModalDialogAndRemembersWhatItShowed) {
     EXPECT_TRUE(IsWindowEnabled(owner)); // the owner is given back
 }
 
-TEST(DialogAnswerer, AnswersInTurnFromAList) {
-    zkt::DialogAnswerer answerer({kRetry, kRetry, kHalt});
-    EXPECT_EQ(1, showDialog(L"a"));
-    EXPECT_EQ(1, showDialog(L"b"));
-    EXPECT_EQ(2, showDialog(L"c"));
-    ASSERT_EQ(3, answerer.answered());
-    EXPECT_EQ(L"c", answerer.dialogs()[2].caption);
-    EXPECT_EQ(kHalt, answerer.dialogs()[2].button);
-}
-
-TEST(DialogAnswerer, SameButtonForEveryDialogWithoutAList) {
-    zkt::DialogAnswerer answerer(kRetry);
-    for (int i = 0; i < 4; ++i) {
-        EXPECT_EQ(1, showDialog(L"again"));
-    }
-    EXPECT_EQ(4, answerer.answered());
-}
-
-HWND inspected = nullptr;
-
-void haltFirst(HWND dialog) {
-    inspected = dialog;
-    PostMessageW(dialog, WM_COMMAND, kHalt, 0);
-}
-
-TEST(DialogAnswerer, InspectorRunsOnTheDialogBeforeTheAnswer) {
-    inspected = nullptr;
-    zkt::DialogAnswerer answerer(kRetry);
-    answerer.setInspector(haltFirst);
-    EXPECT_EQ(2, showDialog(L"inspected")); // what the inspector posted came first
-    EXPECT_NE(nullptr, inspected);
-    EXPECT_EQ(1, answerer.answered());
-}
-
-TEST(DialogAnswerer, NoDialogNoAnswerNoFailure) {
-    zkt::DialogAnswerer answerer(kRetry);
-    zkt::pumpMessages();
-    EXPECT_EQ(0, answerer.answered());
-    EXPECT_TRUE(answerer.failures().empty());
-}
-
 TEST(DialogAnswerer, AnswersMessageBoxes) {
     zkt::DialogAnswerer answerer({IDOK, IDNO});
     EXPECT_EQ(IDOK, MessageBoxW(nullptr, L"Hello there", L"Box", MB_OK));
@@ -160,48 +111,6 @@ TEST(DialogAnswerer, AnswersMessageBoxes) {
     EXPECT_EQ(L"Box", answerer.dialogs()[0].caption);
     const auto texts = answerer.dialogs()[0].staticTexts();
     EXPECT_NE(texts.end(), std::find(texts.begin(), texts.end(), L"Hello there"));
-}
-
-TEST(DialogAnswerer, MatchesByCaptionAndControl) {
-    // Each dialog matches one answerer only; the other leaves it alone.
-    zkt::DialogAnswerer byControl(kRetry, {L"", kRetry});
-    zkt::DialogAnswerer byCaption(IDOK, {L"Box", 0});
-    EXPECT_EQ(1, showDialog(L"Plain"));
-    EXPECT_EQ(IDOK, MessageBoxW(nullptr, L"text", L"Box", MB_OK));
-    EXPECT_EQ(1, showDialog(L"Plain again"));
-    EXPECT_EQ(2, byControl.answered());
-    ASSERT_EQ(1, byCaption.answered());
-    EXPECT_EQ(L"Box", byCaption.dialogs()[0].caption);
-}
-
-TEST(DialogAnswerer, NestedMessageBoxIsAnsweredByItsOwnAnswerer) {
-    zkt::DialogAnswerer outer(kNested, {L"", kNested});
-    zkt::DialogAnswerer inner(IDOK, {L"Inner", 0});
-    EXPECT_EQ(3, showDialog(L"Outer"));
-    EXPECT_EQ(1, outer.answered());
-    ASSERT_EQ(1, inner.answered());
-    EXPECT_EQ((std::vector<std::wstring>{L"inner text"}), inner.dialogs()[0].staticTexts());
-}
-
-// The failure paths: each ends the dialog with IDCANCEL and reports one
-// failure when the answerer goes.
-void answerWithIgnoredButton(INT_PTR &result) {
-    zkt::DialogAnswerer answerer(kIgnored);
-    answerer.setGiveUpTicks(3);
-    result = showDialog(L"Stuck");
-}
-
-void showOneTooMany(INT_PTR &first, INT_PTR &second) {
-    zkt::DialogAnswerer answerer(std::vector<int>{kRetry});
-    first = showDialog(L"expected");
-    second = showDialog(L"extra");
-}
-
-void showUnmatched(INT_PTR &result, int &answered) {
-    zkt::DialogAnswerer answerer(kRetry, {L"Not this one", 0});
-    answerer.setGiveUpTicks(3);
-    result = showDialog(L"Stranger");
-    answered = answerer.answered();
 }
 
 // Code that asks again and again, as a retry loop does, until cancelled.
@@ -216,31 +125,6 @@ TEST(DialogAnswerer, GivesUpOnARetryLoop) {
     int shown = 0;
     EXPECT_NONFATAL_FAILURE(askUntilCancelled(shown), "dialog \"loop\" came after the 3 expected");
     EXPECT_EQ(4, shown);
-}
-
-TEST(DialogAnswerer, GivesUpOnADialogThatIgnoresItsAnswer) {
-    INT_PTR result = 0;
-    EXPECT_NONFATAL_FAILURE(answerWithIgnoredButton(result),
-                            "dialog \"Stuck\" did not close after its answer");
-    EXPECT_EQ(IDCANCEL, result);
-}
-
-TEST(DialogAnswerer, GivesUpOnADialogBeyondTheList) {
-    INT_PTR first = 0;
-    INT_PTR second = 0;
-    EXPECT_NONFATAL_FAILURE(showOneTooMany(first, second),
-                            "dialog \"extra\" came after the 1 expected");
-    EXPECT_EQ(1, first);
-    EXPECT_EQ(IDCANCEL, second);
-}
-
-TEST(DialogAnswerer, GivesUpOnADialogThatDoesNotMatch) {
-    INT_PTR result = 0;
-    int answered = -1;
-    EXPECT_NONFATAL_FAILURE(showUnmatched(result, answered),
-                            "dialog \"Stranger\" does not match and was not answered");
-    EXPECT_EQ(IDCANCEL, result);
-    EXPECT_EQ(0, answered);
 }
 
 } // namespace

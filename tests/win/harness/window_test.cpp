@@ -28,26 +28,6 @@ TEST(TestWindow, HasTheRequestedClientSizeAndIsVisible) {
     EXPECT_STREQ(L"size", title);
 }
 
-TEST(TestWindow, IsDestroyedAtScopeEndAndCanBeMadeAgain) {
-    HWND first = nullptr;
-    {
-        zkt::TestWindow window;
-        first = window.hwnd();
-        ASSERT_TRUE(IsWindow(first));
-    }
-    EXPECT_FALSE(IsWindow(first));
-    // The class stays registered: a second window of it comes up.
-    zkt::TestWindow again;
-    EXPECT_TRUE(IsWindow(again.hwnd()));
-    EXPECT_EQ(classOf(again), L"ZkHarnessWindow");
-}
-
-TEST(TestWindow, SurvivesDestructionByTheCodeUnderTest) {
-    zkt::TestWindow window;
-    DestroyWindow(window.hwnd());
-    EXPECT_EQ(nullptr, window.hwnd());
-}
-
 TEST(TestWindow, ChildControlsHaveClassIdParentAndBounds) {
     zkt::TestWindow window(400, 300);
     HWND list = window.addListBox(11, {10, 10, 100, 120});
@@ -80,24 +60,6 @@ TEST(TestWindow, ChildControlsHaveClassIdParentAndBounds) {
     // Default styles: the list notifies its parent, the combo is a drop list.
     EXPECT_TRUE(GetWindowLongW(list, GWL_STYLE) & LBS_NOTIFY);
     EXPECT_EQ(CBS_DROPDOWNLIST, GetWindowLongW(combo, GWL_STYLE) & 3);
-}
-
-TEST(TestWindow, HandlerAnswersMessagesAndOtherMessagesReachTheDefault) {
-    zkt::TestWindow window;
-    int seen = 0;
-    window.onMessage([&](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
-        if (message == WM_APP + 1) {
-            ++seen;
-            result = static_cast<LRESULT>(wParam * 2);
-            return true;
-        }
-        return false;
-    });
-    EXPECT_EQ(42, SendMessageW(window, WM_APP + 1, 21, 0));
-    EXPECT_EQ(1, seen);
-    // Not handled: DefWindowProcW answers WM_SETTEXT / WM_GETTEXTLENGTH.
-    SendMessageW(window, WM_SETTEXT, 0, reinterpret_cast<LPARAM>(L"abcd"));
-    EXPECT_EQ(4, SendMessageW(window, WM_GETTEXTLENGTH, 0, 0));
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// Host arrays of every element type: bounds that do not start at 0, growth
-// on write at both ends, reads outside, string references, tokenizing.
+// Host arrays: bounds that do not start at 0, growth on write at both ends,
+// reads outside, string references, tokenizing.
 #include <vector>
 
 #include "host_test_util.h"
@@ -36,15 +36,12 @@ std::vector<std::wstring> Strings(HostArray a) {
     return out;
 }
 
-TEST_F(HostArrays, CreateGivesAnEmptyOneDimensionalArrayOfAKnownType) {
+TEST_F(HostArrays, CreateOnlyKnownTypes) {
     for (int32_t type : {1, 2, 3, 5, 7, 256}) {
         HostArray a = HostArrayCreate(type);
         ASSERT_NE(a, 0u) << type;
         EXPECT_EQ(BoundsOf(a), (Bounds{0, 0, -1}));
         EXPECT_EQ(HostArrayIsEmpty(a), 1);
-        int32_t dims = 0;
-        EXPECT_EQ(HostArrayGetDimensionCount(a, &dims), 1);
-        EXPECT_EQ(dims, 1);
         EXPECT_EQ(HostArrayDestroy(a), 1);
     }
     EXPECT_EQ(HostArrayCreate(4), 0u);
@@ -54,14 +51,11 @@ TEST_F(HostArrays, CreateGivesAnEmptyOneDimensionalArrayOfAKnownType) {
 TEST_F(HostArrays, WritesGrowTheBoundsAtBothEnds) {
     HostArray a = HostArrayCreate(HOST_TYPE_HANDLE);
     ASSERT_EQ(HostArraySetBounds(a, 5, 4), 1) << "empty, low bound 5";
-    EXPECT_EQ(BoundsOf(a), (Bounds{0, 5, 4}));
     EXPECT_EQ(HostArraySetHandle(a, 70, 7), 1);
     EXPECT_EQ(BoundsOf(a), (Bounds{3, 5, 7}));
     EXPECT_EQ(HostArraySetHandle(a, 20, 2), 1);
     EXPECT_EQ(BoundsOf(a), (Bounds{6, 2, 7}));
     uint32_t v = 99;
-    EXPECT_EQ(HostArrayGetHandle(a, &v, 2), 1);
-    EXPECT_EQ(v, 20u);
     EXPECT_EQ(HostArrayGetHandle(a, &v, 5), 1);
     EXPECT_EQ(v, 0u) << "filled by growth";
     EXPECT_EQ(HostArrayGetHandle(a, &v, 7), 1);
@@ -70,8 +64,13 @@ TEST_F(HostArrays, WritesGrowTheBoundsAtBothEnds) {
     EXPECT_EQ(HostArrayGetHandle(a, &v, 8), 0);
     EXPECT_EQ(v, 0u);
     EXPECT_EQ(HostArrayGetHandle(a, &v, 1), 0);
-    EXPECT_EQ(HostArraySetHandle(a, -1, -3), 1);
-    EXPECT_EQ(BoundsOf(a), (Bounds{11, -3, 7}));
+    int32_t high = 0;
+    EXPECT_EQ(HostArrayGetUpperBound(a, 1, &high), 1);
+    EXPECT_EQ(high, 7);
+    EXPECT_EQ(HostArraySetUpperBound(a, 1, 9), 1);
+    EXPECT_EQ(BoundsOf(a), (Bounds{8, 2, 9}));
+    EXPECT_EQ(HostArrayGetUpperBound(a, 2, &high), 0);
+    EXPECT_EQ(HostArraySetUpperBound(a, 2, 9), 0);
     HostArrayDestroy(a);
 }
 
@@ -79,62 +78,30 @@ TEST_F(HostArrays, SetBoundsKeepsElementsByIndex) {
     HostArray a = HostArrayCreate(HOST_TYPE_BOOLEAN);
     for (int32_t i = 10; i <= 14; ++i)
         HostArraySetBoolean(a, uint32_t(i), i);
-    ASSERT_EQ(BoundsOf(a), (Bounds{15, 0, 14}));
-    ASSERT_EQ(HostArraySetBounds(a, 10, 14), 1);
-    EXPECT_EQ(BoundsOf(a), (Bounds{5, 10, 14}));
     ASSERT_EQ(HostArraySetBounds(a, 12, 16), 1);
     uint32_t v = 0;
-    EXPECT_EQ(HostArrayGetBoolean(a, &v, 12), 1);
-    EXPECT_EQ(v, 12u);
     EXPECT_EQ(HostArrayGetBoolean(a, &v, 14), 1);
     EXPECT_EQ(v, 14u);
     EXPECT_EQ(HostArrayGetBoolean(a, &v, 16), 1);
     EXPECT_EQ(v, 0u);
-    ASSERT_EQ(HostArraySetBounds(a, 100, 101), 1) << "no overlap: all new";
-    EXPECT_EQ(HostArrayGetBoolean(a, &v, 100), 1);
-    EXPECT_EQ(v, 0u);
     EXPECT_EQ(HostArraySetBounds(a, 0, 0x7FFFFFFF), 0) << "far too many";
-    EXPECT_EQ(BoundsOf(a), (Bounds{2, 100, 101}));
+    EXPECT_EQ(BoundsOf(a), (Bounds{5, 12, 16}));
     ASSERT_EQ(HostArraySetBounds(a, 3, -1), 1) << "high below low - 1 empties";
     EXPECT_EQ(BoundsOf(a), (Bounds{0, 3, 2})) << "the low bound stays";
-    ASSERT_EQ(HostArraySetBounds(a, 0, -1), 1);
-    EXPECT_EQ(HostArrayIsEmpty(a), 1);
-    HostArrayDestroy(a);
-}
-
-TEST_F(HostArrays, UpperBoundOfTheFirstDimension) {
-    HostArray a = HostArrayCreate(HOST_TYPE_HANDLE);
-    HostArraySetBounds(a, 3, 5);
-    int32_t high = 0;
-    EXPECT_EQ(HostArrayGetUpperBound(a, 1, &high), 1);
-    EXPECT_EQ(high, 5);
-    EXPECT_EQ(HostArraySetUpperBound(a, 1, 9), 1);
-    EXPECT_EQ(BoundsOf(a), (Bounds{7, 3, 9}));
-    EXPECT_EQ(HostArrayGetUpperBound(a, 2, &high), 0);
-    EXPECT_EQ(HostArraySetUpperBound(a, 2, 9), 0);
-    EXPECT_EQ(ZkHostArraySetDimensions(a, 2), 1);
-    int32_t dims = 0;
-    HostArrayGetDimensionCount(a, &dims);
-    EXPECT_EQ(dims, 2);
     HostArrayDestroy(a);
 }
 
 TEST_F(HostArrays, NumberAndDateRecordsAreKeptWhole) {
     HostArray numbers = HostArrayCreate(HOST_TYPE_NUMBER);
     HostArray dates = HostArrayCreate(HOST_TYPE_DATETIME);
-    HostNumber pi = Num(L"3.14159265358979323846");
-    HostDateTime day{};
+    HostNumber pi = Num(L"3.14159265358979323846"), n{};
+    HostDateTime day{}, d{};
     HostDateConstruct(&day, 2021, 7, 4, 12, 0, 0);
     EXPECT_EQ(HostArraySetNumber(numbers, &pi, -2), 1);
     EXPECT_EQ(HostArraySetDateTime(dates, &day, 1), 1);
-    HostNumber n{};
-    HostDateTime d{};
     EXPECT_EQ(HostArrayGetNumber(numbers, &n, -2), 1);
     EXPECT_EQ(memcmp(&n, &pi, sizeof n), 0);
     EXPECT_EQ(BoundsOf(numbers), (Bounds{2, -2, -1})) << "below the low bound 0 of the empty array";
-    EXPECT_EQ(HostArrayGetNumber(numbers, &n, -1), 1);
-    EXPECT_EQ(n.length, 0);
-    EXPECT_EQ(HostArrayGetNumber(numbers, &n, 0), 0);
     EXPECT_EQ(HostArrayGetDateTime(dates, &d, 0), 1);
     EXPECT_EQ(d.length, 0) << "growth fills with null records";
     EXPECT_EQ(HostArrayGetDateTime(dates, &d, 1), 1);
@@ -152,9 +119,7 @@ TEST_F(HostArrays, WrongTypesAndDeadArraysGiveZero) {
     HostNumber n{};
     EXPECT_EQ(HostArrayGetHandle(flags, &v, 0), 0);
     EXPECT_EQ(v, 0u);
-    EXPECT_EQ(HostArraySetHandle(flags, 1, 0), 0);
     EXPECT_EQ(HostArrayGetNumber(strings, &n, 0), 0);
-    EXPECT_EQ(HostArraySetDateTime(flags, &n, 0), 0);
     HostStr s = ZkHostStrMake(L"x");
     EXPECT_EQ(HostArraySetString(flags, s, 0), 0);
     EXPECT_EQ(ZkHostStrRefs(s), 1) << "a refused write takes no reference";
@@ -165,10 +130,8 @@ TEST_F(HostArrays, WrongTypesAndDeadArraysGiveZero) {
     HostArrayDestroy(flags);
     EXPECT_EQ(HostArrayDestroy(flags), 0);
     EXPECT_EQ(HostArraySetBoolean(flags, 1, 0), 0);
-    EXPECT_EQ(HostArrayIsEmpty(flags), 1);
     int32_t low = 5, high = 5;
     EXPECT_EQ(HostArrayGetBounds(flags, &low, &high), 0);
-    EXPECT_EQ(HostArraySetBounds(flags, 0, 3), 0);
     EXPECT_EQ(HostArraySetBounds(0, 0, 3), 0);
 }
 
@@ -182,36 +145,16 @@ TEST_F(HostArrays, StringSlotsTakeTheCallersReferenceAndDropTheOld) {
     EXPECT_EQ(HostArrayGetString(a, &read, 3), 1);
     EXPECT_EQ(read, first);
     EXPECT_EQ(ZkHostStrRefs(first), 1) << "reading borrows";
-    EXPECT_EQ(HostArrayGetString(a, &read, 0), 1);
-    EXPECT_EQ(read, 0u) << "growth gives null strings";
 
     HostStrAddRef(first); // the same handle in a second slot
     ASSERT_EQ(HostArraySetString(a, first, 4), 1);
-    EXPECT_EQ(ZkHostStrRefs(first), 2);
     ASSERT_EQ(HostArraySetString(a, second, 3), 1);
     EXPECT_EQ(ZkHostStrRefs(first), 1);
     ASSERT_EQ(HostArraySetString(a, 0, 4), 1);
     EXPECT_EQ(ZkHostStrRefs(first), 0);
-    EXPECT_EQ(ZkHostStrRefs(second), 1);
     EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"<null>", L"<null>", L"<null>", L"second", L"<null>"}));
-    HostArrayDestroy(a);
-    EXPECT_EQ(ZkHostStrRefs(second), 0) << "destroying drops the array's references";
-}
-
-TEST_F(HostArrays, ShrinkingDropsTheStringsThatFallOut) {
-    HostArray a = HostArrayCreate(HOST_TYPE_STRING);
-    std::vector<HostStr> made;
-    for (int32_t i = 0; i < 6; ++i) {
-        made.push_back(ZkHostStrMake(std::to_wstring(i).c_str()));
-        HostArraySetString(a, made.back(), i);
-    }
-    ASSERT_EQ(HostArraySetBounds(a, 2, 3), 1);
-    for (int32_t i = 0; i < 6; ++i)
-        EXPECT_EQ(ZkHostStrRefs(made[i]), i == 2 || i == 3 ? 1 : 0) << i;
-    EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"2", L"3"}));
-    ASSERT_EQ(HostArraySetBounds(a, 10, 12), 1);
-    EXPECT_EQ(ZkHostStrRefs(made[2]), 0);
-    EXPECT_EQ(ZkHostStrRefs(made[3]), 0);
+    ASSERT_EQ(HostArraySetBounds(a, 0, 2), 1);
+    EXPECT_EQ(ZkHostStrRefs(second), 0) << "shrinking drops the strings that fall out";
     HostArrayDestroy(a);
 }
 
@@ -219,7 +162,6 @@ TEST_F(HostArrays, TokenizeWritesNewStringsFromTheLowBound) {
     HostArray a = HostArrayCreate(HOST_TYPE_STRING);
     EXPECT_EQ(HostStrTokenize(L"C:\\dir\\sub", L"", L"\\", a), 3);
     EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"C:", L"dir", L"sub"}));
-    EXPECT_EQ(BoundsOf(a).low, 0);
 
     HostArraySetBounds(a, 3, 7);
     HostStr old = ZkHostStrMake(L"old");
@@ -231,16 +173,21 @@ TEST_F(HostArrays, TokenizeWritesNewStringsFromTheLowBound) {
     EXPECT_EQ(ZkHostStrRefs(old), 1) << "the overwritten slot let go of it";
     ZkHostStrRelease(old);
 
-    EXPECT_EQ(HostStrTokenize(L"x[a]y[bc]z[", L"[", L"]", a), 2);
-    EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"a", L"bc"})) << "text between tokens is left";
-    EXPECT_EQ(HostStrTokenize(L",a,,b", L",", L",", a), 2);
-    EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"a", L"b"}));
-    EXPECT_EQ(HostStrTokenize(L"[open", L"[", L"]", a), 1);
-    EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"open"}));
-    EXPECT_EQ(HostStrTokenize(L"", L"", L"\\", a), 0);
-    EXPECT_EQ(HostArrayIsEmpty(a), 1);
-    EXPECT_EQ(HostStrTokenize(L"a b", L"", L"", a), 1);
-    EXPECT_EQ(Strings(a), (std::vector<std::wstring>{L"a b"}));
+    const struct {
+        const wchar_t *text, *start, *end;
+        std::vector<std::wstring> tokens;
+    } cases[] = {
+        {L"x[a]y[bc]z[", L"[", L"]", {L"a", L"bc"}}, // text between tokens is left
+        {L",a,,b", L",", L",", {L"a", L"b"}},
+        {L"[open", L"[", L"]", {L"open"}},
+        {L"a b", L"", L"", {L"a b"}},
+        {L"", L"", L"\\", {}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << c.text);
+        EXPECT_EQ(HostStrTokenize(c.text, c.start, c.end, a), int32_t(c.tokens.size()));
+        EXPECT_EQ(Strings(a), c.tokens);
+    }
     HostArrayDestroy(a);
 
     HostArray numbers = HostArrayCreate(HOST_TYPE_NUMBER);

@@ -1,5 +1,5 @@
-// File streams on real files, the wait cursor, named resources, byte
-// blocks and the double-byte copy.
+// File streams on real files, the wait cursor, named resources and the
+// double-byte copy.
 #include <cstdio>
 #include <string>
 
@@ -38,12 +38,6 @@ protected:
         return bytes;
     }
 
-    void WriteBytes(const std::string &bytes) {
-        HostFile f = Open(OF_CREATE | OF_WRITE);
-        EXPECT_EQ(HostFileWrite(f, bytes.data(), int32_t(bytes.size())), int32_t(bytes.size()));
-        HostFileClose(f);
-    }
-
     std::wstring path_;
 };
 
@@ -53,54 +47,44 @@ std::string InSystemCodePage(const wchar_t *text) {
     return bytes;
 }
 
-TEST_F(HostFiles, LinesAreWrittenInTheSystemCodePageWithCrLf) {
+TEST_F(HostFiles, LinesGoOutInTheSystemCodePageWithCrLfAndComeBack) {
     HostFile f = Open(OF_CREATE | OF_WRITE);
     ASSERT_NE(f, nullptr);
-    EXPECT_EQ(HostFileWriteString(f, L"first"), 1);
-    EXPECT_EQ(HostFileWriteString(f, L"caf\u00e9"), 1);
-    EXPECT_EQ(HostFileWriteString(f, L""), 1);
-    EXPECT_EQ(HostFileWriteString(f, nullptr), 1);
+    for (const wchar_t *line : {L"abcdef", L"caf\u00e9", L"", static_cast<const wchar_t *>(nullptr)})
+        EXPECT_EQ(HostFileWriteString(f, line), 1);
+    EXPECT_EQ(HostFileWrite(f, "unix\nlast", 9), 9);
     EXPECT_EQ(HostFileClose(f), 1);
-    EXPECT_EQ(Bytes(), "first\r\n" + InSystemCodePage(L"caf\u00e9") + "\r\n\r\n\r\n");
-}
+    EXPECT_EQ(Bytes(), "abcdef\r\n" + InSystemCodePage(L"caf\u00e9") + "\r\n\r\n\r\nunix\nlast");
 
-TEST_F(HostFiles, ReadingLinesBackUntilTheEnd) {
-    WriteBytes("first\r\n" + InSystemCodePage(L"caf\u00e9") + "\r\n\r\nunix\nlast");
-    HostFile f = Open(OF_READ);
+    f = Open(OF_READ);
     HostStr slot = 0;
-    const wchar_t *expected[] = {L"first", L"caf\u00e9", L"", L"unix", L"last"};
-    for (const wchar_t *line : expected) {
+    ASSERT_EQ(HostFileReadString(f, &slot, 3), 1);
+    EXPECT_EQ(Text(slot), L"abc") << "a limit keeps the start and reads the line whole";
+    for (const wchar_t *line : {L"caf\u00e9", L"", L"", L"unix", L"last"}) {
         HostStr before = slot;
         ASSERT_EQ(HostFileReadString(f, &slot, -1), 1) << line;
         EXPECT_EQ(Text(slot), line);
-        if (before) {
-            EXPECT_EQ(ZkHostStrRefs(before), 0) << "the slot let go of the previous line";
-        }
+        EXPECT_EQ(ZkHostStrRefs(before), 0) << "the slot let go of the previous line";
     }
     HostStr last = slot;
     EXPECT_EQ(HostFileReadString(f, &slot, -1), 0);
     EXPECT_EQ(slot, last) << "at the end the slot stays as it was";
-    EXPECT_EQ(HostFileReadString(f, &slot, -1), 0);
-    HostFileClose(f);
-    ZkHostStrRelease(slot);
-}
-
-TEST_F(HostFiles, ALimitKeepsTheStartOfTheLineAndReadsItWhole) {
-    WriteBytes("abcdef\r\nxy\r\n");
-    HostFile f = Open(OF_READ);
-    HostStr slot = 0;
-    ASSERT_EQ(HostFileReadString(f, &slot, 3), 1);
-    EXPECT_EQ(Text(slot), L"abc");
-    ASSERT_EQ(HostFileReadString(f, &slot, 0), 1);
-    EXPECT_EQ(Text(slot), L"");
-    EXPECT_EQ(HostFileReadString(f, &slot, 3), 0);
     HostFileClose(f);
     ZkHostStrRelease(slot);
 }
 
 TEST_F(HostFiles, OpenFlagsGiveTheirAccess) {
-    WriteBytes("0123456789");
-    HostFile f = Open(OF_WRITE);
+    HostFile f = reinterpret_cast<HostFile>(1);
+    EXPECT_EQ(HostFileOpen(&f, path_.c_str(), OF_EXIST), 0);
+    EXPECT_EQ(f, nullptr);
+    f = Open(OF_CREATE | OF_WRITE);
+    HostFileWrite(f, "0123456789", 10);
+    HostFileClose(f);
+    f = reinterpret_cast<HostFile>(1);
+    EXPECT_EQ(HostFileOpen(&f, path_.c_str(), OF_EXIST), 1);
+    EXPECT_EQ(f, nullptr) << "exist asks without a stream";
+
+    f = Open(OF_WRITE);
     EXPECT_EQ(HostFileWrite(f, "ab", 2), 2);
     HostFileClose(f);
     EXPECT_EQ(Bytes(), "ab23456789") << "OF_WRITE keeps the file";
@@ -112,7 +96,6 @@ TEST_F(HostFiles, OpenFlagsGiveTheirAccess) {
     f = Open(OF_READWRITE);
     char two[2] = {};
     EXPECT_EQ(HostFileRead(f, two, 2), 2);
-    EXPECT_EQ(std::string(two, 2), "ab");
     fseek(f, 0, SEEK_CUR); // a C stream switches from reading to writing through a seek
     EXPECT_EQ(HostFileWrite(f, "XY", 2), 2);
     HostFileClose(f);
@@ -121,18 +104,6 @@ TEST_F(HostFiles, OpenFlagsGiveTheirAccess) {
     f = Open(OF_CREATE | OF_READWRITE);
     EXPECT_EQ(HostFileRead(f, two, 2), 0) << "made anew";
     HostFileClose(f);
-    EXPECT_EQ(Bytes(), "");
-}
-
-TEST_F(HostFiles, ExistAsksWithoutAStream) {
-    HostFile f = reinterpret_cast<HostFile>(1);
-    EXPECT_EQ(HostFileOpen(&f, path_.c_str(), OF_EXIST), 0);
-    EXPECT_EQ(f, nullptr);
-    WriteBytes("x");
-    f = reinterpret_cast<HostFile>(1);
-    EXPECT_EQ(HostFileOpen(&f, path_.c_str(), OF_EXIST), 1);
-    EXPECT_EQ(f, nullptr);
-    EXPECT_EQ(Bytes(), "x");
 }
 
 TEST_F(HostFiles, FailuresReportTheSystemError) {
@@ -160,20 +131,14 @@ class HostMisc : public HostTest {};
 TEST_F(HostMisc, WaitCursorNestsAndPutsTheOldCursorBack) {
     HCURSOR arrow = LoadCursorW(nullptr, IDC_ARROW), wait = LoadCursorW(nullptr, IDC_WAIT);
     SetCursor(arrow);
-    ASSERT_EQ(ZkHostWaitCursorDepth(), 0);
     HostWaitCursor(1);
-    EXPECT_EQ(GetCursor(), wait);
     HostWaitCursor(1);
-    EXPECT_EQ(ZkHostWaitCursorDepth(), 2);
     HostWaitCursor(0);
-    EXPECT_EQ(ZkHostWaitCursorDepth(), 1);
     EXPECT_EQ(GetCursor(), wait) << "still on: one level left";
     HostWaitCursor(0);
-    EXPECT_EQ(ZkHostWaitCursorDepth(), 0);
     EXPECT_EQ(GetCursor(), arrow);
     HostWaitCursor(0);
     EXPECT_EQ(ZkHostWaitCursorDepth(), 0) << "never below zero";
-    EXPECT_EQ(GetCursor(), arrow);
 }
 
 TEST_F(HostMisc, RegisteredResourcesLoadAsStringsOfTheirBytes) {
@@ -181,13 +146,12 @@ TEST_F(HostMisc, RegisteredResourcesLoadAsStringsOfTheirBytes) {
     ASSERT_EQ(ZkHostResourceAdd(L"Blob", blob, sizeof blob), 1);
     HostResource r = HostResourceFind(L"BLOB");
     ASSERT_NE(r, 0u) << "names compare without case";
-    EXPECT_EQ(HostResourceFind(L"blob"), r);
     HostStr bytes = 0;
     ASSERT_EQ(HostResourceLoad(r, &bytes), 1);
     int32_t size = 0;
-    auto *p = reinterpret_cast<const unsigned char *>(HostStrLock(bytes, &size));
+    auto *p = reinterpret_cast<const char *>(HostStrLock(bytes, &size));
     EXPECT_EQ(size, 8) << "5 bytes to whole characters, and a terminator";
-    EXPECT_EQ(std::string(reinterpret_cast<const char *>(p), 8), std::string("\1\2\3\4\5\0\0\0", 8));
+    EXPECT_EQ(std::string(p, 8), std::string("\1\2\3\4\5\0\0\0", 8));
     EXPECT_EQ(HostStrFreeResource(bytes), 1);
     EXPECT_EQ(ZkHostStrRefs(bytes), 0);
     EXPECT_EQ(HostStrFreeResource(bytes), 0);
@@ -197,23 +161,13 @@ TEST_F(HostMisc, RegisteredResourcesLoadAsStringsOfTheirBytes) {
     bytes = 0;
     ASSERT_EQ(HostResourceLoad(r, &bytes), 1);
     EXPECT_EQ(Text(bytes), L"hi");
-    HostStrLock(bytes, &size);
-    EXPECT_EQ(size, 6);
-    HostStrFreeResource(bytes);
-
-    ASSERT_EQ(ZkHostResourceAdd(L"Empty", nullptr, 0), 1);
-    bytes = 0;
-    ASSERT_EQ(HostResourceLoad(HostResourceFind(L"Empty"), &bytes), 1);
-    EXPECT_EQ(Text(bytes), L"");
     HostStrFreeResource(bytes);
 
     EXPECT_EQ(HostResourceFind(L"NoSuchResource"), 0u);
     EXPECT_EQ(HostResourceFind(nullptr), 0u);
-    EXPECT_EQ(HostResourceLoad(0, &bytes), 0);
     EXPECT_EQ(HostResourceLoad(r + 1000, &bytes), 0);
     EXPECT_EQ(HostResourceLoad(r, nullptr), 0);
     EXPECT_EQ(ZkHostResourceAdd(L"bad", nullptr, 3), 0);
-    EXPECT_EQ(ZkHostResourceAdd(nullptr, blob, 1), 0);
 }
 
 TEST_F(HostMisc, MbcsCopyCutsAtTheLimitAndEnds) {
@@ -221,10 +175,6 @@ TEST_F(HostMisc, MbcsCopyCutsAtTheLimitAndEnds) {
     memset(out, '#', sizeof out);
     EXPECT_EQ(HostMbcsCopy(out, "abcdef", 3), 0);
     EXPECT_STREQ(out, "abc");
-    EXPECT_EQ(HostMbcsCopy(out, "ab", 10), 0);
-    EXPECT_STREQ(out, "ab");
-    EXPECT_EQ(HostMbcsCopy(out, "ab", 0), 0);
-    EXPECT_STREQ(out, "");
     EXPECT_EQ(HostMbcsCopy(out, nullptr, 5), 0);
     EXPECT_STREQ(out, "");
 }
@@ -239,10 +189,6 @@ TEST_F(HostMisc, ADoubleByteCharacterIsNeverCutInTwo) {
     EXPECT_STREQ(out, "a");
     EXPECT_FALSE(hostwin::CopyWholeCharacters(out, text, 3, IsShiftJisLead));
     EXPECT_STREQ(out, "a\x82\xa0");
-    EXPECT_TRUE(hostwin::CopyWholeCharacters(out, text, 5, IsShiftJisLead));
-    EXPECT_STREQ(out, "a\x82\xa0" "b");
-    EXPECT_FALSE(hostwin::CopyWholeCharacters(out, text, 9, IsShiftJisLead));
-    EXPECT_STREQ(out, text);
     EXPECT_FALSE(hostwin::CopyWholeCharacters(out, "a\x82", 9, IsShiftJisLead)) << "a lone lead at the end";
     EXPECT_STREQ(out, "a\x82");
 }

@@ -1,61 +1,67 @@
-// The drive and directory tests work in a fresh folder under the temporary
-// folder, removed with everything in it afterwards; host arrays are made
-// and read back as the host would, and every test gives back the strings
-// and arrays it made.
+// The drive and directory tests run in the file tests' fresh folder, with
+// host arrays made and read back by the array tests' helpers; every test
+// gives back the strings and arrays it made.
 #pragma once
 
-#include <windows.h>
-
-#include <gtest/gtest.h>
-
-#include <initializer_list>
-#include <string>
+#include <algorithm>
 #include <vector>
 
-#include "zkhost.h"
-#include "zkhostctl.h"
-#include "zklib.h"
+#include "array_support.h"
+#include "files_support.h"
 
 namespace dostest {
 
+using namespace arraytest;
+using filestest::IsFolder;
+using filestest::MissingDrive;
+using filestest::Take;
 using Texts = std::vector<std::wstring>;
 
-// The text of a string result, which the test then releases.
-std::wstring Take(HostStr handle);
-// The text behind a borrowed handle.
-std::wstring Text(HostStr handle);
+inline HostArray StringArray(std::initializer_list<const wchar_t *> texts, int32_t low = 0) {
+    return Strings(texts, low);
+}
+inline Texts Sorted(Texts texts) {
+    std::sort(texts.begin(), texts.end());
+    return texts;
+}
+inline std::vector<HostNumber> RecordsOf(HostArray array, int32_t type) {
+    std::vector<HostNumber> out;
+    const Bounds b = BoundsOf(array);
+    for (int32_t i = b.low; b.count > 0 && i <= b.high; ++i) {
+        HostNumber n{};
+        type == HOST_TYPE_DATETIME ? HostArrayGetDateTime(array, &n, i) : HostArrayGetNumber(array, &n, i);
+        out.push_back(n);
+    }
+    return out;
+}
+inline int32_t LongOf(const HostNumber &number) {
+    int32_t value = INT32_MIN;
+    HostNumberToLong(&number, &value);
+    return value;
+}
 
-struct Bounds {
-    int32_t count, low, high;
-    bool operator==(const Bounds &) const = default;
-};
-void PrintTo(const Bounds &b, std::ostream *os);
-Bounds BoundsOf(HostArray array);
-
-// A string array holding the texts from index `low` on.
-HostArray StringArray(std::initializer_list<const wchar_t *> texts, int32_t low = 0);
-// Contents in index order; names sorted when the platform's order does not matter.
-Texts TextsOf(HostArray array);
-Texts Sorted(Texts texts);
-std::vector<HostNumber> RecordsOf(HostArray array, int32_t type);
-int32_t LongOf(const HostNumber &number);
-// A number as the host reads its decimal text.
-HostNumber NumberOf(const std::wstring &text);
-bool SameRecord(const HostNumber &a, const HostNumber &b);
-
-// A drive letter this machine lacks ("Q:"), or "" when all exist.
-std::wstring MissingDrive();
-
-// Makes a file of `bytes` bytes (0: empty) with the given attributes; true
-// when the attributes stuck (the file system may not keep hidden or system).
-bool MakeFile(const std::wstring &path, DWORD size = 0, DWORD attributes = FILE_ATTRIBUTE_NORMAL);
-void RemoveTree(const std::wstring &path);
+// An empty file with the given marks; true when the marks stuck (the file
+// system may not keep hidden or system).
+inline bool MakeFile(const std::wstring &path, DWORD attributes = FILE_ATTRIBUTE_NORMAL) {
+    if (!filestest::Write(path, ""))
+        return false;
+    SetFileAttributesW(path.c_str(), attributes);
+    const DWORD kept = GetFileAttributesW(path.c_str());
+    return kept != INVALID_FILE_ATTRIBUTES && (kept & attributes) == (attributes & ~FILE_ATTRIBUTE_NORMAL);
+}
 
 // Sets an environment variable for the length of a test (null unsets it).
 class Variable {
 public:
-    Variable(const wchar_t *name, const wchar_t *value);
-    ~Variable();
+    Variable(const wchar_t *name, const wchar_t *value) : name_(name) {
+        const DWORD size = GetEnvironmentVariableW(name, nullptr, 0);
+        if ((had_ = size > 0)) {
+            saved_.assign(size, L'\0');
+            saved_.resize(GetEnvironmentVariableW(name, saved_.data(), size));
+        }
+        SetEnvironmentVariableW(name, value);
+    }
+    ~Variable() { SetEnvironmentVariableW(name_.c_str(), had_ ? saved_.c_str() : nullptr); }
     Variable(const Variable &) = delete;
     Variable &operator=(const Variable &) = delete;
 
@@ -64,28 +70,29 @@ private:
     bool had_ = false;
 };
 
-class DosTest : public ::testing::Test {
+class DosTest : public filestest::FolderTest {
 protected:
-    void SetUp() override;
-    void TearDown() override;
-    std::wstring At(const std::wstring &name) const { return dir_ + name; }
-    std::wstring Folder(const std::wstring &name) {
-        const std::wstring path = At(name);
-        EXPECT_TRUE(CreateDirectoryW(path.c_str(), nullptr));
-        return path;
+    void SetUp() override {
+        ZkHostFailAllocations(0);
+        liveArrays_ = ZkHostLiveArrays();
+        FolderTest::SetUp();
     }
-    // An array of the type, destroyed at the end of the test.
-    HostArray Array(int32_t type);
+    void TearDown() override {
+        for (HostArray array : arrays_)
+            HostArrayDestroy(array);
+        EXPECT_EQ(liveArrays_, ZkHostLiveArrays()) << "host arrays left behind";
+        FolderTest::TearDown();
+    }
+    // An array destroyed at the end of the test.
     HostArray Keep(HostArray array) {
         arrays_.push_back(array);
         return array;
     }
-
-    std::wstring dir_; // with a final backslash
+    HostArray Array(int32_t type) { return Keep(HostArrayCreate(type)); }
 
 private:
     std::vector<HostArray> arrays_;
-    int32_t liveStrings_ = 0, liveArrays_ = 0;
+    int32_t liveArrays_ = 0;
 };
 
 } // namespace dostest

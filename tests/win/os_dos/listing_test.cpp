@@ -12,20 +12,31 @@ protected:
     // system), a folder; false when this file system drops the marks.
     bool MakeMarkedFiles() {
         bool kept = MakeFile(At(L"plain.txt"));
-        kept &= MakeFile(At(L"hid.txt"), 0, FILE_ATTRIBUTE_HIDDEN);
-        kept &= MakeFile(At(L"sys.txt"), 0, FILE_ATTRIBUTE_SYSTEM);
-        kept &= MakeFile(At(L"both.txt"), 0, FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
+        kept &= MakeFile(At(L"hid.txt"), FILE_ATTRIBUTE_HIDDEN);
+        kept &= MakeFile(At(L"sys.txt"), FILE_ATTRIBUTE_SYSTEM);
+        kept &= MakeFile(At(L"both.txt"), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM);
         Folder(L"folder.txt");
         return kept;
     }
     std::wstring Pattern(const wchar_t *mask = L"*") const { return At(mask); }
+    // Index for index, the attributes listed are the entries'.
+    void ExpectMarksOf(HostArray names, HostArray attributes) {
+        const Texts listed = TextsOf(names);
+        const std::vector<HostNumber> marks = RecordsOf(attributes, HOST_TYPE_NUMBER);
+        ASSERT_EQ(listed.size(), marks.size());
+        for (size_t i = 0; i < listed.size(); ++i)
+            EXPECT_EQ(static_cast<int32_t>(GetFileAttributesW(At(listed[i]).c_str())), LongOf(marks[i])) << i;
+    }
 };
 
-TEST_F(Listing, FoldersOnlyWithoutTheirLinks) {
+TEST_F(Listing, FoldersOnlyWithoutTheirLinksFromIndexZero) {
     Folder(L"alpha");
     Folder(L"beta");
-    ASSERT_TRUE(MakeFile(At(L"file.txt")));
-    const HostArray names = Array(HOST_TYPE_STRING);
+    Make(L"file.txt", "");
+    const HostArray names = Keep(StringArray({L"x", L"y", L"z"}, 5));
+    EXPECT_EQ(0, ZelDosEnumDirs(Pattern(L"*.txt").c_str(), names)) << "nothing to take empties the array";
+    EXPECT_EQ(0, BoundsOf(names).count);
+    HostArraySetBounds(names, 3, 5);
     EXPECT_EQ(2, ZelDosEnumDirs(Pattern().c_str(), names));
     EXPECT_EQ((Texts{L"alpha", L"beta"}), Sorted(TextsOf(names)));
     EXPECT_EQ((Bounds{2, 0, 1}), BoundsOf(names));
@@ -35,24 +46,8 @@ TEST_F(Listing, FoldersOnlyWithoutTheirLinks) {
     EXPECT_EQ(1, ZelDosEnumDirInfo(Pattern(L"b*").c_str(), infoNames, dates, attributes));
     EXPECT_EQ((Texts{L"beta"}), TextsOf(infoNames));
     EXPECT_EQ((Bounds{1, 0, 0}), BoundsOf(dates));
-    EXPECT_EQ((Bounds{1, 0, 0}), BoundsOf(attributes));
-    EXPECT_EQ(static_cast<int32_t>(GetFileAttributesW(At(L"beta").c_str())),
-              LongOf(RecordsOf(attributes, HOST_TYPE_NUMBER)[0]));
+    ExpectMarksOf(infoNames, attributes);
     EXPECT_NE(0, RecordsOf(dates, HOST_TYPE_DATETIME)[0].length);
-}
-
-TEST_F(Listing, NothingToTakeEmptiesWhateverBoundsTheArraysHad) {
-    ASSERT_TRUE(MakeFile(At(L"only.txt")));
-    const HostArray names = Keep(StringArray({L"x", L"y", L"z"}, 5));
-    EXPECT_EQ(0, ZelDosEnumDirs(Pattern().c_str(), names));
-    EXPECT_EQ(0, BoundsOf(names).count);
-
-    // A listing from index 0 whatever the low bound was.
-    Folder(L"sub");
-    const HostArray again = Keep(StringArray({L"x", L"y", L"z"}, 3));
-    EXPECT_EQ(1, ZelDosEnumDirs(Pattern().c_str(), again));
-    EXPECT_EQ((Bounds{1, 0, 0}), BoundsOf(again));
-    EXPECT_EQ((Texts{L"sub"}), TextsOf(again));
 }
 
 TEST_F(Listing, FailuresLeaveEveryArrayAsItWas) {
@@ -105,51 +100,45 @@ TEST_F(Listing, PlainFilesWantAllMaskBitsDetailedFilesAny) {
     EXPECT_EQ(3, ZelDosEnumFileInfo(Pattern().c_str(), FILE_ATTRIBUTE_HIDDEN | FILE_ATTRIBUTE_SYSTEM, names, sizes,
                                     dates, attributes));
     EXPECT_EQ((Texts{L"both.txt", L"hid.txt", L"sys.txt"}), Sorted(TextsOf(names)));
-    // The four arrays stay in step, index for index.
-    const Texts listed = TextsOf(names);
-    const std::vector<HostNumber> marks = RecordsOf(attributes, HOST_TYPE_NUMBER);
-    ASSERT_EQ(listed.size(), marks.size());
-    for (size_t i = 0; i < listed.size(); ++i)
-        EXPECT_EQ(static_cast<int32_t>(GetFileAttributesW(At(listed[i]).c_str())), LongOf(marks[i])) << i;
+    ExpectMarksOf(names, attributes);
     // A mask no file has takes nothing, and empties the arrays.
     EXPECT_EQ(0, ZelDosEnumFileInfo(Pattern().c_str(), FILE_ATTRIBUTE_READONLY, names, sizes, dates, attributes));
     EXPECT_EQ(0, BoundsOf(sizes).count);
 }
 
-// The creation time set to a local moment. The write time goes with it:
-// where the file system keeps no creation time (Wine on most Unix file
-// systems), the last write stands in for it.
+// The creation time (and the write time, which stands in for it where the
+// file system keeps none) set to a local moment.
 bool SetCreated(const std::wstring &path, WORD year, WORD month, WORD day, WORD hour, WORD minute, WORD second) {
-    SYSTEMTIME local{};
-    local.wYear = year, local.wMonth = month, local.wDay = day;
-    local.wHour = hour, local.wMinute = minute, local.wSecond = second;
+    SYSTEMTIME local{year, month, 0, day, hour, minute, second, 0};
     FILETIME localTime, utc;
     if (!SystemTimeToFileTime(&local, &localTime) || !LocalFileTimeToFileTime(&localTime, &utc))
         return false;
     const HANDLE file = CreateFileW(path.c_str(), FILE_WRITE_ATTRIBUTES, 0, nullptr, OPEN_EXISTING,
                                     FILE_FLAG_BACKUP_SEMANTICS, nullptr);
     const bool ok = file != INVALID_HANDLE_VALUE && SetFileTime(file, &utc, nullptr, &utc);
-    if (file != INVALID_HANDLE_VALUE)
-        CloseHandle(file);
+    CloseHandle(file);
     return ok;
 }
 
+HostDateTime Date(int year, int month, int day, int hour, int minute, int second) {
+    HostDateTime d{};
+    HostDateConstruct(&d, year, month, day, hour, minute, second);
+    return d;
+}
+
 TEST_F(Listing, SizesLow32BitsAndCreationDatesToTwoSeconds) {
-    ASSERT_TRUE(MakeFile(At(L"small.bin"), 12345));
-    ASSERT_TRUE(MakeFile(At(L"huge.bin"), 0)); // set large below: MakeFile takes 32 bits
-    {
-        const HANDLE file = CreateFileW(At(L"huge.bin").c_str(), GENERIC_WRITE, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-        LARGE_INTEGER end;
-        end.QuadPart = (1ll << 32) + 7;
-        ASSERT_TRUE(SetFilePointerEx(file, end, nullptr, FILE_BEGIN) && SetEndOfFile(file));
-        CloseHandle(file);
-    }
-    ASSERT_TRUE(MakeFile(At(L"old.bin")));
+    ASSERT_TRUE(filestest::MakeSparse(At(L"small.bin"), 12345));
+    ASSERT_TRUE(filestest::MakeSparse(At(L"huge.bin"), (1ull << 32) + 7));
+    Make(L"old.bin", "");
+    Folder(L"sub");
     ASSERT_TRUE(SetCreated(At(L"small.bin"), 2021, 7, 4, 10, 20, 31));
     ASSERT_TRUE(SetCreated(At(L"huge.bin"), 2107, 12, 31, 23, 59, 58));
     ASSERT_TRUE(SetCreated(At(L"old.bin"), 1975, 3, 1, 8, 0, 0));
-    Folder(L"sub");
     ASSERT_TRUE(SetCreated(At(L"sub"), 1999, 12, 31, 23, 59, 59));
+    const struct {
+        int32_t size;
+        HostDateTime date; // the odd second goes; before 1980 there is no DOS form
+    } expected[] = {{7, Date(2107, 12, 31, 23, 59, 58)}, {0, HostDateTime{}}, {12345, Date(2021, 7, 4, 10, 20, 30)}};
 
     const HostArray names = Array(HOST_TYPE_STRING), sizes = Array(HOST_TYPE_NUMBER),
                     dates = Array(HOST_TYPE_DATETIME), attributes = Array(HOST_TYPE_NUMBER);
@@ -159,39 +148,23 @@ TEST_F(Listing, SizesLow32BitsAndCreationDatesToTwoSeconds) {
                                   dateRecords = RecordsOf(dates, HOST_TYPE_DATETIME);
     for (size_t i = 0; i < listed.size(); ++i) {
         SCOPED_TRACE(std::string(listed[i].begin(), listed[i].end()));
-        const HostDateTime &d = dateRecords[i];
-        if (listed[i] == L"small.bin") {
-            EXPECT_EQ(12345, LongOf(sizeRecords[i]));
-            HostDateTime expected{};
-            HostDateConstruct(&expected, 2021, 7, 4, 10, 20, 30); // the odd second goes
-            EXPECT_TRUE(SameRecord(expected, d));
-            EXPECT_EQ(30, HostDateSecond(d));
-        } else if (listed[i] == L"huge.bin") {
-            EXPECT_EQ(7, LongOf(sizeRecords[i]));
-            EXPECT_EQ(2107, HostDateYear(d));
-            EXPECT_EQ(58, HostDateSecond(d));
-        } else {
-            EXPECT_EQ(0, LongOf(sizeRecords[i]));
-            EXPECT_EQ(0, d.length) << "a year before 1980 has no DOS form";
-        }
+        const auto &e = expected[listed[i] == L"huge.bin" ? 0 : listed[i] == L"old.bin" ? 1 : 2];
+        EXPECT_EQ(e.size, LongOf(sizeRecords[i]));
+        if (e.date.length == 0)
+            EXPECT_EQ(0, dateRecords[i].length);
+        else
+            EXPECT_TRUE(SameRecord(e.date, dateRecords[i]));
     }
-    const HostArray dirNames = Array(HOST_TYPE_STRING), dirDates = Array(HOST_TYPE_DATETIME),
-                    dirAttributes = Array(HOST_TYPE_NUMBER);
-    ASSERT_EQ(1, ZelDosEnumDirInfo(Pattern().c_str(), dirNames, dirDates, dirAttributes));
-    const HostDateTime folderDate = RecordsOf(dirDates, HOST_TYPE_DATETIME)[0];
-    HostDateTime expected{};
-    HostDateConstruct(&expected, 1999, 12, 31, 23, 59, 58);
-    EXPECT_TRUE(SameRecord(expected, folderDate));
+    ASSERT_EQ(1, ZelDosEnumDirInfo(Pattern().c_str(), names, dates, attributes));
+    EXPECT_TRUE(SameRecord(Date(1999, 12, 31, 23, 59, 58), RecordsOf(dates, HOST_TYPE_DATETIME)[0]));
 }
 
 TEST_F(Listing, DrivesOfThisMachine) {
     const HostArray names = Keep(StringArray({L"stale"}, 4));
-    const DWORD drives = GetLogicalDrives();
     Texts expected;
-    for (int i = 0; i < 26; ++i) {
-        if (drives & (1u << i))
+    for (int i = 0; i < 26; ++i)
+        if (GetLogicalDrives() & (1u << i))
             expected.push_back(std::wstring(1, static_cast<wchar_t>(L'A' + i)) + L":\\");
-    }
     EXPECT_EQ(static_cast<int32_t>(expected.size()), ZelDosEnumDrives(names));
     EXPECT_EQ(expected, TextsOf(names));
     EXPECT_EQ(0, BoundsOf(names).low);
@@ -200,7 +173,7 @@ TEST_F(Listing, DrivesOfThisMachine) {
 TEST_F(Listing, SearchPathFoldersThatExist) {
     Folder(L"one");
     Folder(L"two");
-    ASSERT_TRUE(MakeFile(At(L"file")));
+    Make(L"file", "");
     const std::wstring path = At(L"one") + L";" + At(L"two\\") + L";;" + At(L"file") + L";" + At(L"missing") + L";";
     const HostArray names = Array(HOST_TYPE_STRING);
     {
@@ -224,7 +197,7 @@ TEST_F(Listing, SearchPathFoldersThatExist) {
         EXPECT_EQ(0, ZelDosEnumPath(names));
     }
     EXPECT_EQ(0, BoundsOf(names).count);
-
+    // No PATH at all leaves the array alone.
     const HostArray kept = Keep(StringArray({L"kept"}));
     for (const wchar_t *value : {L"", static_cast<const wchar_t *>(nullptr)}) {
         const Variable variable(L"PATH", value);

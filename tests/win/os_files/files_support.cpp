@@ -3,14 +3,12 @@
 namespace filestest {
 
 bool Write(const std::wstring &path, const Bytes &bytes) {
-    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                                    nullptr);
+    const HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
     if (file == INVALID_HANDLE_VALUE)
         return false;
     DWORD written = 0;
-    const bool ok = bytes.empty() ||
-                    (WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                     written == bytes.size());
+    const bool ok = bytes.empty() || (WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written,
+                                                nullptr) && written == bytes.size());
     CloseHandle(file);
     return ok;
 }
@@ -28,10 +26,6 @@ Bytes Read(const std::wstring &path) {
     CloseHandle(file);
     return bytes;
 }
-
-DWORD Attributes(const std::wstring &path) { return GetFileAttributesW(path.c_str()); }
-
-bool Exists(const std::wstring &path) { return Attributes(path) != INVALID_FILE_ATTRIBUTES; }
 
 bool IsFolder(const std::wstring &path) {
     const DWORD a = Attributes(path);
@@ -52,12 +46,11 @@ bool MakeSparse(const std::wstring &path, uint64_t size) {
 Bytes SampleBytes(size_t size, uint32_t seed) {
     static const char *const words[] = {"alder ", "birch ", "cedar ", "zelkova ", "\r\n", "maple ", "    "};
     Bytes out;
-    out.reserve(size + 16);
     uint32_t state = seed * 2654435761u + 1;
     while (out.size() < size) {
         state = state * 1664525u + 1013904223u;
         if ((state >> 28) == 0)
-            out += static_cast<char>(state >> 8); // a byte of noise now and then
+            out += static_cast<char>(state >> 8);
         else
             out += words[(state >> 16) % 7];
     }
@@ -69,15 +62,6 @@ FILETIME WriteTime(const std::wstring &path) {
     WIN32_FILE_ATTRIBUTE_DATA data{};
     GetFileAttributesExW(path.c_str(), GetFileExInfoStandard, &data);
     return data.ftLastWriteTime;
-}
-
-SYSTEMTIME WriteTimeLocal(const std::wstring &path) {
-    const FILETIME utc = WriteTime(path);
-    FILETIME local{};
-    SYSTEMTIME out{};
-    FileTimeToLocalFileTime(&utc, &local);
-    FileTimeToSystemTime(&local, &out);
-    return out;
 }
 
 std::wstring MissingDrive() {
@@ -104,10 +88,9 @@ void RemoveTree(const std::wstring &path) {
     const HANDLE search = FindFirstFileW((path + L"\\*").c_str(), &entry);
     if (search != INVALID_HANDLE_VALUE) {
         do {
-            const std::wstring name = entry.cFileName;
+            const std::wstring name = entry.cFileName, child = path + L"\\" + name;
             if (name == L"." || name == L"..")
                 continue;
-            const std::wstring child = path + L"\\" + name;
             SetFileAttributesW(child.c_str(), FILE_ATTRIBUTE_NORMAL);
             if (entry.dwFileAttributes & FILE_ATTRIBUTE_DIRECTORY)
                 RemoveTree(child);

@@ -1,6 +1,5 @@
-// The file tests work in a fresh folder under the temporary folder, made
-// for each test and removed with everything in it afterwards (read-only
-// and hidden marks cleared first). Files are written and read whole.
+// Each file test works in a fresh folder under the temporary folder,
+// removed with everything in it afterwards (marks cleared first).
 #pragma once
 
 #include <windows.h>
@@ -9,7 +8,6 @@
 
 #include <cstdint>
 #include <string>
-#include <vector>
 
 #include "zkhost.h"
 #include "zkhostctl.h"
@@ -19,37 +17,33 @@ namespace filestest {
 
 using Bytes = std::string;
 
-// Writes a file whole; true on success.
 bool Write(const std::wstring &path, const Bytes &bytes);
-// The whole file, or "<missing>" when it cannot be opened.
+// The whole file, or "<missing>".
 Bytes Read(const std::wstring &path);
-bool Exists(const std::wstring &path);
+inline DWORD Attributes(const std::wstring &path) { return GetFileAttributesW(path.c_str()); }
+inline bool Exists(const std::wstring &path) { return Attributes(path) != INVALID_FILE_ATTRIBUTES; }
 bool IsFolder(const std::wstring &path);
-DWORD Attributes(const std::wstring &path);
-// A file of `size` bytes that takes no room on the disk: its end is set,
-// nothing is written.
+// A file of `size` bytes that takes no room: only its end is set.
 bool MakeSparse(const std::wstring &path, uint64_t size);
-// Text of `size` bytes with patterns that repeat (for compression) and a
-// little noise, the same for the same seed.
+// Repeating words with a little noise (compressible), the same per seed.
 Bytes SampleBytes(size_t size, uint32_t seed);
-
-// The file's last write time as local time.
-SYSTEMTIME WriteTimeLocal(const std::wstring &path);
 FILETIME WriteTime(const std::wstring &path);
-
-// A drive letter this machine does not have ("Q:"), or "" if all exist.
+// A drive letter this machine lacks ("Q:"), or "".
 std::wstring MissingDrive();
+// The text of a string result, which is then released.
+std::wstring Take(HostStr handle);
+void RemoveTree(const std::wstring &path);
+// A file in the classic compressed format (COMPRESS.EXE) standing for a
+// name whose last character is `missing`.
+std::string SzddCompress(const std::string &data, char missing = 't');
+inline int32_t Err(DWORD code) { return -static_cast<int32_t>(code); }
 
-// Holds a file open with no sharing, as another program might, until it
-// goes out of scope.
+// Holds a file open with no sharing, as another program might.
 class Held {
 public:
     explicit Held(const std::wstring &path)
         : handle_(CreateFileW(path.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr)) {}
-    ~Held() {
-        if (handle_ != INVALID_HANDLE_VALUE)
-            CloseHandle(handle_);
-    }
+    ~Held() { CloseHandle(handle_); }
     Held(const Held &) = delete;
     Held &operator=(const Held &) = delete;
     bool Holds() const { return handle_ != INVALID_HANDLE_VALUE; }
@@ -58,31 +52,22 @@ private:
     HANDLE handle_;
 };
 
-// The text of a host string, which the test then releases.
-std::wstring Take(HostStr handle);
-
-// Removes a folder with everything in it.
-void RemoveTree(const std::wstring &path);
-
-// A fresh folder for each test, its path with a final backslash; checks
-// that no host string outlives the test.
+// The test's folder (path with a final backslash); no host string may
+// outlive the test.
 class FolderTest : public ::testing::Test {
 protected:
     void SetUp() override;
     void TearDown() override;
-    // A path in the test's folder.
     std::wstring At(const std::wstring &name) const { return dir_ + name; }
     std::wstring Make(const std::wstring &name, const Bytes &bytes) {
-        const std::wstring path = At(name);
-        EXPECT_TRUE(Write(path, bytes)) << "could not write the test file";
-        return path;
+        EXPECT_TRUE(Write(At(name), bytes)) << "could not write the test file";
+        return At(name);
     }
     std::wstring Folder(const std::wstring &name) {
-        const std::wstring path = At(name);
-        EXPECT_TRUE(CreateDirectoryW(path.c_str(), nullptr));
-        return path;
+        EXPECT_TRUE(CreateDirectoryW(At(name).c_str(), nullptr));
+        return At(name);
     }
-    // Runs the test's current directory in the folder until the end of the test.
+    // The current directory is the test's folder until the end of the test.
     void EnterFolder();
 
     std::wstring dir_;

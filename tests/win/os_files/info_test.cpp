@@ -1,4 +1,6 @@
 // Attributes, sizes, types and dates of files.
+#include <cstdio>
+
 #include "files_support.h"
 
 using namespace filestest;
@@ -8,35 +10,23 @@ namespace {
 class FileInfo : public FolderTest {};
 
 TEST_F(FileInfo, AttributesReadAndChangedByPattern) {
-    const std::wstring a = Make(L"a.txt", "a"), b = Make(L"b.txt", "b");
-    const std::wstring d = Folder(L"d.txt");
+    const std::wstring a = Make(L"a.txt", "a"), b = Make(L"b.txt", "b"), d = Folder(L"d.txt");
     EXPECT_EQ(0, ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
     EXPECT_EQ(FILE_ATTRIBUTE_DIRECTORY, ZelFileGetAttribute(d.c_str()) & FILE_ATTRIBUTE_DIRECTORY);
-
     // Folders that match count and change too.
     EXPECT_EQ(3, ZelFileSetAttribute(At(L"*.txt").c_str(), FILE_ATTRIBUTE_READONLY, 1));
     EXPECT_TRUE(ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
-    EXPECT_TRUE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_READONLY);
     EXPECT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_READONLY, 0));
     EXPECT_FALSE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_READONLY);
     EXPECT_TRUE(ZelFileGetAttribute(a.c_str()) & FILE_ATTRIBUTE_READONLY);
-
-    ASSERT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_HIDDEN, 1));
-    if (ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_HIDDEN) {
-        EXPECT_EQ(1, ZelFileSetAttribute(b.c_str(), FILE_ATTRIBUTE_HIDDEN, 0));
-        EXPECT_FALSE(ZelFileGetAttribute(b.c_str()) & FILE_ATTRIBUTE_HIDDEN);
-    }
     // The pattern's folder itself is not a match: "." and ".." are left alone.
     EXPECT_EQ(3, ZelFileSetAttribute(At(L"*").c_str(), FILE_ATTRIBUTE_READONLY, 0));
     EXPECT_FALSE(Attributes(dir_) & FILE_ATTRIBUTE_READONLY);
-}
 
-TEST_F(FileInfo, AttributeFailures) {
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetAttribute(nullptr));
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetAttribute(At(L"none").c_str()));
+    EXPECT_EQ(Err(ERROR_FILE_NOT_FOUND), ZelFileGetAttribute(At(L"none").c_str()));
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileSetAttribute(nullptr, FILE_ATTRIBUTE_READONLY, 1));
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND),
-              ZelFileSetAttribute(At(L"*.none").c_str(), FILE_ATTRIBUTE_READONLY, 1));
+    EXPECT_EQ(Err(ERROR_FILE_NOT_FOUND), ZelFileSetAttribute(At(L"*.none").c_str(), FILE_ATTRIBUTE_READONLY, 1));
 }
 
 TEST_F(FileInfo, SizeIsTheLow32Bits) {
@@ -47,9 +37,8 @@ TEST_F(FileInfo, SizeIsTheLow32Bits) {
     ASSERT_TRUE(MakeSparse(At(L"half.bin"), 0x80000010ull));
     EXPECT_EQ(static_cast<int32_t>(0x80000010u), ZelFileGetSize(At(L"half.bin").c_str()));
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(At(L"*.bin").c_str()));
-    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(At(L"s.bi?").c_str()));
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetSize(nullptr));
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetSize(At(L"none").c_str()));
+    EXPECT_EQ(Err(ERROR_FILE_NOT_FOUND), ZelFileGetSize(At(L"none").c_str()));
 }
 
 // The "Programs" entry of the system profile, set for one test and put back.
@@ -68,29 +57,20 @@ private:
 // An extension opened by the system's text editor, for one test.
 class Association {
 public:
-    explicit Association(std::wstring extension) : extension_(std::move(extension)) {
-        HKEY key = nullptr;
-        if (RegCreateKeyExW(HKEY_CLASSES_ROOT, extension_.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
-                            nullptr) == ERROR_SUCCESS) {
-            RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE *>(kClass), sizeof kClass);
-            RegCloseKey(key);
-        }
-        const std::wstring command = std::wstring(kClass) + L"\\shell\\open\\command";
-        if (RegCreateKeyExW(HKEY_CLASSES_ROOT, command.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key,
-                            nullptr) == ERROR_SUCCESS) {
-            static const wchar_t open[] = L"notepad.exe \"%1\"";
-            RegSetValueExW(key, nullptr, 0, REG_SZ, reinterpret_cast<const BYTE *>(open), sizeof open);
-            RegCloseKey(key);
-        }
+    explicit Association(const wchar_t *extension) : extension_(extension) {
+        static const wchar_t open[] = L"notepad.exe \"%1\"";
+        RegSetKeyValueW(HKEY_CLASSES_ROOT, extension, nullptr, REG_SZ, kClass, sizeof kClass);
+        RegSetKeyValueW(HKEY_CLASSES_ROOT, L"ZkTest.Associated\\shell\\open\\command", nullptr, REG_SZ, open,
+                        sizeof open);
     }
     ~Association() {
-        RegDeleteTreeW(HKEY_CLASSES_ROOT, extension_.c_str());
+        RegDeleteTreeW(HKEY_CLASSES_ROOT, extension_);
         RegDeleteTreeW(HKEY_CLASSES_ROOT, kClass);
     }
 
 private:
     static constexpr wchar_t kClass[] = L"ZkTest.Associated";
-    std::wstring extension_;
+    const wchar_t *extension_;
 };
 
 TEST_F(FileInfo, TypeOfFiles) {
@@ -111,7 +91,7 @@ TEST_F(FileInfo, TypeOfFiles) {
     if (Attributes(hidden) & FILE_ATTRIBUTE_SYSTEM) {
         EXPECT_EQ(ZEL_FILETYPE_HIDDEN, ZelFileGetType(hidden.c_str()));
     }
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileGetType(At(L"none.txt").c_str()));
+    EXPECT_EQ(Err(ERROR_FILE_NOT_FOUND), ZelFileGetType(At(L"none.txt").c_str()));
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileGetType(nullptr));
 }
 
@@ -121,50 +101,56 @@ HostDateTime Date(int year, int month, int day, int hour, int minute, int second
     return d;
 }
 
-void ExpectLocal(const SYSTEMTIME &t, int year, int month, int day, int hour, int minute, int second) {
-    EXPECT_EQ(year, t.wYear);
-    EXPECT_EQ(month, t.wMonth);
-    EXPECT_EQ(day, t.wDay);
-    EXPECT_EQ(hour, t.wHour);
-    EXPECT_EQ(minute, t.wMinute);
-    EXPECT_EQ(second, t.wSecond);
+// The file's last write time as local "Y-M-D h:m:s".
+std::string Local(const std::wstring &path) {
+    const FILETIME utc = WriteTime(path);
+    FILETIME local{};
+    SYSTEMTIME t{};
+    FileTimeToLocalFileTime(&utc, &local);
+    FileTimeToSystemTime(&local, &t);
+    char text[40];
+    std::snprintf(text, sizeof text, "%d-%d-%d %d:%d:%d", t.wYear, t.wMonth, t.wDay, t.wHour, t.wMinute, t.wSecond);
+    return text;
 }
 
 TEST_F(FileInfo, DateTimeToTwoSecondsOnEveryFile) {
     const std::wstring a = Make(L"a.log", "a"), b = Make(L"b.log", "b");
     Folder(L"c.log");
     EXPECT_EQ(2, ZelFileSetDateTime(At(L"*.log").c_str(), Date(2021, 7, 4, 10, 20, 31)));
-    ExpectLocal(WriteTimeLocal(a), 2021, 7, 4, 10, 20, 30);
-    ExpectLocal(WriteTimeLocal(b), 2021, 7, 4, 10, 20, 30);
+    EXPECT_EQ("2021-7-4 10:20:30", Local(a));
+    EXPECT_EQ("2021-7-4 10:20:30", Local(b));
     WIN32_FILE_ATTRIBUTE_DATA data{};
     ASSERT_TRUE(GetFileAttributesExW(a.c_str(), GetFileExInfoStandard, &data));
     EXPECT_EQ(0, CompareFileTime(&data.ftLastWriteTime, &data.ftLastAccessTime));
-
-    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(1980, 1, 1, 0, 0, 0)));
-    ExpectLocal(WriteTimeLocal(a), 1980, 1, 1, 0, 0, 0);
-    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(2107, 12, 31, 23, 59, 59)));
-    ExpectLocal(WriteTimeLocal(a), 2107, 12, 31, 23, 59, 58);
-    // Years before 1980 are not representable and come out 128 years late.
-    EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), Date(1970, 6, 15, 12, 0, 0)));
-    ExpectLocal(WriteTimeLocal(a), 2098, 6, 15, 12, 0, 0);
+    const struct {
+        HostDateTime date;
+        const char *written;
+    } cases[] = {
+        {Date(1980, 1, 1, 0, 0, 0), "1980-1-1 0:0:0"},
+        {Date(2107, 12, 31, 23, 59, 59), "2107-12-31 23:59:58"},
+        // Years before 1980 have no DOS form and come out 128 years late.
+        {Date(1970, 6, 15, 12, 0, 0), "2098-6-15 12:0:0"},
+    };
+    for (const auto &c : cases) {
+        EXPECT_EQ(1, ZelFileSetDateTime(a.c_str(), c.date));
+        EXPECT_EQ(c.written, Local(a));
+    }
 }
 
 TEST_F(FileInfo, DateTimeFailures) {
     const HostDateTime date = Date(2020, 1, 2, 3, 4, 6);
     EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelFileSetDateTime(nullptr, date));
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_FILE_NOT_FOUND), ZelFileSetDateTime(At(L"*.none").c_str(), date));
+    EXPECT_EQ(Err(ERROR_FILE_NOT_FOUND), ZelFileSetDateTime(At(L"*.none").c_str(), date));
     const std::wstring busy = Make(L"busy.log", "r");
     {
         const Held held(busy);
         ASSERT_TRUE(held.Holds());
-        EXPECT_EQ(-static_cast<int32_t>(ERROR_SHARING_VIOLATION), ZelFileSetDateTime(busy.c_str(), date));
+        EXPECT_EQ(Err(ERROR_SHARING_VIOLATION), ZelFileSetDateTime(busy.c_str(), date));
     }
     // A null date has month and day 0, which the platform refuses.
-    const std::wstring a = Make(L"a.log", "a");
-    const FILETIME before = WriteTime(a);
-    EXPECT_LT(ZelFileSetDateTime(a.c_str(), HostDateTime{}), 0);
-    const FILETIME after = WriteTime(a);
-    EXPECT_EQ(0, CompareFileTime(&before, &after));
+    const std::string before = Local(busy);
+    EXPECT_LT(ZelFileSetDateTime(busy.c_str(), HostDateTime{}), 0);
+    EXPECT_EQ(before, Local(busy));
 }
 
 } // namespace

@@ -13,14 +13,12 @@ TEST_F(FileRoutines, OpenExFlags) {
     const std::wstring a = Make(L"a.txt", "abc");
     EXPECT_EQ(nullptr, ZelFileOpenEx(At(L"none").c_str(), nullptr, 0, OF_PARSE));
     EXPECT_EQ(nullptr, ZelFileOpenEx(a.c_str(), nullptr, 0, OF_EXIST));
-
-    wchar_t found[MAX_PATH] = {};
+    wchar_t found[MAX_PATH] = {}, tiny[4] = {};
     EnterFolder();
     EXPECT_EQ(nullptr, ZelFileOpenEx(L"a.txt", found, MAX_PATH, OF_EXIST));
     EXPECT_EQ(a, found);
     EXPECT_EQ(INVALID_HANDLE_VALUE, ZelFileOpenEx(L"none.txt", found, MAX_PATH, OF_EXIST));
     EXPECT_EQ(DWORD{ERROR_FILE_NOT_FOUND}, GetLastError());
-    wchar_t tiny[4] = {};
     EXPECT_EQ(INVALID_HANDLE_VALUE, ZelFileOpenEx(L"a.txt", tiny, 4, OF_EXIST)) << "the path does not fit";
 
     // A plain open reads and lets others read and write.
@@ -43,7 +41,6 @@ TEST_F(FileRoutines, OpenExFlags) {
     EXPECT_NE(INVALID_HANDLE_VALUE, other) << "reading is still shared";
     CloseHandle(other);
     CloseHandle(h);
-
     h = ZelFileOpenEx(a.c_str(), nullptr, 0, OF_SHARE_EXCLUSIVE);
     EXPECT_EQ(INVALID_HANDLE_VALUE, ZelFileOpenEx(a.c_str(), nullptr, 0, 0));
     CloseHandle(h);
@@ -51,25 +48,24 @@ TEST_F(FileRoutines, OpenExFlags) {
 
 TEST_F(FileRoutines, OpenExCreatesAndDeletes) {
     const std::wstring a = Make(L"a.txt", "old contents");
-    wchar_t copy[MAX_PATH] = {};
+    wchar_t copy[MAX_PATH] = {}, small[5] = {};
     // Creating drops every other flag, the search included: the name is copied as it is.
     HANDLE h = ZelFileOpenEx(a.c_str(), copy, MAX_PATH, OF_CREATE | OF_READWRITE | OF_SHARE_EXCLUSIVE);
     ASSERT_NE(INVALID_HANDLE_VALUE, h);
     EXPECT_EQ(a, copy);
     DWORD count = 0;
-    EXPECT_TRUE(WriteFile(h, "new", 3, &count, nullptr));
     char byte = 0;
+    EXPECT_TRUE(WriteFile(h, "new", 3, &count, nullptr));
     EXPECT_FALSE(ReadFile(h, &byte, 1, &count, nullptr)) << "write access only";
     HANDLE other = ZelFileOpenEx(a.c_str(), nullptr, 0, 0);
     EXPECT_NE(INVALID_HANDLE_VALUE, other) << "shared, as a plain open";
     CloseHandle(other);
     CloseHandle(h);
     EXPECT_EQ("new", Read(a));
-    wchar_t small[5] = {};
     h = ZelFileOpenEx(At(L"b.txt").c_str(), small, 5, OF_CREATE);
     ASSERT_NE(INVALID_HANDLE_VALUE, h);
     CloseHandle(h);
-    EXPECT_EQ(std::wstring(At(L"b.txt").substr(0, 4)), small) << "cut to the buffer";
+    EXPECT_EQ(At(L"b.txt").substr(0, 4), small) << "cut to the buffer";
     EXPECT_TRUE(Exists(At(L"b.txt"))) << "the file made is the one named";
 
     EXPECT_EQ(nullptr, ZelFileOpenEx(a.c_str(), nullptr, 0, OF_DELETE));
@@ -78,58 +74,44 @@ TEST_F(FileRoutines, OpenExCreatesAndDeletes) {
     EXPECT_EQ(INVALID_HANDLE_VALUE, ZelFileOpenEx(nullptr, nullptr, 0, 0));
 }
 
-TEST_F(FileRoutines, PathTests) {
+TEST_F(FileRoutines, PathTestsAndSplitTarget) {
     Folder(L"sub");
-    const std::wstring file = Make(L"f.txt", "f");
-    EXPECT_TRUE(ZelPathIsDir(At(L"sub")));
     EXPECT_TRUE(ZelPathIsDir(At(L"sub\\")));
     EXPECT_TRUE(ZelPathIsDir(L"  " + At(L"sub") + L"  "));
-    EXPECT_FALSE(ZelPathIsDir(file));
+    EXPECT_FALSE(ZelPathIsDir(Make(L"f.txt", "f")));
     EXPECT_FALSE(ZelPathIsDir(At(L"none")));
-    EXPECT_FALSE(ZelPathIsDir(L""));
     EXPECT_FALSE(ZelPathIsDir(L"   "));
-
-    EXPECT_EQ(3, ZelPathDriveNumber(L"C:\\"));
     EXPECT_EQ(3, ZelPathDriveNumber(L"c:"));
     EXPECT_EQ(0, ZelPathDriveNumber(MissingDrive()));
     EXPECT_EQ(0, ZelPathDriveNumber(L"1:\\"));
     EXPECT_EQ(0, ZelPathDriveNumber(L""));
-}
 
-TEST_F(FileRoutines, SplitTargetOnTheFileSystem) {
-    Folder(L"out");
     std::wstring dir = L"x", name = L"y";
-    EXPECT_EQ(0, ZelPathSplitTarget(At(L"out"), dir, name));
-    EXPECT_EQ(At(L"out\\"), dir);
-    EXPECT_EQ(L"*.*", name);
-    EXPECT_EQ(0, ZelPathSplitTarget(At(L"out\\n*.txt"), dir, name));
-    EXPECT_EQ(At(L"out\\"), dir);
-    EXPECT_EQ(L"n*.txt", name);
+    EXPECT_EQ(0, ZelPathSplitTarget(At(L"sub"), dir, name));
+    EXPECT_EQ(At(L"sub\\") + L"|*.*", dir + L"|" + name);
+    EXPECT_EQ(0, ZelPathSplitTarget(At(L"sub\\n*.txt"), dir, name));
+    EXPECT_EQ(At(L"sub\\") + L"|n*.txt", dir + L"|" + name);
     EXPECT_EQ(-3, ZelPathSplitTarget(At(L"none\\n.txt"), dir, name));
-    EXPECT_EQ(L"", dir);
-    EXPECT_EQ(L"", name);
+    EXPECT_EQ(L"|", dir + L"|" + name);
     EXPECT_EQ(-15, ZelPathSplitTarget(MissingDrive() + L"\\n.txt", dir, name));
     EXPECT_EQ(0, ZelPathSplitTarget(L"bare.txt", dir, name));
-    EXPECT_EQ(L"", dir);
-    EXPECT_EQ(L"", name);
+    EXPECT_EQ(L"|", dir + L"|" + name);
 }
 
-TEST_F(FileRoutines, BufferGrowsWithTheLargestFile) {
+TEST_F(FileRoutines, BufferGrowsWithTheLargestFileAndNeverShrinks) {
     HGLOBAL block = nullptr;
     uint32_t size = 0;
     ASSERT_EQ(0, ZelFileBufferEnsure(99, block, size));
     ASSERT_NE(nullptr, block);
     EXPECT_EQ(100u, size);
-    EXPECT_GE(GlobalSize(block), 100u);
-    void *bytes = GlobalLock(block);
-    EXPECT_NE(static_cast<void *>(block), bytes) << "a moveable block is reached through its lock";
+    EXPECT_NE(static_cast<void *>(block), GlobalLock(block)) << "a moveable block";
     GlobalUnlock(block);
     ASSERT_EQ(0, ZelFileBufferEnsure(100, block, size));
     EXPECT_EQ(101u, size);
-    EXPECT_GE(GlobalSize(block), 101u) << "the block holds every transfer it is asked for";
+    EXPECT_GE(GlobalSize(block), 101u);
     ASSERT_EQ(0, ZelFileBufferEnsure(10, block, size));
     EXPECT_EQ(11u, size);
-    EXPECT_GE(GlobalSize(block), 101u) << "never shrinks";
+    EXPECT_GE(GlobalSize(block), 101u);
     ASSERT_EQ(0, ZelFileBufferEnsure(5ull << 30, block, size));
     EXPECT_EQ(65533u, size);
     EXPECT_GE(GlobalSize(block), 65533u);
@@ -140,26 +122,26 @@ TEST_F(FileRoutines, CopyDataMovesTheRestOfAFile) {
     const Bytes data = SampleBytes(100000, 21);
     const std::wstring from = Make(L"from.bin", data), to = At(L"to.bin");
     std::string buffer(1000, '\0');
-    HANDLE in = CreateFileW(from.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    HANDLE out = CreateFileW(to.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    auto open = [](const std::wstring &path, DWORD access, DWORD how) {
+        return CreateFileW(path.c_str(), access, FILE_SHARE_READ, nullptr, how, 0, nullptr);
+    };
+    HANDLE in = open(from, GENERIC_READ, OPEN_EXISTING), out = open(to, GENERIC_WRITE, CREATE_ALWAYS);
     ASSERT_NE(INVALID_HANDLE_VALUE, in);
     ASSERT_NE(INVALID_HANDLE_VALUE, out);
     SetFilePointer(in, 10, nullptr, FILE_BEGIN);
     EXPECT_EQ(0, ZelFileCopyData(in, out, buffer.data(), 1000));
-    CloseHandle(in);
     CloseHandle(out);
     EXPECT_EQ(data.substr(10), Read(to));
-
     // A failed write is an error; a failed read ends the copy quietly.
-    in = CreateFileW(from.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    out = CreateFileW(to.c_str(), GENERIC_READ, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
-    EXPECT_EQ(-static_cast<int32_t>(ERROR_ACCESS_DENIED), ZelFileCopyData(in, out, buffer.data(), 1000));
+    out = open(to, GENERIC_READ, OPEN_EXISTING);
+    SetFilePointer(in, 0, nullptr, FILE_BEGIN);
+    EXPECT_EQ(Err(ERROR_ACCESS_DENIED), ZelFileCopyData(in, out, buffer.data(), 1000));
     CloseHandle(out);
-    out = CreateFileW(At(L"short.bin").c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    HANDLE writeOnly = CreateFileW(from.c_str(), GENERIC_WRITE, FILE_SHARE_READ, nullptr, OPEN_EXISTING, 0, nullptr);
     CloseHandle(in);
-    EXPECT_EQ(0, ZelFileCopyData(writeOnly, out, buffer.data(), 1000));
-    CloseHandle(writeOnly);
+    in = open(from, GENERIC_WRITE, OPEN_EXISTING);
+    out = open(At(L"short.bin"), GENERIC_WRITE, CREATE_ALWAYS);
+    EXPECT_EQ(0, ZelFileCopyData(in, out, buffer.data(), 1000));
+    CloseHandle(in);
     CloseHandle(out);
     EXPECT_EQ("", Read(At(L"short.bin")));
 }

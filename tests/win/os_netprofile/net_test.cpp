@@ -26,15 +26,9 @@ TEST_F(Net, NameOfALocalOrUnknownDeviceIsEmpty) {
     for (const std::wstring &name : {drive + L"\\", drive, L"\\" + drive + L"\\\\", std::wstring(L"LPT1"),
                                      std::wstring(L""), std::wstring(L"\\\\")}) {
         SCOPED_TRACE(std::string(name.begin(), name.end()));
-        const HostStr result = ZelDosGetNetName(name.c_str());
-        ASSERT_NE(0u, result);
-        int32_t size = 0;
-        EXPECT_STREQ(L"", HostStrLock(result, &size));
-        ZkHostStrRelease(result);
+        EXPECT_EQ(L"", filestest::Take(ZelDosGetNetName(name.c_str())));
     }
-    const HostStr none = ZelDosGetNetName(nullptr);
-    ASSERT_NE(0u, none);
-    ZkHostStrRelease(none);
+    EXPECT_EQ(L"", filestest::Take(ZelDosGetNetName(nullptr)));
 }
 
 TEST_F(Net, ConnectionCallsGiveThePlatformsErrorNegated) {

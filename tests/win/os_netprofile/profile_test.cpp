@@ -41,14 +41,6 @@ TEST_F(Profile, MoreThan256CharactersOfNames) {
     EXPECT_EQ((Texts{std::wstring(250, L'e'), L"f", L"g"}), Elements(keys));
 }
 
-TEST_F(Profile, EmptyOrMissingSectionLeavesTheArray) {
-    const std::wstring ini = Make(L"empty.ini", "[none]\r\n[some]\r\nk=v\r\n");
-    const HostArray keys = Array({L"kept", L"too"});
-    EXPECT_EQ(0, ZelProfileEnumStrings(ini.c_str(), L"none", keys));
-    EXPECT_EQ(0, ZelProfileEnumStrings(ini.c_str(), L"absent", keys));
-    EXPECT_EQ((Texts{L"kept", L"too"}), Elements(keys));
-}
-
 TEST_F(Profile, FileIsLookedUpOnTheSearchPath) {
     Make(L"here.ini", "[s]\r\nlocal=1\r\n");
     EnterFolder();
@@ -60,16 +52,18 @@ TEST_F(Profile, FileIsLookedUpOnTheSearchPath) {
     EXPECT_EQ(0, ZelProfileEnumStrings(L"here.ini", L"s", keys));
 }
 
-TEST_F(Profile, MissingFileAndNullArguments) {
+TEST_F(Profile, FailuresAndEmptySectionsLeaveTheArray) {
     const HostArray keys = Array({L"kept"});
+    const std::wstring empty = Make(L"empty.ini", "[none]\r\n[some]\r\nk=v\r\n");
+    EXPECT_EQ(0, ZelProfileEnumStrings(empty.c_str(), L"none", keys));
+    EXPECT_EQ(0, ZelProfileEnumStrings(empty.c_str(), L"absent", keys));
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileEnumStrings(At(L"none.ini").c_str(), L"s", keys));
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileEnumStrings(nullptr, L"s", keys));
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(At(L"none.ini").c_str(), L"s", L"k"));
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(nullptr, L"s", L""));
     EXPECT_EQ("<missing>", Contents(L"none.ini")) << "nothing is created";
-    const std::wstring ini = Make(L"n.ini", "[s]\r\nk=v\r\n");
-    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileEnumStrings(ini.c_str(), nullptr, keys));
-    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileDelete(ini.c_str(), nullptr, L"k"));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileEnumStrings(empty.c_str(), nullptr, keys));
+    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileDelete(empty.c_str(), nullptr, L"k"));
     EXPECT_EQ((Texts{L"kept"}), Elements(keys));
 }
 
@@ -90,14 +84,14 @@ TEST_F(Profile, DeleteAKeyOrTheWholeSection) {
     EXPECT_EQ(std::string::npos, Contents(L"del.ini").find("[a]"));
     EXPECT_EQ(std::string::npos, Contents(L"del.ini").find("k2"));
 
-    // A file that another program holds without sharing cannot be written:
-    // the platform's 0.
+    // A file another program holds without sharing cannot be written: the platform's 0.
     const std::wstring locked = Make(L"ro.ini", "[a]\r\nk=1\r\n");
-    const HANDLE held = CreateFileW(locked.c_str(), GENERIC_READ, 0, nullptr, OPEN_EXISTING, 0, nullptr);
-    ASSERT_NE(INVALID_HANDLE_VALUE, held);
-    EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L"k"));
-    EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L""));
-    CloseHandle(held);
+    {
+        const filestest::Held held(locked);
+        ASSERT_TRUE(held.Holds());
+        EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L"k"));
+        EXPECT_EQ(0, ZelProfileDelete(locked.c_str(), L"a", L""));
+    }
     EXPECT_EQ("[a]\r\nk=1\r\n", Contents(L"ro.ini"));
 }
 

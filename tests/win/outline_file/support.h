@@ -21,6 +21,7 @@
 namespace ofiletest {
 
 using Bytes = std::vector<uint8_t>;
+using zk::CPicArray;
 
 constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 constexpr DWORD kComboStyle = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
@@ -49,8 +50,9 @@ struct Spell {
     // level, normal, selected, font, colour, flags, value, then the text.
     Spell &item(int32_t level, int32_t normal, int32_t selected, int32_t font, uint32_t colour, uint32_t flags,
                 int32_t value, std::wstring_view text) {
-        u32(static_cast<uint32_t>(level)).u32(static_cast<uint32_t>(normal)).u32(static_cast<uint32_t>(selected));
-        u32(static_cast<uint32_t>(font)).u32(colour).u32(flags).u32(static_cast<uint32_t>(value));
+        for (uint32_t v : {uint32_t(level), uint32_t(normal), uint32_t(selected), uint32_t(font), colour, flags,
+                           uint32_t(value)})
+            u32(v);
         return wide(text);
     }
 };
@@ -62,37 +64,15 @@ inline HostStr Carry(const Bytes &bytes) {
         return 0;
     int32_t size = 0;
     auto *buffer = reinterpret_cast<uint8_t *>(HostStrLock(handle, &size));
-    if (!bytes.empty())
-        std::memcpy(buffer, bytes.data(), bytes.size());
+    if (!bytes.empty()) std::memcpy(buffer, bytes.data(), bytes.size());
     buffer[bytes.size()] = 0;
     return handle;
 }
 
-// The stream a host string carries: all its bytes but the last, which must be NUL.
-inline Bytes Carried(HostStr handle) {
-    int32_t size = 0;
-    const auto *buffer = reinterpret_cast<const uint8_t *>(HostStrLock(handle, &size));
-    EXPECT_TRUE(buffer && size >= 1);
-    if (!buffer || size < 1)
-        return {};
-    EXPECT_EQ(buffer[size - 1], 0);
-    return Bytes(buffer, buffer + size - 1);
-}
-
-inline std::wstring Text(ZelItemHandle node) {
-    HostStr text = ZelListGetItemText(node);
-    int32_t size = 0;
-    std::wstring out = HostStrLock(text, &size);
-    ZkHostStrRelease(text);
-    return out;
-}
-
-// A node's text read from its record (the text class's own members live in the library).
+inline LbxNode *Node(ZelItemHandle handle) { return reinterpret_cast<LbxNode *>(handle); }
 inline std::wstring NodeText(const LbxNode *node) {
     return reinterpret_cast<const wchar_t *>(node->item->text.c_str());
 }
-
-inline LbxNode *Node(ZelItemHandle handle) { return reinterpret_cast<LbxNode *>(handle); }
 
 // One line per node below `root`, pre-order: indentation by level, text,
 // value, flags and colour in hex.
@@ -101,9 +81,8 @@ inline std::string Describe(ZelItemHandle root) {
     const LbxNode *stop = Node(root);
     for (const LbxNode *n = stop->firstChild; n;) {
         char line[160];
-        std::snprintf(line, sizeof line, "%*s%ls v%d f%08x c%06x\n", 2 * n->level, "",
-                      reinterpret_cast<const wchar_t *>(n->item->text.c_str()), n->item->value,
-                      static_cast<unsigned>(n->item->flags), static_cast<unsigned>(n->item->color));
+        std::snprintf(line, sizeof line, "%*s%ls v%d f%08x c%06x\n", 2 * n->level, "", NodeText(n).c_str(),
+                      n->item->value, static_cast<unsigned>(n->item->flags), static_cast<unsigned>(n->item->color));
         out += line;
         if (n->firstChild) {
             n = n->firstChild;
@@ -115,28 +94,18 @@ inline std::string Describe(ZelItemHandle root) {
     return out;
 }
 
-inline LbxChild ChildRecord(HWND window) {
-    LbxChild copy{};
+inline int32_t Indent(HWND window) {
     HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxChild *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
+    const auto *record = handle ? static_cast<const LbxChild *>(LocalLock(handle)) : nullptr;
+    const int32_t indent = record ? record->indent : -1;
+    if (record) LocalUnlock(handle);
+    return indent;
 }
 
 inline int Rows(HWND list) { return static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)); }
-
-using zk::CPicArray;
-
-// The registries the list keeps in its properties.
 inline CPicArray *PicRegistry(HWND list) { return static_cast<CPicArray *>(GetPropW(list, L"ZK:PicList")); }
 inline void *FontRegistry(HWND list) { return GetPropW(list, L"ZK:FontList"); }
-
-// A registry entry, read through the record's own inline accessor.
 inline PIC *PicAt(const CPicArray *pics, int index) { return pics->Items()[static_cast<size_t>(index)]; }
-
-inline PIC *Pic(ZelPicHandle handle) { return reinterpret_cast<PIC *>(handle); }
 
 struct FileFixture : ::testing::Test {
     zkt::TestWindow form{500, 400};
@@ -156,12 +125,19 @@ struct FileFixture : ::testing::Test {
         return ZelListLoadChild(w ? w : list, parent, normal, selected, text, value, flags);
     }
 
+    // The stream a save gives: all the string's bytes but the last, which must be NUL.
     Bytes Save(HWND w) {
         HostStr out = 0;
         EXPECT_EQ(ZelListSaveOutline(w, &out), 0);
-        Bytes bytes = out ? Carried(out) : Bytes{};
-        if (out)
-            ZkHostStrRelease(out);
+        int32_t size = 0;
+        const auto *buffer = out ? reinterpret_cast<const uint8_t *>(HostStrLock(out, &size)) : nullptr;
+        if (!buffer || size < 1) {
+            ADD_FAILURE() << "no stream";
+            return {};
+        }
+        EXPECT_EQ(buffer[size - 1], 0);
+        Bytes bytes(buffer, buffer + size - 1);
+        ZkHostStrRelease(out);
         return bytes;
     }
     ZelItemHandle Load(HWND w, const Bytes &bytes) {

@@ -20,12 +20,8 @@ namespace listfntest {
 enum class Kind { PlainList, PlainCombo, AdoptedList, AdoptedCombo };
 
 inline const char *KindName(Kind k) {
-    switch (k) {
-    case Kind::PlainList: return "PlainList";
-    case Kind::PlainCombo: return "PlainCombo";
-    case Kind::AdoptedList: return "AdoptedList";
-    default: return "AdoptedCombo";
-    }
+    static const char *const names[] = {"PlainList", "PlainCombo", "AdoptedList", "AdoptedCombo"};
+    return names[static_cast<int>(k)];
 }
 
 inline bool IsCombo(Kind k) { return k == Kind::PlainCombo || k == Kind::AdoptedCombo; }
@@ -62,6 +58,10 @@ inline std::wstring Take(HostStr s) {
     return out;
 }
 
+inline void Fill(HWND list, int rows) {
+    for (int i = 0; i < rows; ++i) ZelListAddValue(list, std::to_wstring(i).c_str(), i);
+}
+
 struct AnyList : ::testing::TestWithParam<Kind> {
     zkt::TestWindow form{400, 300};
     HWND list = nullptr;
@@ -70,26 +70,20 @@ struct AnyList : ::testing::TestWithParam<Kind> {
 
     void SetUp() override { list = MakeList(form, kind); }
     void Add(std::initializer_list<std::pair<const wchar_t *, int32_t>> rows) {
-        for (const auto &[text, value] : rows) {
-            ASSERT_GE(ZelListAddValue(list, text, value), 0);
-        }
+        for (const auto &[text, value] : rows) ASSERT_GE(ZelListAddValue(list, text, value), 0);
     }
+    int Count() { return static_cast<int>(SendMessageW(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0)); }
     std::vector<std::wstring> RowTexts() {
         std::vector<std::wstring> out;
-        const int n = static_cast<int>(SendMessageW(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
-        for (int i = 0; i < n; ++i) {
-            out.push_back(Take(ZelListGetText(list, i)));
-        }
+        for (int i = 0; i < Count(); ++i) out.push_back(Take(ZelListGetText(list, i)));
         return out;
     }
     std::vector<int32_t> RowValues() {
         std::vector<int32_t> out;
-        const int n = static_cast<int>(SendMessageW(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
-        for (int i = 0; i < n; ++i) {
-            out.push_back(ZelListGetValue(list, i));
-        }
+        for (int i = 0; i < Count(); ++i) out.push_back(ZelListGetValue(list, i));
         return out;
     }
+    int CurSel() { return static_cast<int>(SendMessageW(list, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0)); }
 };
 
 #define LISTFN_ALL_KINDS(suite)                                                                            \

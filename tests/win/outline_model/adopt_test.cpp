@@ -147,13 +147,6 @@ TEST(ZelListSetStyle, AComboCreateStructureTakesTheOwnerDrawStyle) {
     EXPECT_EQ(WindowStyle(combo), create.style);
 }
 
-TEST(ZelListSetStyle, ExtendedUiAloneAdoptsACombo) {
-    zkt::TestWindow form;
-    HWND combo = form.addComboBox(kComboId, {0, 0, 100, 100}, kComboStyle);
-    ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleExtendedUI, nullptr), 1);
-    EXPECT_EQ(ZelListGetStyle(combo), LBX_StyleOwnerDraw | LBX_StyleExtendedUI);
-}
-
 TEST(ZelListSetStyle, TheListFreesItsItemsAtItsEndAndTheParentStaysAdopted) {
     zkt::TestWindow form;
     std::vector<ULONG_PTR> deleted;

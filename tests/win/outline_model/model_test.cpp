@@ -101,12 +101,6 @@ TEST(ZelListGetRoot, APlainWindowGetsARootAllTheSameButNoHandleByRow) {
     RemovePropW(plain, L"ZK:LbxRootLow"); // a plain list never frees it
 }
 
-TEST_F(ListFixture, AFlatRowHasNoHandle) {
-    Add({L"a"});
-    EXPECT_EQ(ZelListGetItemHandle(list, 0), 0);
-    EXPECT_EQ(ZelListGetItemHandle(list, 5), 0);
-}
-
 TEST_F(ListFixture, TheUserRecordIsCopiedInAndOut) {
     struct Record {
         uint16_t word;

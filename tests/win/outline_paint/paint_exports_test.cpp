@@ -16,16 +16,6 @@ constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAW
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
-LbxChild ChildRecord(HWND window) {
-    LbxChild copy{};
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxChild *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
-}
-
 // Records the window styles a list is given, beneath whatever procedure it has.
 struct StyleWatch {
     static inline WNDPROC next = nullptr;
@@ -86,14 +76,6 @@ protected:
     HFONT font = nullptr;
     ZelPicHandle picture = 0;
 };
-
-TEST_F(Exports, SetIndentOnAdoptedListsOnly) {
-    EXPECT_EQ(ZelListSetIndent(list, 3), 1);
-    EXPECT_EQ(ChildRecord(list).indent, 3);
-    HWND plain = form.addListBox(2, {200, 10, 100, 100});
-    EXPECT_EQ(ZelListSetIndent(plain, 3), 0);
-    EXPECT_EQ(ZelListSetIndent(nullptr, 3), 0);
-}
 
 TEST_F(Exports, TextRectangleBesideAPicture) {
     ASSERT_GE(ZelListAddPicture(list, L"Text", picture, picture), 0);
@@ -164,11 +146,6 @@ TEST_F(Exports, ScrollWidthOfPlainListsAndBadWindows) {
     EXPECT_EQ(ZelListSetScrollWidth(button, -1), ZEL_INVALID_PARAMETER);
 }
 
-// The pixels of one row's band in a capture of the list.
-int CountInRow(const zkt::Bitmap &shot, const RECT &row, COLORREF colour) {
-    return shot.count(colour, row);
-}
-
 TEST_F(Exports, RowsPaintedByTheLibrary) {
     ASSERT_GE(ZelListAddColor(list, L"Red row", kRed), 0);
     ASSERT_GE(ZelListAddColor(list, L"Disabled blue", 0x01000000 | kBlue), 0);
@@ -178,10 +155,10 @@ TEST_F(Exports, RowsPaintedByTheLibrary) {
     const zkt::Bitmap shot = zkt::captureClient(list);
     ASSERT_TRUE(shot.valid());
     const RECT r0 = Row(0), r1 = Row(1), r2 = Row(2);
-    EXPECT_GT(CountInRow(shot, r0, GetSysColor(COLOR_HIGHLIGHT)), 50);
-    EXPECT_EQ(CountInRow(shot, r0, kRed), 0);
-    EXPECT_GT(CountInRow(shot, r1, kBlue), 5);
-    EXPECT_EQ(CountInRow(shot, r1, GetSysColor(COLOR_HIGHLIGHT)), 0);
+    EXPECT_GT(shot.count(GetSysColor(COLOR_HIGHLIGHT), r0), 50);
+    EXPECT_EQ(shot.count(kRed, r0), 0);
+    EXPECT_GT(shot.count(kBlue, r1), 5);
+    EXPECT_EQ(shot.count(GetSysColor(COLOR_HIGHLIGHT), r1), 0);
     // The plus box: its black frame at gap / 2 (a flat item: 2), the key colour nowhere.
     EXPECT_EQ(shot.pixel(r2.left + 2 + 3, r2.top + (r2.bottom - r2.top - 16) / 2 + 3), RGB(0, 0, 0));
     EXPECT_EQ(shot.count(RGB(255, 0, 255)), 0);

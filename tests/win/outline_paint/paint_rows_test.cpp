@@ -101,20 +101,6 @@ TEST_F(PaintBench, TabsGoToTheStopsAfterTheTextStart) {
     EXPECT_LT(FirstColumn(kBlack), 10);
 }
 
-TEST_F(PaintBench, ClearedTabStopsForwardTheRow) {
-    SetTabs({}, -1);
-    EXPECT_FALSE(Draw(Item(L"x\ty"), ODA_DRAWENTIRE, 0));
-}
-
-TEST_F(PaintBench, AutoExtentFollowsTheWidestPaintedText) {
-    SetStyle(LBX_StyleAutoExtent);
-    SendMessageW(list, LB_SETHORIZONTALEXTENT, 10, 0);
-    ASSERT_TRUE(Draw(Item(L"A rather long row of text"), ODA_DRAWENTIRE, 0));
-    EXPECT_EQ(SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0), 4 + Width(L"A rather long row of text"));
-    ASSERT_TRUE(Draw(Item(L"short"), ODA_DRAWENTIRE, 0));
-    EXPECT_EQ(SendMessageW(list, LB_GETHORIZONTALEXTENT, 0, 0), 4 + Width(L"A rather long row of text"));
-}
-
 // Pixels of the row's top line that differ from white.
 int TopLineMarks(const zkt::Bitmap &canvas, int from) {
     int marks = 0;

@@ -61,21 +61,7 @@ TEST_F(ListFixture, TextsComeFromItemsOrForeignStrings) {
     wchar_t buffer[32] = {};
     EXPECT_EQ(Send(list, ZKM_LbxGetText, 0, reinterpret_cast<LPARAM>(buffer)), 5);
     EXPECT_STREQ(buffer, L"first");
-    EXPECT_EQ(Send(list, 1034, 0, reinterpret_cast<LPARAM>(buffer)), 5);
-    EXPECT_EQ(Send(list, 1035, 0), 5);
     EXPECT_EQ(Send(list, LB_GETTEXTLEN, 7), LB_ERR); // past the end: the list answers
-}
-
-TEST_F(ListFixture, TextByReferenceHandsOutTheFieldOnce) {
-    std::wstring longText(3000, L'x');
-    ZelListAddColor(list, longText.c_str(), 0);
-    LbxItem *item = ItemAt(list, 0);
-    item->textByRef = 1;
-    const void *field = nullptr;
-    EXPECT_EQ(Send(list, LB_GETTEXT, 0, reinterpret_cast<LPARAM>(&field)), 3000);
-    EXPECT_EQ(field, &item->text);
-    EXPECT_EQ(std::wstring(reinterpret_cast<const wchar_t *>(LbxTextAtField(field))), longText);
-    EXPECT_EQ(item->textByRef, 0);
 }
 
 TEST_F(ListFixture, ItemDataIsTheItemsValue) {
@@ -86,13 +72,6 @@ TEST_F(ListFixture, ItemDataIsTheItemsValue) {
     EXPECT_EQ(Send(list, LB_GETITEMDATA, 1), reinterpret_cast<LRESULT>(kForeignText));
     EXPECT_EQ(Send(list, LB_SETITEMDATA, 1, 0), 1); // forwarded: the row's word becomes 0
     EXPECT_EQ(Send(list, LB_GETITEMDATA, 1), 0);
-}
-
-TEST_F(ListFixture, OldNumbersAddAndInsertAsTheirTwins) {
-    EXPECT_EQ(Send(list, 1025, 0, reinterpret_cast<LPARAM>(L"added")), 0);
-    EXPECT_EQ(Send(list, 1026, 0, reinterpret_cast<LPARAM>(L"inserted")), 0);
-    EXPECT_EQ(RowText(list, 0), L"inserted");
-    EXPECT_NE(ItemAt(list, 1), nullptr);
 }
 
 TEST_F(ListFixture, SelectStringFromAFlatRowComparesWholeTexts) {
@@ -124,30 +103,6 @@ TEST_F(ListFixture, TabStopsAreKeptInPixelsOrClearedToMinusOne) {
     child = ChildRecord(list);
     EXPECT_EQ(child.tabCount, -1);
     EXPECT_EQ(child.tabStops, nullptr);
-}
-
-TEST_F(ListFixture, SetFontMeasuresEveryRowAgain) {
-    Add({L"a", L"b", L"c"});
-    HFONT big = CreateFontW(-30, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
-    // Rows that had no font of their own took the control's at their first measure.
-    for (int row = 0; row < 3; ++row) {
-        ItemAt(list, row)->font = nullptr;
-    }
-    EXPECT_EQ(Send(list, WM_SETFONT, reinterpret_cast<WPARAM>(big), 0), 1);
-    for (int row = 0; row < 3; ++row) {
-        EXPECT_GE(Send(list, LB_GETITEMHEIGHT, static_cast<WPARAM>(row)), 30);
-    }
-    EXPECT_GE(ChildRecord(list).textHeight, 30);
-    DestroyWindow(list);
-    DeleteObject(big);
-}
-
-TEST_F(ListFixture, ErasingIsSuppressedUnderTheNoEraseBit) {
-    HDC dc = GetDC(list);
-    EditChildRecord(list, [](LbxChild &c) { c.runFlags |= LBX_ChildNoErase; });
-    EXPECT_EQ(Send(list, WM_ERASEBKGND, reinterpret_cast<WPARAM>(dc)), 1);
-    EditChildRecord(list, [](LbxChild &c) { c.runFlags = 0; });
-    ReleaseDC(list, dc);
 }
 
 void ForgetFocus(HWND form) {

@@ -38,21 +38,6 @@ TEST_F(ListFixture, MeasureOfAnItemTakesItsFontAndRecordsTheTextHeight) {
     EXPECT_EQ(Send(list, LB_GETITEMHEIGHT, 0), FontHeight(list, font));
 }
 
-TEST_F(ListFixture, MeasureForAControlWithoutRecordIsForwarded) {
-    bool forwarded = false;
-    form.onMessage([&](HWND, UINT m, WPARAM, LPARAM, LRESULT &) {
-        forwarded |= m == WM_MEASUREITEM;
-        return false;
-    });
-    MEASUREITEMSTRUCT request{ODT_LISTBOX, 999, 0, 0, 0, 0};
-    Send(form, WM_MEASUREITEM, 999, reinterpret_cast<LPARAM>(&request));
-    EXPECT_TRUE(forwarded);
-}
-
-TEST_F(ListFixture, CharToItemAnswersMinusOne) {
-    EXPECT_EQ(Send(form, WM_CHARTOITEM, MAKEWPARAM('a', 0), reinterpret_cast<LPARAM>(list)), -1);
-}
-
 TEST_F(ListFixture, CompareByItemTextWithoutCaseAndByStringsOtherwise) {
     Add({L"apple", L"BANANA"});
     COMPAREITEMSTRUCT c{ODT_LISTBOX, kListId, list, 0, RawData(list, 0), 1, RawData(list, 1), 0};
@@ -162,12 +147,6 @@ struct ComboFixture : ::testing::Test {
         return text;
     }
 };
-
-TEST_F(ComboFixture, TheFirstMeasureFindsTheEditAndMakesTheBrush) {
-    ASSERT_NE(edit, nullptr);
-    EXPECT_EQ(ChildRecord(combo).editWindow, edit);
-    EXPECT_NE(ChildRecord(combo).bkBrush, nullptr);
-}
 
 TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
     zkt::MessageRecorder recorder;

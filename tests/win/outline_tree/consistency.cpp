@@ -30,21 +30,6 @@ uint32_t Pattern(const LbxNode *n) {
     return n->level == 0 ? bits & ~LBX_ItemLeftLine : bits;
 }
 
-// Pre-order below the root.
-std::vector<LbxNode *> Walk(LbxNode *root) {
-    std::vector<LbxNode *> order;
-    for (LbxNode *n = root->firstChild; n;) {
-        order.push_back(n);
-        if (n->firstChild) {
-            n = n->firstChild;
-            continue;
-        }
-        while (n != root && !n->next) n = n->parent;
-        n = n == root ? nullptr : n->next;
-    }
-    return order;
-}
-
 std::string CheckConnectors(const LbxNode *n, const Tolerance &tol) {
     if (!tol.connectors || !n->parent || tol.connectorsFree.count(n)) return {};
     const uint32_t want = Pattern(n);
@@ -92,6 +77,20 @@ bool UnderPending(const LbxNode *n, const Tolerance &tol) {
 LbxNode *RootOf(HWND list) { return reinterpret_cast<LbxNode *>(ZelListGetRoot(list)); }
 
 } // namespace
+
+std::vector<LbxNode *> Walk(LbxNode *root) {
+    std::vector<LbxNode *> order;
+    for (LbxNode *n = root->firstChild; n;) {
+        order.push_back(n);
+        if (n->firstChild) {
+            n = n->firstChild;
+            continue;
+        }
+        while (n != root && !n->next) n = n->parent;
+        n = n == root ? nullptr : n->next;
+    }
+    return order;
+}
 
 std::string CheckTree(HWND list, const Tolerance &tol) {
     LbxNode *root = RootOf(list);
@@ -155,14 +154,13 @@ std::string DumpOutline(HWND list) {
     return out.str();
 }
 
-void SettlePending(HWND list, Tolerance &tol) {
+void SettlePending(Tolerance &tol) {
     for (auto it = tol.pending.begin(); it != tol.pending.end();) {
         const LbxNode *n = *it;
         const bool live = ZelListGetLevel(reinterpret_cast<ZelItemHandle>(n)) != -1;
         const bool hasRow = live && ZelListGetItemIndex(reinterpret_cast<ZelItemHandle>(n)) >= 0;
         it = !live || hasRow ? tol.pending.erase(it) : std::next(it);
     }
-    (void)list;
 }
 
 } // namespace treetest

@@ -6,6 +6,7 @@
 
 #include <set>
 #include <string>
+#include <vector>
 
 #include "outline/lbx.h"
 
@@ -26,23 +27,23 @@ struct Tolerance {
     std::set<const LbxNode *> childBitFree;
 };
 
+// The nodes below `root` in pre-order.
+std::vector<LbxNode *> Walk(LbxNode *root);
+
 // Links, levels, LBX_ItemHasChildren and (as the tolerance says) connector
 // bits of every node. Empty when all agree, else the first fault.
 std::string CheckTree(HWND list, const Tolerance &tolerance = {});
 
-// The rows: exactly the shown nodes of the tree in pre-order, none hidden,
-// each of this window, each under a shown parent marked expanded, and every
-// node that such a parent shows has its row. Empty or the first fault.
+// The rows: exactly the shown nodes in pre-order, none hidden, each of this
+// window under a shown expanded parent, and every node such a parent shows
+// has its row. Empty or the first fault.
 std::string CheckRows(HWND list, const Tolerance &tolerance = {});
 
-// Both checks.
-std::string CheckOutline(HWND list, const Tolerance &tolerance = {});
-
-// The tree with levels, flags and rows, for failure messages.
-std::string DumpOutline(HWND list);
+std::string CheckOutline(HWND list, const Tolerance &tolerance = {}); // both
+std::string DumpOutline(HWND list); // tree, flags and rows for failure messages
 
 // Drops from `pending` the nodes that have rows now, and those freed.
-void SettlePending(HWND list, Tolerance &tolerance);
+void SettlePending(Tolerance &tolerance);
 
 } // namespace treetest
 

@@ -1,13 +1,8 @@
 // Long seeded sequences of tree operations through the exports, with the
-// consistency check after every step. The tree must always be intact. Some
-// operations leave rows that no longer follow the tree in pre-order by their
-// own rules (a moved or promoted subtree's rows numbered without stepping
-// over grandchild rows, later siblings that lose their children's rows, a
-// demote under a sibling without a row, a row shown after its previous
-// sibling's row rather than its subtree, nodes not marked hidden taken to
-// have rows, a drop without a place); after those the walk rebuilds the rows
-// with ZelListShowOutline, which is how an application repairs them, and
-// checks again.
+// consistency check after every step: the tree must always be intact. After
+// the operations whose rows follow rules of their own (see edit_test.cpp,
+// drag_test.cpp) the walk rebuilds the rows with ZelListShowOutline, as an
+// application would, and checks again.
 #include "tree_fixture.h"
 
 #include <cstdint>
@@ -28,20 +23,7 @@ struct Walker : OutlineFixture {
     int Count() { return static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)); }
     int32_t AnyRow() { return static_cast<int32_t>(Pick(static_cast<uint32_t>(Count()))); }
 
-    std::vector<LbxNode *> Nodes() {
-        std::vector<LbxNode *> out;
-        auto *top = reinterpret_cast<LbxNode *>(root);
-        for (LbxNode *n = top->firstChild; n;) {
-            out.push_back(n);
-            if (n->firstChild) {
-                n = n->firstChild;
-                continue;
-            }
-            while (n != top && !n->next) n = n->parent;
-            n = n == top ? nullptr : n->next;
-        }
-        return out;
-    }
+    std::vector<LbxNode *> Nodes() { return Walk(reinterpret_cast<LbxNode *>(root)); }
 
     bool SubtreeHasRow(LbxNode *node) {
         if (ZelListGetItemIndex(reinterpret_cast<H>(node)) >= 0) return true;
@@ -151,7 +133,7 @@ struct Walker : OutlineFixture {
             }
             break;
         }
-        SettlePending(list, tolerance);
+        SettlePending(tolerance);
         return what.str();
     }
 

@@ -19,12 +19,21 @@ namespace treetest {
 constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 
 using H = ZelItemHandle;
+constexpr uint32_t kConn = LBX_ItemConnectors;
+constexpr uint32_t kBox = LBX_ItemExpanded | LBX_ItemMinus | LBX_ItemPlus;
+
+inline const LbxNode *N(H h) { return reinterpret_cast<const LbxNode *>(h); }
 
 inline LRESULT Send(HWND w, UINT m, WPARAM wp = 0, LPARAM lp = 0) { return SendMessageW(w, m, wp, lp); }
 
-inline std::wstring TextOf(H h) {
-    const auto *node = reinterpret_cast<const LbxNode *>(h);
-    return reinterpret_cast<const wchar_t *>(node->item->text.c_str());
+inline std::wstring TextOf(H h) { return reinterpret_cast<const wchar_t *>(N(h)->item->text.c_str()); }
+
+// The last WM_SETREDRAW a window was sent: 1 on, 0 off, -1 none.
+inline int LastRedraw(const zkt::MessageRecorder &rec, HWND window) {
+    int last = -1;
+    for (const auto &m : rec.messages())
+        if (m.hwnd == window && m.message == WM_SETREDRAW) last = m.wParam ? 1 : 0;
+    return last;
 }
 
 struct OutlineFixture : ::testing::Test {
@@ -63,6 +72,14 @@ struct OutlineFixture : ::testing::Test {
     }
     int RowOf(H h) { return ZelListGetItemIndex(h); }
     uint32_t Flags(H h) { return ZelListGetItemFlags(h); }
+    // An adopted combo box with the top-level entries given, shown whole.
+    HWND Combo(std::initializer_list<const wchar_t *> texts) {
+        HWND combo = form.addComboBox(203, {240, 10, 100, 200}, CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE);
+        EXPECT_EQ(ZelListSetStyle(combo, LBX_StyleOutline, nullptr), 1);
+        for (const wchar_t *t : texts) ZelListLoadChild(combo, ZelListGetRoot(combo), 0, 0, t, 0, 0);
+        EXPECT_EQ(ZelListShowOutline(combo, LBX_ShowEverything), 1);
+        return combo;
+    }
     void Check() { EXPECT_CONSISTENT(list, tolerance); }
 };
 

@@ -1,6 +1,4 @@
 // ZelStrLoadTable, ZelStrFind and ZelStrFreeTable on files of every shape.
-#include <vector>
-
 #include "strtable_support.h"
 
 using namespace strtabletest;
@@ -33,42 +31,28 @@ TEST_F(StrTable, TheBlockIsEntriesAndTheEndMark) {
     EXPECT_EQ(1, ZelStrFreeTable(table));
 }
 
-TEST_F(StrTable, LoneCrAndLfStayInTheValue) {
-    const std::string bytes = "{b}x\ry\r\n{c}p\nq\r\n{d}\r\r\n";
-    EXPECT_EQ(L"x\ry", ValueIn(bytes, L"b"));
+TEST_F(StrTable, LineEnds) {
+    const std::string bytes = "{b}x\ry\r\n{c}p\nq\r\n{d}\r\r\n{z}last";
+    EXPECT_EQ(L"x\ry", ValueIn(bytes, L"b")) << "a lone CR or LF stays in the value";
     EXPECT_EQ(L"p\nq", ValueIn(bytes, L"c"));
     EXPECT_EQ(L"\r", ValueIn(bytes, L"d"));
-}
-
-TEST_F(StrTable, LastLineWithoutLineEnd) {
-    EXPECT_EQ(L"last", ValueIn("{a}first\r\n{z}last", L"z"));
-    EXPECT_EQ(L"only", ValueIn("{k}only", L"k"));
-}
-
-TEST_F(StrTable, EmptyFileFindsNothing) {
-    const intptr_t table = Load("");
-    ASSERT_GT(table, 0);
-    EXPECT_EQ(L"", Take(ZelStrFind(table, L"")));
-    EXPECT_EQ(1, ZelStrFreeTable(table));
+    EXPECT_EQ(L"last", ValueIn(bytes, L"z")) << "the last line needs no line end";
+    EXPECT_EQ(L"", ValueIn("", L""));
 }
 
 TEST_F(StrTable, TextInTheSystemCodePage) {
     // Bytes above 127 mean what the code page says: "\x80" is the euro sign
     // in 1252, and "\x82\xA0" hiragana a in 932.
     const std::string value = GetACP() == 932 ? "\x82\xA0-\x83\x41" : "caf\xE9 \x80 \xFC";
-    const std::wstring expected = Ansi(value);
-    if (GetACP() == 1252) {
-        EXPECT_EQ(L"caf\x00E9 \x20AC \x00FC", expected);
-    } else if (GetACP() == 932) {
-        EXPECT_EQ(L"\x3042-\x30A2", expected);
-    }
+    const std::wstring expected = GetACP() == 932    ? L"\x3042-\x30A2"
+                                  : GetACP() == 1252 ? L"caf\x00E9 \x20AC \x00FC"
+                                                     : Ansi(value);
     EXPECT_EQ(expected, ValueIn("{v}" + value + "\r\n", L"v"));
 }
 
 TEST_F(StrTable, BytesThatAreNoTextStillLoad) {
-    // A lone lead byte before the line end in a double-byte code page, and
-    // bytes that no code page maps: converted as the code page does,
-    // never refused.
+    // A lone lead byte before the line end (double-byte code page), bytes no
+    // code page maps: converted as the code page does, never refused.
     const std::string odd = GetACP() == 932 ? "\xFD\xFE\x81" : "\x81\x8D\x8F\x90\x9D";
     const std::string bytes = "{first}ok\r\n{odd}" + odd + "\r\n{after}fine";
     const intptr_t table = Load(bytes);
@@ -93,24 +77,21 @@ TEST_F(StrTable, SizeLimit) {
 }
 
 TEST_F(StrTable, FoundOnTheSearchPath) {
-    Write(L"onpath.tbl", "{where}current directory\r\n");
-    wchar_t previous[MAX_PATH];
-    GetCurrentDirectoryW(MAX_PATH, previous);
-    ASSERT_TRUE(SetCurrentDirectoryW(folder_.c_str()));
+    Make(L"onpath.tbl", "{where}current directory\r\n");
+    EnterFolder();
     const intptr_t table = ZelStrLoadTable(L"onpath.tbl");
-    SetCurrentDirectoryW(previous);
     ASSERT_GT(table, 0);
     EXPECT_EQ(L"current directory", Take(ZelStrFind(table, L"where")));
     EXPECT_EQ(1, ZelStrFreeTable(table));
 }
 
 TEST_F(StrTable, FailureCodes) {
-    EXPECT_EQ(-2, ZelStrLoadTable((folder_ + L"\\absent.txt").c_str()));
+    EXPECT_EQ(-2, ZelStrLoadTable(At(L"absent.txt").c_str()));
     EXPECT_EQ(-2, ZelStrLoadTable(L"zk-no-such-table.txt"));
     EXPECT_EQ(-2, ZelStrLoadTable(L""));
     EXPECT_EQ(-87, ZelStrLoadTable(nullptr));
     // The folder itself is found but cannot be read as a file.
-    EXPECT_EQ(-8, ZelStrLoadTable(folder_.c_str()));
+    EXPECT_EQ(-8, ZelStrLoadTable(dir_.substr(0, dir_.size() - 1).c_str()));
 }
 
 TEST_F(StrTable, BadHandlesAndKeys) {
@@ -126,8 +107,7 @@ TEST_F(StrTable, BadHandlesAndKeys) {
 }
 
 TEST_F(StrTable, ABlockWithoutEndMarkIsReadInsideItsSize) {
-    // A global block of the caller's that is no table: the scan ends with
-    // the block.
+    // A caller's global block that is no table: the scan ends with the block.
     const HGLOBAL block = GlobalAlloc(GHND, 8);
     auto *chars = static_cast<wchar_t *>(GlobalLock(block));
     wmemcpy(chars, L"{k}v", 4);

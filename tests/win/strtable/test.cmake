@@ -5,3 +5,6 @@ add_test(NAME ${test_target}_dbcs
 set_tests_properties(${test_target}_dbcs PROPERTIES
   ENVIRONMENT "ZK_WINEPREFIX=${CMAKE_BINARY_DIR}/wineprefix;LANG=ja_JP.UTF-8"
   TIMEOUT 300)
+# The tables are written into the file tests' fresh folder.
+target_sources(${test_target} PRIVATE ${CMAKE_CURRENT_LIST_DIR}/../os_files/files_support.cpp)
+target_include_directories(${test_target} PRIVATE ${CMAKE_CURRENT_LIST_DIR}/../os_files)

@@ -16,19 +16,14 @@
 
 namespace textwin {
 
-// The text of a host string (its buffer up to the terminator).
-inline std::wstring Read(HostStr handle) {
-    int32_t size = 0;
-    const wchar_t *text = handle ? HostStrLock(handle, &size) : nullptr;
-    return text ? std::wstring(text) : std::wstring();
-}
-
 // A result the test owns: read, then released.
 inline std::wstring Take(HostStr handle) {
     EXPECT_NE(0u, handle) << "string results are never 0";
-    std::wstring text = Read(handle);
+    int32_t size = 0;
+    const wchar_t *text = handle ? HostStrLock(handle, &size) : nullptr;
+    std::wstring out = text ? std::wstring(text) : std::wstring();
     ZkHostStrRelease(handle);
-    return text;
+    return out;
 }
 
 // Bytes of the text in the system code page.
@@ -42,11 +37,10 @@ inline int AnsiBytes(const std::wstring &text) {
 inline HostArray NumberArray(std::initializer_list<int32_t> values, int32_t low = 0) {
     HostArray array = HostArrayCreate(HOST_TYPE_NUMBER);
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
-    int32_t index = low;
     for (int32_t v : values) {
         HostNumber n{};
         HostNumberFromLong(v, &n);
-        HostArraySetNumber(array, &n, index++);
+        HostArraySetNumber(array, &n, low++);
     }
     return array;
 }
@@ -55,9 +49,8 @@ inline HostArray NumberArray(std::initializer_list<int32_t> values, int32_t low 
 inline HostArray StringArray(std::initializer_list<const wchar_t *> values, int32_t low = 0) {
     HostArray array = HostArrayCreate(HOST_TYPE_STRING);
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
-    int32_t index = low;
     for (const wchar_t *v : values)
-        HostArraySetString(array, ZkHostStrMake(v), index++);
+        HostArraySetString(array, ZkHostStrMake(v), low++);
     return array;
 }
 

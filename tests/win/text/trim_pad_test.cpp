@@ -13,10 +13,7 @@ TEST_F(TrimPad, TrimsWhiteSpaceAtTheEnds) {
     EXPECT_EQ(L"a b \t", Take(ZelStrLeftTrim(L"\t a b \t")));
     EXPECT_EQ(2 * 5 + 2, ZkHostLastAllocSize());
     EXPECT_EQ(L"\t a b", Take(ZelStrRightTrim(L"\t a b \t")));
-    EXPECT_EQ(L"x  y", Take(ZelStrRightTrim(L"x  y  ")));
-}
-
-TEST_F(TrimPad, NothingLeftOrNullGivesTheEmptyString) {
+    // Nothing left, or no text: the empty string.
     for (auto trim : {ZelStrTrim, ZelStrLeftTrim, ZelStrRightTrim}) {
         EXPECT_EQ(L"", Take(trim(L"   \t ")));
         EXPECT_EQ(2, ZkHostLastAllocSize());
@@ -30,8 +27,6 @@ TEST_F(TrimPad, PadExtendsAndCutsToWidth) {
     EXPECT_EQ(2 * 5 + 2, ZkHostLastAllocSize());
     EXPECT_EQ(L"abc", Take(ZelStrPad(L"abcdef", 3)));
     EXPECT_EQ(2 * 3 + 2, ZkHostLastAllocSize());
-    EXPECT_EQ(L"    ", Take(ZelStrPad(L"", 4)));
-    EXPECT_EQ(L"", Take(ZelStrPad(L"abc", 0)));
     EXPECT_EQ(L"", Take(ZelStrPad(L"abc", -5)));
     EXPECT_EQ(L"", Take(ZelStrPad(nullptr, 5)));
 }
@@ -43,13 +38,12 @@ TEST_F(TrimPad, PadBCountsBytesOfTheCodePage) {
     EXPECT_EQ(3 * 2 + 2, ZkHostLastAllocSize());
     EXPECT_EQ(L"abc", Take(ZelStrPadB(L"abcdef", 3))); // cut: m = 4 characters with the terminator
     EXPECT_EQ(2 * 4, ZkHostLastAllocSize());
-    EXPECT_EQ(L"", Take(ZelStrPadB(L"abc", 0)));
     EXPECT_EQ(L"", Take(ZelStrPadB(L"abc", -1)));
     EXPECT_EQ(L"", Take(ZelStrPadB(nullptr, 3)));
 }
 
-// Double-byte characters need a double-byte system code page: run the
-// program in a Japanese locale (LANG=ja_JP.UTF-8) to have one under Wine.
+// Double-byte characters need a double-byte system code page (the program
+// runs under Wine in a Japanese locale for it).
 class PadBDoubleByte : public HostTest {
 protected:
     void SetUp() override {
