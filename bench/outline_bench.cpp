@@ -18,7 +18,7 @@
 #include <cstdio>
 #include <functional>
 
-#include "bench_clock.h"
+#include "bench_lists.h"
 #include "zklib.h"
 
 namespace {
@@ -26,43 +26,13 @@ namespace {
 constexpr int kPlainId = 1;
 constexpr int kAdoptedId = 2;
 constexpr int kTimedId = 10; // adopted after the bench watches them
-constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE |
-                             LBS_NOINTEGRALHEIGHT;
-
-// The form: a fixed row height for the plain list; everything else default.
-LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MEASUREITEM) {
-        auto *request = reinterpret_cast<MEASUREITEMSTRUCT *>(lParam);
-        request->itemHeight = 16;
-        return 1;
-    }
-    return DefWindowProcW(window, message, wParam, lParam);
-}
-
-HWND MakeForm() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = FormProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"ZkOutlineBench";
-    RegisterClassW(&wc);
-    return CreateWindowW(L"ZkOutlineBench", L"bench", WS_OVERLAPPEDWINDOW, 0, 0, 400, 400, nullptr, nullptr,
-                         wc.hInstance, nullptr);
-}
 
 HWND MakeList(HWND form, int id) {
-    HWND list = CreateWindowW(L"ListBox", L"", kListStyle, 0, 0, 200, 300, form,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
-    SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
+    HWND list = MakeBenchList(form, id);
     if (id == kAdoptedId) {
         ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     }
     return list;
-}
-
-double Time(const std::function<void()> &work) {
-    const double start = Seconds();
-    work();
-    return Seconds() - start;
 }
 
 bool Check(const char *what, HWND list, int expected) {
@@ -138,7 +108,7 @@ int main() {
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     const double start = Seconds();
     bool ok = true;
-    HWND form = MakeForm();
+    HWND form = MakeBenchForm();
     constexpr int kRows = 100'000, kFewRows = 10'000, kRounds = 2;
 
     std::printf("%d rows added to a plain owner-drawn list and to an adopted one\n", kRows);
@@ -149,8 +119,8 @@ int main() {
         // Rows are loaded with painting off, as a host fills a list.
         SendMessageW(a, WM_SETREDRAW, FALSE, 0);
         SendMessageW(b, WM_SETREDRAW, FALSE, 0);
-        plain = std::min(plain, Time([&] { AddPlain(a, kRows); }));
-        adopted = std::min(adopted, Time([&] { AddAdopted(b, kRows); }));
+        plain = std::min(plain, TimeOf([&] { AddPlain(a, kRows); }));
+        adopted = std::min(adopted, TimeOf([&] { AddAdopted(b, kRows); }));
         ok = Check("plain", a, kRows) && Check("adopted", b, kRows) && ok;
         DestroyWindow(a);
         DestroyWindow(b);

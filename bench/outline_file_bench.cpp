@@ -20,30 +20,17 @@
 #include <string>
 #include <vector>
 
-#include "bench_clock.h"
+#include "bench_lists.h"
 #include "zkhostctl.h"
 #include "zklib.h"
 
 namespace {
 
-constexpr DWORD kListStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE |
-                             LBS_NOINTEGRALHEIGHT;
 constexpr double kBound = 12.0;
 constexpr double kFailAt = kBound * 1.5;
 
-HWND MakeForm() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = DefWindowProcW;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"ZkOutlineFileBench";
-    RegisterClassW(&wc);
-    return CreateWindowW(L"ZkOutlineFileBench", L"bench", WS_OVERLAPPEDWINDOW, 0, 0, 500, 400, nullptr, nullptr,
-                         wc.hInstance, nullptr);
-}
-
 HWND MakeList(HWND form, int id) {
-    HWND list = CreateWindowW(L"ListBox", L"", kListStyle, 10 + 220 * (id - 1), 10, 200, 300, form,
-                              reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
+    HWND list = MakeBenchList(form, id);
     ZelListSetStyle(list, LBX_StyleOutline, nullptr);
     return list;
 }
@@ -136,7 +123,7 @@ bool Stable(Case &c) {
 } // namespace
 
 int main() {
-    HWND form = MakeForm();
+    HWND form = MakeBenchForm();
     const ZelPicHandle plus = ZelPicLoad(0x8201, L"ZKLIB.dll", L"plusdk");
     const ZelPicHandle minus = ZelPicLoad(0x8201, L"ZKLIB.dll", L"minusdk");
     const HFONT font = ZelFontLoad(L"Tahoma", 10, FONT_Bold);

@@ -19,7 +19,7 @@
 #include <cstdio>
 #include <functional>
 
-#include "bench_clock.h"
+#include "bench_lists.h"
 #include "zklib.h"
 
 namespace {
@@ -27,38 +27,6 @@ namespace {
 constexpr int kTop = 100, kChildren = 9, kGrandchildren = 110;
 constexpr int kNodes = kTop + kTop * kChildren + kTop * kChildren * kGrandchildren;
 static_assert(kNodes == 100'000);
-
-LRESULT CALLBACK FormProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_MEASUREITEM) {
-        reinterpret_cast<MEASUREITEMSTRUCT *>(lParam)->itemHeight = 16;
-        return 1;
-    }
-    return DefWindowProcW(window, message, wParam, lParam);
-}
-
-HWND MakeForm() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = FormProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"ZkOutlineTreeBench";
-    RegisterClassW(&wc);
-    return CreateWindowW(wc.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW, 0, 0, 400, 400, nullptr, nullptr,
-                         wc.hInstance, nullptr);
-}
-
-HWND MakeList(HWND form, int id, DWORD ownerDraw) {
-    HWND list = CreateWindowW(L"ListBox", L"", WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT | ownerDraw,
-                              0, 0, 200, 300, form, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                              GetModuleHandleW(nullptr), nullptr);
-    SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
-    return list;
-}
-
-double Time(const std::function<void()> &work) {
-    const double start = Seconds();
-    work();
-    return Seconds() - start;
-}
 
 void AddPlain(HWND list) {
     SendMessageW(list, WM_SETREDRAW, FALSE, 0);
@@ -121,24 +89,24 @@ bool Check(const char *what, HWND list, bool tree) {
 int main() {
     std::setvbuf(stdout, nullptr, _IONBF, 0);
     const double start = Seconds();
-    HWND form = MakeForm();
+    HWND form = MakeBenchForm();
     constexpr int kRounds = 2;
     bool ok = true;
     double plain = 1e30, tree = 1e30, show = 1e30, variable = 1e30;
     std::printf("%d nodes loaded in three levels and shown, against %d plain owner-drawn rows\n", kNodes, kNodes);
     for (int round = 0; round < kRounds && ok; ++round) {
-        HWND a = MakeList(form, 1, LBS_OWNERDRAWFIXED);
-        HWND b = MakeList(form, 2, LBS_OWNERDRAWVARIABLE);
+        HWND a = MakeBenchList(form, 1, LBS_OWNERDRAWFIXED);
+        HWND b = MakeBenchList(form, 2, LBS_OWNERDRAWVARIABLE);
         ZelListSetStyle(b, LBX_StyleOutline, nullptr);
-        plain = std::min(plain, Time([&] { AddPlain(a); }));
+        plain = std::min(plain, TimeOf([&] { AddPlain(a); }));
         {
-            HWND v = MakeList(form, 3, LBS_OWNERDRAWVARIABLE);
-            variable = std::min(variable, Time([&] { AddPlain(v); }));
+            HWND v = MakeBenchList(form, 3, LBS_OWNERDRAWVARIABLE);
+            variable = std::min(variable, TimeOf([&] { AddPlain(v); }));
             ok = Check("variable", v, false) && ok;
             DestroyWindow(v);
         }
         bool loaded = false;
-        tree = std::min(tree, Time([&] { loaded = LoadAndShow(b); }));
+        tree = std::min(tree, TimeOf([&] { loaded = LoadAndShow(b); }));
         show = std::min(show, showTime);
         if (!loaded) {
             std::printf("  a load or the show failed\n");

@@ -80,11 +80,8 @@ int32_t LbxExpand(LbxRows &rows, int32_t row, LbxNode *root) {
         ++pos;
     }
     if (!rows.IsCombo() && !(rows.Style() & LBX_StyleOutline)) {
-        int32_t first = 0, lastVisible = 0;
-        rows.VisibleRange(&first, &lastVisible);
-        if (count + row > lastVisible) {
-            const int32_t top = first - lastVisible + count + row;
-            rows.SetTopIndex(top < row ? top : row);
+        if (const int32_t top = LbxViewTop(rows, row, count); top >= 0) {
+            rows.SetTopIndex(top);
         }
     }
     rows.SetCaret(row);

@@ -56,6 +56,19 @@ inline LbxNode *LbxRowNode(LbxRows &rows, int32_t row) {
     return item ? item->node : nullptr;
 }
 
+// The view step after rows were shown below a row: when the `count` rows
+// after `row` pass the last row in view, the top row that brings them in
+// without moving `row` out, else -1.
+inline int32_t LbxViewTop(LbxRows &rows, int32_t row, int32_t count) {
+    int32_t first = 0, last = 0;
+    rows.VisibleRange(&first, &last);
+    if (count + row <= last) {
+        return -1;
+    }
+    const int32_t top = first - last + count + row;
+    return top < row ? top : row;
+}
+
 // Shows the children of a row's node (row -1: of `root`), stepping over
 // rows that are already there; sets the expanded bits and moves the caret.
 // The count of rows below the node, 0 on failure (painting then stays off).

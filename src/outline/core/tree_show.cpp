@@ -49,6 +49,15 @@ struct ChainFrame {
     LbxNode *parent;
     LbxNode *child;
     bool shown;
+
+    // A finished chain opens its parent when it showed a row, else closes it.
+    void MarkParent() const {
+        if (shown) {
+            parent->item->flags |= LBX_ItemExpanded;
+        } else {
+            parent->item->flags &= ~LBX_ItemExpanded;
+        }
+    }
 };
 
 } // namespace
@@ -124,10 +133,8 @@ int32_t LbxShowOutline(LbxTreeRows &rows, LbxNode *root, int32_t limit) {
             stack.pop_back();
             if (stack.empty()) {
                 shownTop = done.shown;
-            } else if (done.shown) {
-                done.parent->item->flags |= LBX_ItemExpanded;
             } else {
-                done.parent->item->flags &= ~LBX_ItemExpanded;
+                done.MarkParent();
             }
             continue;
         }
@@ -178,11 +185,7 @@ int32_t LbxExpandDescendents(LbxTreeRows &rows, int32_t row) {
             if (stack.empty()) {
                 break; // the row's own node is opened below
             }
-            if (done.shown) {
-                done.parent->item->flags |= LBX_ItemExpanded;
-            } else {
-                done.parent->item->flags &= ~LBX_ItemExpanded;
-            }
+            done.MarkParent();
             continue;
         }
         top.child = n->next;
@@ -206,11 +209,7 @@ int32_t LbxExpandDescendents(LbxTreeRows &rows, int32_t row) {
         }
     }
     if (!(rows.Style() & LBX_StyleOutline)) {
-        int32_t first = 0, last = 0;
-        rows.VisibleRange(&first, &last);
-        if (count + row > last) {
-            const int32_t top = first - last + count + row;
-            const int32_t target = top < row ? top : row;
+        if (const int32_t target = LbxViewTop(rows, row, count); target >= 0) {
             if (rows.IsCombo()) {
                 rows.SetCurSel(target);
                 rows.SetCurSel(row);

@@ -202,11 +202,8 @@ int32_t DragDrop(HWND sourceWindow, int32_t sourceRow, HWND targetWindow, int32_
     const int32_t pos = LbxRowAfterSubtree(targetRows, targetRow);
     HostWinSetRedraw(t.window, 0);
     const int32_t shown = added + LbxShowRows(targetRows, pos, source);
-    int32_t first = 0, last = 0;
-    targetRows.VisibleRange(&first, &last);
-    if (shown + targetRow > last) {
-        const int32_t top = first - last + shown + targetRow;
-        targetRows.SetTopIndex(top < targetRow ? top : targetRow);
+    if (const int32_t top = LbxViewTop(targetRows, targetRow, shown); top >= 0) {
+        targetRows.SetTopIndex(top);
     }
     targetRows.SetCaret(targetRow);
     PaintingOn(t.window);
