@@ -1,13 +1,13 @@
 // What the list benchmarks share: a form whose own procedure answers
 // WM_MEASUREITEM with a fixed height (the plain owner-drawn baseline), list
-// boxes of a given owner-draw style, and the time of a piece of work.
+// boxes of a given owner-draw style.
 #pragma once
 
 #include <windows.h>
 
 #include <functional>
 
-#include "bench_clock.h"
+#include "bench.h"
 
 inline constexpr DWORD kBenchListStyle = WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_NOINTEGRALHEIGHT;
 
@@ -36,10 +36,4 @@ inline HWND MakeBenchList(HWND form, int id, DWORD ownerDraw = LBS_OWNERDRAWVARI
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
     return list;
-}
-
-inline double TimeOf(const std::function<void()> &work) {
-    const double start = Seconds();
-    work();
-    return Seconds() - start;
 }

@@ -11,14 +11,15 @@
 #include <cstdio>
 #include <string>
 
-#include "bench_clock.h"
+#include "bench.h"
 #include "zkhostctl.h"
 #include "zklib.h"
 
 namespace {
 
+using namespace bench;
+
 constexpr int kWidth = 280, kHeight = 210;
-constexpr int kPaints = 200, kRounds = 7;
 constexpr COLORREF kMarkColour = RGB(200, 30, 40);
 
 // The baseline: a fill and the 42 days, in the calendar's cell places.
@@ -76,11 +77,6 @@ double PaintTimes(HWND window, int count) {
     return Seconds() - start;
 }
 
-bool Fail(const char *what) {
-    std::printf("WRONG: %s\n", what);
-    return false;
-}
-
 // 100 marks (every day of the month on display, and 69 days of the year
 // before, which the host rolls over from January on) and 20 rules of every kind.
 bool Populate(ZelCalControl c) {
@@ -100,8 +96,9 @@ bool Populate(ZelCalControl c) {
 
 } // namespace
 
-int main() {
-    std::setvbuf(stdout, nullptr, _IONBF, 0);
+int main(int argc, char **argv) {
+    Run run("bench_calendar", argc, argv);
+    const int paints = run.Size(20, 200), rounds = run.Size(1, 7);
     const HostDateTime today = Date(2024, 3, 15);
     ZkHostSetClock(&today);
     HWND form = MakeForm();
@@ -113,16 +110,15 @@ int main() {
     ZelCalControl control = 0;
     if (calendar && PeekMessageW(&m, calendar, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
         control = static_cast<ZelCalControl>(m.lParam);
-    bool ok = control != 0 || Fail("no calendar control announced");
-    ok = ok && (Populate(control) || Fail("marks or rules not taken"));
-    if (ok) {
+    if (run.Check(control != 0, "no calendar control announced") &&
+        run.Check(Populate(control), "marks or rules not taken")) {
         ZelCalSetColor(control, CALR_MarkBack, kMarkColour);
         while (PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE))
             DispatchMessageW(&m);
-        double best = 1e30, bestPlain = 1e30;
-        for (int round = 0; round < kRounds; ++round) {
-            best = std::min(best, PaintTimes(calendar, kPaints));
-            bestPlain = std::min(bestPlain, PaintTimes(plain, kPaints));
+        std::vector<double> times, plainTimes;
+        for (int round = 0; round < rounds; ++round) {
+            times.push_back(PaintTimes(calendar, paints));
+            plainTimes.push_back(PaintTimes(plain, paints));
         }
         // What the paints drew: a marked day of the month on display.
         HDC dc = GetDC(form);
@@ -138,15 +134,12 @@ int main() {
         DeleteObject(bitmap);
         DeleteDC(mem);
         ReleaseDC(form, dc);
-        if (markPixels < 28 * 100)
-            ok = Fail("the marked days of March are not painted in their role");
-        std::printf("calendar paint %.1f us, plain paint %.1f us (best of %d rounds of %d)\n",
-                    best / kPaints * 1e6, bestPlain / kPaints * 1e6, kRounds, kPaints);
-        const double ratio = best / bestPlain;
-        std::printf("ratio %-44s %6.2f (bound 2)%s\n", "calendar paint / fill and 42 texts", ratio,
-                    ratio <= 2 ? "" : "  above the bound");
+        run.Check(markPixels >= 28 * 100, "the marked days of March are not painted in their role");
+        std::printf("  calendar paint %.1f us, plain paint %.1f us (medians of %d rounds of %d)\n",
+                    Median(times) / paints * 1e6, Median(plainTimes) / paints * 1e6, rounds, paints);
+        run.Figure("calendar paint / fill and 42 texts", Median(times) / Median(plainTimes), Want::AtMost, 2);
     }
     DestroyWindow(form);
     ZkHostSetClock(nullptr);
-    return ok ? 0 : 1;
+    return run.Finish();
 }

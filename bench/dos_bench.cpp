@@ -5,7 +5,7 @@
 // local time and the DOS form, and the attributes. The figure is the
 // listing's time over the walk's, on the median of rounds taken in turn;
 // the bound is 3. The program fails only when the listing's count or its
-// names differ from the walk's. The folder is left in the temporary folder
+// names differ from the walk's; under ./zk test it takes one round. The folder is left in the temporary folder
 // for the next run (see MakeFiles).
 #include <windows.h>
 
@@ -15,15 +15,16 @@
 #include <string>
 #include <vector>
 
-#include "bench_clock.h"
+#include "bench.h"
 #include "zkhost.h"
 #include "zklib.h"
 
 namespace {
 
+using namespace bench;
+
 constexpr double kBound = 3.0;
 constexpr int kFiles = 20000;
-constexpr int kRounds = 7;
 
 // Whether a name is one of the bench's files.
 bool OwnName(const wchar_t *name) {
@@ -78,11 +79,6 @@ int PlatformWalk(const std::wstring &pattern) {
     return count;
 }
 
-double Median(std::vector<double> values) {
-    std::sort(values.begin(), values.end());
-    return values[values.size() / 2];
-}
-
 // The names the listing wrote: all of them "fileNNNNN.dat", each once.
 bool NamesComplete(HostArray names) {
     int32_t low = 0, high = -1;
@@ -104,8 +100,9 @@ bool NamesComplete(HostArray names) {
 
 } // namespace
 
-int main() {
-    std::setvbuf(stdout, nullptr, _IONBF, 0);
+int main(int argc, char **argv) {
+    Run run("bench_dos", argc, argv);
+    const int rounds = run.Size(1, 7);
     // The test run makes the files beforehand, outside Wine, and names the
     // folder here; otherwise they are made in the temporary folder.
     wchar_t given[MAX_PATH] = {};
@@ -118,18 +115,17 @@ int main() {
     RemoveStrays(dir);
     const std::wstring pattern = dir + L"\\*.*";
 
-    std::printf("ZelDosEnumFileInfo against FindFirstFileW/FindNextFileW, %d files, median of %d rounds\n", kFiles,
-                kRounds);
+    std::printf("  ZelDosEnumFileInfo against FindFirstFileW/FindNextFileW, %d files, median of %d rounds\n", kFiles,
+                rounds);
     const double madeStart = Seconds();
     if (!MakeFiles(dir)) {
-        std::printf("  the files could not be made\n");
-        return 1;
+        run.Wrong("the files could not be made");
+        return run.Finish();
     }
     std::printf("  files ready in %.2f s\n", Seconds() - madeStart);
 
-    bool ok = true;
     std::vector<double> library, platform, ratios;
-    for (int round = 0; round < kRounds && ok; ++round) {
+    for (int round = 0; round < rounds && run.Ok(); ++round) {
         const HostArray names = HostArrayCreate(HOST_TYPE_STRING), sizes = HostArrayCreate(HOST_TYPE_NUMBER),
                         dates = HostArrayCreate(HOST_TYPE_DATETIME), attributes = HostArrayCreate(HOST_TYPE_NUMBER);
         int32_t listed = 0;
@@ -154,24 +150,19 @@ int main() {
             byPlatform();
         }
         ratios.push_back(library.back() / platform.back());
-        if (listed != kFiles || walked != kFiles) {
-            std::printf("  count wrong: ZelDosEnumFileInfo %d, platform walk %d, files %d\n", listed, walked, kFiles);
-            ok = false;
-        } else if (round == 0 && !NamesComplete(names)) {
-            std::printf("  the listing's names are not the folder's files\n");
-            ok = false;
-        }
+        if (listed != kFiles || walked != kFiles)
+            run.Wrong("count: ZelDosEnumFileInfo %d, platform walk %d, files %d", listed, walked, kFiles);
+        else if (round == 0)
+            run.Check(NamesComplete(names), "the listing's names are not the folder's files");
         for (HostArray array : {names, sizes, dates, attributes})
             HostArrayDestroy(array);
     }
-    if (ok) {
+    if (run.Ok()) {
         std::printf("  ZelDosEnumFileInfo   median %8.2f ms, best %8.2f ms\n", Median(library) * 1e3,
-                    *std::min_element(library.begin(), library.end()) * 1e3);
+                    Best(library) * 1e3);
         std::printf("  FindFirst/NextFileW  median %8.2f ms, best %8.2f ms\n", Median(platform) * 1e3,
-                    *std::min_element(platform.begin(), platform.end()) * 1e3);
-        const double ratio = Median(ratios);
-        std::printf("ratio %-44s %6.2f (bound %.1f)%s\n", "ZelDosEnumFileInfo / platform walk time", ratio, kBound,
-                    ratio <= kBound ? "" : "  TOO SLOW");
+                    Best(platform) * 1e3);
+        run.Figure("ZelDosEnumFileInfo / platform walk time", Median(ratios), Want::AtMost, kBound);
     }
-    return ok ? 0 : 1;
+    return run.Finish();
 }

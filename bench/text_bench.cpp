@@ -1,8 +1,10 @@
 // Growth of the two text functions that must stay linear: ZelStrExpand over
 // arrays of 1 M and 10 M elements, ZelStrSubstitute over texts of 1 M and
 // 10 M characters. Each figure is the time of the large case over the small
-// one, measured in the same process; a linear function gives about 10, and
-// the program fails when a ratio passes 12.
+// one, measured in the same process: the medians of five samples each, a
+// sample of the small case the mean of enough calls to span tens of
+// milliseconds. A linear function gives about 10; bound 12. The program
+// fails only when a result has the wrong length.
 #include <windows.h>
 
 #include <algorithm>
@@ -13,26 +15,26 @@
 
 #include "zkhost.h"
 #include "zkhostctl.h"
-#include "bench_clock.h"
+#include "bench.h"
 #include "zklib.h"
 
 namespace {
+
+using namespace bench;
 
 constexpr double kBound = 12.0;
 
 // One timing of a call that makes a host string; the string's length is
 // checked against the expected one.
-double Time(const std::function<HostStr()> &call, size_t expectedLength, bool &ok) {
+double Time(Run &run, const std::function<HostStr()> &call, size_t expectedLength) {
     const double start = Seconds();
     const HostStr result = call();
     const double elapsed = Seconds() - start;
     int32_t size = 0;
     const wchar_t *text = HostStrLock(result, &size);
     const size_t length = text ? wcslen(text) : 0;
-    if (length != expectedLength) {
-        std::printf("  wrong result length %zu, expected %zu\n", length, expectedLength);
-        ok = false;
-    }
+    if (length != expectedLength)
+        run.Wrong("result length %zu, expected %zu", length, expectedLength);
     ZkHostStrRelease(result);
     return elapsed;
 }
@@ -42,21 +44,11 @@ struct Case {
     size_t expectedLength;
 };
 
-struct Ratio {
-    std::string name;
-    double small = 1e30, large = 1e30;
-};
-
-// The small and the large case in turn, `rounds` times each, so that a
-// slow spell of a busy machine falls on both alike; the best times count.
-Ratio Measure(const std::string &name, int rounds, const Case &small, const Case &large, bool &ok) {
-    Ratio r{name};
-    for (int i = 0; i < rounds; ++i) {
-        r.small = std::min(r.small, Time(small.call, small.expectedLength, ok));
-        r.large = std::min(r.large, Time(large.call, large.expectedLength, ok));
-    }
-    std::printf("  %-34s small %8.3f s  large %8.3f s\n", name.c_str(), r.small, r.large);
-    return r;
+void Measure(Run &run, const char *name, int repeat, const Case &small, const Case &large) {
+    const Growth g = MeasureGrowth(run.Size(1, 5), repeat, [&] { return Time(run, small.call, small.expectedLength); },
+                                   [&] { return Time(run, large.call, large.expectedLength); });
+    std::printf("  %-34s small %8.4f s  large %8.4f s\n", name, g.small, g.large);
+    run.Figure(name, g.Ratio(), Want::AtMost, kBound);
 }
 
 // Every element prints with the same count of digits, so that ten times the
@@ -110,70 +102,51 @@ std::wstring Repeated(const std::wstring &unit, size_t size) {
     return text;
 }
 
-bool Report(const Ratio &r) {
-    const double ratio = r.large / r.small;
-    const bool ok = ratio <= kBound;
-    std::printf("ratio %-34s %6.2f (bound %.0f)%s\n", r.name.c_str(), ratio, kBound, ok ? "" : "  TOO SLOW");
-    return ok;
-}
-
 } // namespace
 
-int main() {
-    std::setvbuf(stdout, nullptr, _IONBF, 0);
-    bool ok = true;
-    const double start = Seconds();
-    constexpr int32_t kSmall = 1'000'000, kLarge = 10'000'000;
-    std::vector<Ratio> ratios;
+int main(int argc, char **argv) {
+    Run run("bench_text", argc, argv);
+    const int32_t small = run.Size(100'000, 1'000'000), large = small * 10;
 
-    std::printf("ZelStrExpand over host arrays of %d and %d elements\n", kSmall, kLarge);
+    std::printf("  ZelStrExpand over host arrays of %d and %d elements\n", small, large);
     {
-        const HostArray small = Numbers(kSmall), large = Numbers(kLarge);
-        std::printf("  arrays of numbers built in %.1f s\n", Seconds() - start);
-        ratios.push_back(Measure("ZelStrExpand {%,n} numbers", 3,
-                                 {[&] { return ZelStrExpand(L"{%,n}", small); }, JoinedNumbersLength(kSmall)},
-                                 {[&] { return ZelStrExpand(L"{%,n}", large); }, JoinedNumbersLength(kLarge)},
-                                 ok));
-        HostArrayDestroy(small);
-        HostArrayDestroy(large);
+        const HostArray a = Numbers(small), b = Numbers(large);
+        Measure(run, "ZelStrExpand {%,n} numbers, 10x the elements", 1,
+                {[&] { return ZelStrExpand(L"{%,n}", a); }, JoinedNumbersLength(small)},
+                {[&] { return ZelStrExpand(L"{%,n}", b); }, JoinedNumbersLength(large)});
+        HostArrayDestroy(a);
+        HostArrayDestroy(b);
     }
     {
-        const HostArray small = Strings(kSmall), large = Strings(kLarge);
-        ratios.push_back(Measure("ZelStrExpand {[%s]}%s strings", 3,
-                                 {[&] { return ZelStrExpand(L"{[%s]}%s", small); }, BracketedWordsLength(kSmall)},
-                                 {[&] { return ZelStrExpand(L"{[%s]}%s", large); }, BracketedWordsLength(kLarge)},
-                                 ok));
-        HostArrayDestroy(small);
-        HostArrayDestroy(large);
+        const HostArray a = Strings(small), b = Strings(large);
+        Measure(run, "ZelStrExpand {[%s]}%s strings, 10x the elements", 1,
+                {[&] { return ZelStrExpand(L"{[%s]}%s", a); }, BracketedWordsLength(small)},
+                {[&] { return ZelStrExpand(L"{[%s]}%s", b); }, BracketedWordsLength(large)});
+        HostArrayDestroy(a);
+        HostArrayDestroy(b);
     }
 
-    std::printf("ZelStrSubstitute over texts of %d and %d characters\n", 1 << 20, 10 << 20);
+    const size_t smallText = run.Size<size_t>(1 << 16, 1 << 22), largeText = smallText * 10;
+    std::printf("  ZelStrSubstitute over texts of %zu and %zu characters\n", smallText, largeText);
     {
         const std::wstring unit = L"lorem ipsum dolor sit amet, ";
-        const std::wstring small = Repeated(unit, 1 << 20), large = Repeated(unit, 10 << 20);
+        const std::wstring a = Repeated(unit, smallText), b = Repeated(unit, largeText);
         const size_t grow = 2; // "dolor" becomes "DOLOR-X"
-        ratios.push_back(Measure(
-            "ZelStrSubstitute words", 5,
-            {[&] { return ZelStrSubstitute(small.c_str(), L"dolor", L"DOLOR-X"); },
-             small.size() + small.size() / unit.size() * grow},
-            {[&] { return ZelStrSubstitute(large.c_str(), L"dolor", L"DOLOR-X"); },
-             large.size() + large.size() / unit.size() * grow},
-            ok));
+        Measure(run, "ZelStrSubstitute words, 10x the text", 4,
+                {[&] { return ZelStrSubstitute(a.c_str(), L"dolor", L"DOLOR-X"); },
+                 a.size() + a.size() / unit.size() * grow},
+                {[&] { return ZelStrSubstitute(b.c_str(), L"dolor", L"DOLOR-X"); },
+                 b.size() + b.size() / unit.size() * grow});
     }
     {
         // A search that a naive scan would follow for nearly its whole length
         // at every position: 1000 times the work of a linear one.
         const std::wstring unit(1000, L'a');
         const std::wstring search = std::wstring(999, L'a') + L"b";
-        const std::wstring small = Repeated(unit, 1 << 20), large = Repeated(unit, 10 << 20);
-        ratios.push_back(Measure("ZelStrSubstitute periodic search", 5,
-                                 {[&] { return ZelStrSubstitute(small.c_str(), search.c_str(), L"x"); }, small.size()},
-                                 {[&] { return ZelStrSubstitute(large.c_str(), search.c_str(), L"x"); }, large.size()},
-                                 ok));
+        const std::wstring a = Repeated(unit, smallText), b = Repeated(unit, largeText);
+        Measure(run, "ZelStrSubstitute periodic search, 10x the text", 4,
+                {[&] { return ZelStrSubstitute(a.c_str(), search.c_str(), L"x"); }, a.size()},
+                {[&] { return ZelStrSubstitute(b.c_str(), search.c_str(), L"x"); }, b.size()});
     }
-
-    for (const Ratio &r : ratios)
-        ok = Report(r) && ok;
-    std::printf("total %.1f s\n", Seconds() - start);
-    return ok ? 0 : 1;
+    return run.Finish();
 }
