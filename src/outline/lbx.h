@@ -24,7 +24,8 @@ inline constexpr uint16_t LBX_ParentFocusKnown = 0x0001; // the list had focus t
 inline constexpr uint16_t LBX_ParentKeepItems = 0x0002;  // a row goes on purpose: keep its item
 
 // Bits of LbxChild.runFlags.
-inline constexpr uint16_t LBX_ChildNoErase = 0x0002; // background erasing suppressed
+inline constexpr uint16_t LBX_ChildNoErase = 0x0002;  // background erasing suppressed
+inline constexpr uint16_t LBX_ChildPaintOff = 0x0004; // the list's own painting is off (WM_SETREDRAW 0)
 
 // Style bits that adopt a control (and change its window style).
 inline constexpr uint32_t LBX_StyleAdoptMask = 0x08FFFFFFu;

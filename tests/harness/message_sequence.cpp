@@ -111,6 +111,20 @@ std::string describe(const RecordedMessage &message) {
     return ::testing::AssertionSuccess();
 }
 
+::testing::AssertionResult matchNamed(const std::vector<RecordedMessage> &all,
+                                      const std::vector<ExpectedMessage> &want) {
+    std::vector<RecordedMessage> named;
+    for (const RecordedMessage &m : all) {
+        const bool inTable = std::any_of(want.begin(), want.end(), [&](const ExpectedMessage &e) {
+            return e.message == m.message && (!e.hwnd || e.hwnd == m.hwnd);
+        });
+        if (inTable) {
+            named.push_back(m);
+        }
+    }
+    return matchSequence(named, want);
+}
+
 const std::vector<UINT> &commonNoise() {
     static const std::vector<UINT> noise = {
         WM_GETICON,     WM_NCHITTEST,      WM_SETCURSOR,  WM_MOUSEMOVE,    WM_NCMOUSEMOVE,

@@ -72,6 +72,12 @@ struct ExpectedMessage {
                                          const std::vector<ExpectedMessage> &want,
                                          const std::vector<UINT> &ignore = {});
 
+// The same, with only the recorded messages that the table names taking
+// part (the message, and the window where an entry gives one): whatever
+// else the system delivers meanwhile cannot change the outcome.
+::testing::AssertionResult matchNamed(const std::vector<RecordedMessage> &got,
+                                      const std::vector<ExpectedMessage> &want);
+
 // Messages that Wine and the window manager send when they like (hit tests,
 // cursor, icons, non-client paint, IME...), for `ignore`.
 const std::vector<UINT> &commonNoise();

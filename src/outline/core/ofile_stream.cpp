@@ -109,23 +109,34 @@ std::vector<uint8_t> OutlineWrite(const OBLOB &blob) {
 }
 
 bool OutlineParents(const std::vector<OBITEM> &items, std::vector<int32_t> &parents) {
+    constexpr int32_t kUnset = -3;
     std::vector<int32_t> result(items.size(), kUnderRoot);
-    // The record most recently loaded at each level: the parent of the next
-    // record one level deeper.
-    std::vector<int32_t> lastAt(kMaxLevel + 1, kUnderRoot);
+    // The loader's table of parents by level: an entry is set when a record
+    // goes deeper than the one before it, to that record's predecessor, and
+    // stays until a later record goes deeper to that level again. So a record
+    // more than one level deeper than the last loads under the last one, and
+    // one that comes back up loads under whatever its level last held.
+    std::vector<int32_t> parentOf(kMaxLevel + 1, kUnset);
+    parentOf[0] = kUnderRoot;
     size_t first = 0;
     if (!items.empty() && items[0].level == -1) {
         result[0] = kIsRoot;
         first = 1;
     }
-    int32_t previous = -1; // the root's level
+    int32_t current = 0;
+    int32_t last = kUnderRoot;
     for (size_t i = first; i < items.size(); ++i) {
         const int32_t level = items[i].level;
-        if (level < 0 || level > kMaxLevel || level > previous + 1)
+        if (level < 0 || level > kMaxLevel)
             return false;
-        result[i] = level == 0 ? kUnderRoot : lastAt[static_cast<size_t>(level - 1)];
-        lastAt[static_cast<size_t>(level)] = static_cast<int32_t>(i);
-        previous = level;
+        if (level > current)
+            parentOf[static_cast<size_t>(level)] = last;
+        current = level;
+        // A level never reached on the way down has no parent to give.
+        if (parentOf[static_cast<size_t>(level)] == kUnset)
+            return false;
+        result[i] = parentOf[static_cast<size_t>(level)];
+        last = static_cast<int32_t>(i);
     }
     parents = std::move(result);
     return true;

@@ -85,10 +85,11 @@ inline constexpr int32_t kUnderRoot = -1;
 
 // The parent of each record by its level, as the loader's table of parents
 // works it out: kIsRoot for a first record of level -1, kUnderRoot for a node
-// under the root, else the index of the parent's record. False when a level
-// lies outside the table: below 0 (but for the first record's -1), above
-// kMaxLevel, or more than one level deeper than the record before it (the
-// root counts as level -1), since the table would then hold no parent for it.
+// under the root, else the index of the parent's record. A record deeper
+// than the one before takes that one as its parent, however many levels it
+// skips. False when a level lies outside the table (below 0, but for the
+// first record's -1, or above kMaxLevel) or comes back up to a level that
+// no record went down to, since the table then holds no parent for it.
 bool OutlineParents(const std::vector<OBITEM> &items, std::vector<int32_t> &parents);
 
 } // namespace zk::ofile

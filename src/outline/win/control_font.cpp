@@ -33,7 +33,8 @@ LRESULT LbxSetFont(const LbxChild &child, HWND window, bool combo, WPARAM font, 
     // above it each time one is set, so the second loop stays as tight as the
     // list box allows, with painting off for it; the engine's redraw switch
     // says whether painting may be turned back on, as for the tree
-    // operations, and a hidden list is left as it is.
+    // operations, and a hidden list, or one whose painting someone else
+    // turned off (the application freezing it), is left as it is.
     std::vector<Height> heights;
     heights.reserve(count > 0 ? static_cast<std::size_t>(count) : 0);
     for (int32_t row = 0; row < count; ++row) {
@@ -46,7 +47,7 @@ LRESULT LbxSetFont(const LbxChild &child, HWND window, bool combo, WPARAM font, 
             heights.push_back(h);
         }
     }
-    const bool quiet = !combo && !heights.empty() && LbxOutlineRedraw &&
+    const bool quiet = !combo && !heights.empty() && LbxOutlineRedraw && !(child.runFlags & LBX_ChildPaintOff) &&
                        (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
     if (quiet) {
         LbxCallBase(child, window, WM_SETREDRAW, FALSE, 0);

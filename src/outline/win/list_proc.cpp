@@ -70,6 +70,12 @@ LRESULT ListDispatch(const LbxChild &child, HWND window, UINT message, WPARAM wP
         return (child.runFlags & LBX_ChildNoErase) ? 1 : LbxCallBase(child, window, message, wParam, lParam);
     case WM_SETFONT:
         return LbxSetFont(child, window, false, wParam, lParam);
+    case WM_SETREDRAW:
+        LbxChildEdit(window, [&](LbxChild &c) {
+            c.runFlags = wParam ? static_cast<uint16_t>(c.runFlags & ~LBX_ChildPaintOff)
+                                : static_cast<uint16_t>(c.runFlags | LBX_ChildPaintOff);
+        });
+        return LbxCallBase(child, window, message, wParam, lParam);
     case WM_KEYDOWN:
         return LbxKeyDown(child, window, false, wParam, lParam);
     case WM_KEYUP:

@@ -75,11 +75,6 @@ std::wstring ChooseText(const wchar_t *text, int32_t value) {
     return given;
 }
 
-uint32_t StyleOf(HWND window) {
-    LbxChild child{};
-    return LbxGetChildCopy(window, &child) ? child.style : 0;
-}
-
 bool Pictures(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC **selectedPic) {
     *normalPic = zk::PicFromHandle(normal);
     *selectedPic = zk::PicFromHandle(selected);
@@ -103,20 +98,17 @@ ZelItemHandle LoadExport(HWND window, ZelItemHandle anchor, ZelPicHandle normal,
 
 int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, ZelPicHandle selected,
                  HostArray texts, HostArray values, HostArray flags) {
-    int32_t lows[3] = {}, highs[3] = {};
+    // The host gives each array's element count; 0 is an empty array, not a
+    // failure, so three empty arrays load nothing and answer 0.
+    int32_t lows[3] = {}, highs[3] = {}, counts[3] = {};
     const HostArray arrays[3] = {texts, values, flags};
     for (int i = 0; i < 3; ++i) {
-        if (!HostArrayGetBounds(arrays[i], &lows[i], &highs[i])) {
-            return ZEL_INVALID_PARAMETER;
-        }
-        if (highs[i] < lows[i]) {
-            highs[i] = lows[i] - 1; // empty
-        }
+        counts[i] = HostArrayGetBounds(arrays[i], &lows[i], &highs[i]);
     }
-    const int64_t count = int64_t{highs[0]} - lows[0] + 1;
-    if (int64_t{highs[1]} - lows[1] + 1 != count || int64_t{highs[2]} - lows[2] + 1 != count) {
+    if (counts[1] != counts[0] || counts[2] != counts[0]) {
         return ZEL_INVALID_PARAMETER;
     }
+    const int32_t count = counts[0];
     // A parent or picture handle that is not live fails the first load.
     LbxNode *parent = LbxNodeOf(parentHandle);
     PIC *n = nullptr, *s = nullptr;

@@ -152,17 +152,34 @@ TEST(OutlineStream, ParentsFollowTheTableOfLevels) {
     std::vector<int32_t> parents;
     ASSERT_TRUE(OutlineParents(Levels({-1, 0, 1, 2, 1, 0, 1, 2, 2}), parents));
     EXPECT_EQ(parents, (std::vector<int32_t>{kIsRoot, kUnderRoot, 1, 2, 1, kUnderRoot, 5, 6, 6}));
-    // Without a root record the first record loads under the root.
-    ASSERT_TRUE(OutlineParents(Levels({0, 1, 0}), parents));
-    EXPECT_EQ(parents, (std::vector<int32_t>{kUnderRoot, 0, kUnderRoot}));
+    // Without a root record the first record loads under the root, whatever its level.
+    struct Case {
+        std::vector<OBITEM> items;
+        std::vector<int32_t> parents;
+    };
+    const Case cases[] = {
+        {Levels({0, 1, 0}), {kUnderRoot, 0, kUnderRoot}},
+        {Levels({1}), {kUnderRoot}},
+        {Levels({-1, 1}), {kIsRoot, kUnderRoot}},
+        // More than one level deeper: under the record before.
+        {Levels({0, 2}), {kUnderRoot, 0}},
+        {Levels({0, 1, 3, 3}), {kUnderRoot, 0, 1, 1}},
+        // Back up to a level set earlier: its entry stands until a record goes
+        // deeper to it again, so the second 1 joins the first subtree's 0.
+        {Levels({0, 1, 2, 0, 2, 1}), {kUnderRoot, 0, 1, kUnderRoot, 3, 0}},
+    };
+    for (const Case &c : cases) {
+        ASSERT_TRUE(OutlineParents(c.items, parents));
+        EXPECT_EQ(parents, c.parents);
+    }
     std::vector<OBITEM> deep = Levels({-1});
     for (int32_t l = 0; l <= kMaxLevel; ++l) deep.push_back(Levels({l})[0]);
     ASSERT_TRUE(OutlineParents(deep, parents));
     EXPECT_EQ(parents.back(), static_cast<int32_t>(deep.size()) - 2);
-    // Levels outside the table refuse the whole stream.
+    // Levels outside the table, or a level no record went down to, refuse the whole stream.
     deep.push_back(Levels({kMaxLevel + 1})[0]);
-    for (auto levels : {deep, Levels({-1, 1}), Levels({0, 2}), Levels({1}), Levels({0, 1, 3}), Levels({0, -1}),
-                        Levels({-1, -1}), Levels({-2}), Levels({0, 0x7FFFFFFF})}) {
+    for (auto levels : {deep, Levels({0, 2, 1}), Levels({0, -1}), Levels({-1, -1}), Levels({-2}),
+                        Levels({0, 0x7FFFFFFF})}) {
         parents = {5};
         EXPECT_FALSE(OutlineParents(levels, parents));
         EXPECT_EQ(parents, std::vector<int32_t>{5});

@@ -61,6 +61,23 @@ TEST_F(LoadTest, ReadsTheOutlineAndShowsWhatIsNotHidden) {
     EXPECT_EQ(ZelListGetItemHandle(list, 2), reinterpret_cast<ZelItemHandle>(gamma));
 }
 
+// No root record, and a record three levels deeper than the first: the
+// first loads under the root, the deep one under the record before it.
+TEST_F(LoadTest, WithoutARootRecordDeeperLevelsLoadUnderTheRecordBefore) {
+    const Bytes stream = Spell{}
+                             .header(kOutlineStyle, 8, 0, 0, 0, 3)
+                             .item(1, -1, -1, -1, 0, 0, 1, L"A")
+                             .item(4, -1, -1, -1, 0, 0, 2, L"B")
+                             .item(0, -1, -1, -1, 0, 0, 3, L"C")
+                             .b;
+    ASSERT_EQ(Load(list, stream), Root());
+    const LbxNode *a = Node(Root())->firstChild;
+    ASSERT_TRUE(a && a->firstChild && a->next);
+    EXPECT_EQ(NodeText(a->firstChild), L"B");
+    EXPECT_EQ(NodeText(a->next), L"C");
+    EXPECT_EQ(a->firstChild->level, 1); // a child's level follows its parent, not the record
+}
+
 TEST_F(LoadTest, OlderStreamsWithSingleByteStringsLoadAndSaveWide) {
     Spell s;
     s.header(kOutlineStyle, 8, 0, 1, 1, 1);

@@ -71,6 +71,10 @@ TEST_F(OutlineFixture, LoadChildrenFromArraysAndOpensTheParent) {
     EXPECT_EQ(ZelListLoadChildren(list, top, 0, 0, texts, values, flags), ZEL_INVALID_PARAMETER);
     HostArraySetBounds(flags, 0, 2);
     EXPECT_EQ(ZelListLoadChildren(list, 0x4444, 0, 0, texts, values, flags), ZEL_NOT_ENOUGH_MEMORY);
+    // Three empty arrays agree: nothing is loaded and the count is 0.
+    for (HostArray a : {texts, values, flags}) HostArraySetBounds(a, 0, -1);
+    EXPECT_EQ(ZelListLoadChildren(list, top, 0, 0, texts, values, flags), 0);
+    EXPECT_EQ(Rows(), L"top .one .two .three");
     for (HostArray a : {texts, values, flags}) HostArrayDestroy(a);
 }
 
