@@ -9,7 +9,8 @@ namespace {
 
 constexpr DWORD kStep = 256;
 
-// The section's key names, each ended by a NUL, the list by a second one.
+// The section's key names (the file's section names for a null section),
+// each ended by a NUL, the list by a second one.
 // The platform cuts a list that does not fit two characters short of the
 // size, so an answer that close to the size is asked for again, larger.
 std::vector<wchar_t> KeyNames(const wchar_t *section, const wchar_t *path, DWORD &length) {
@@ -37,8 +38,7 @@ int32_t EnumStrings(const wchar_t *file, const wchar_t *section, HostArray keys)
     wchar_t path[MAX_PATH] = {};
     if (!zk::os::FindProfile(file, path))
         return ZEL_FILE_NOT_FOUND;
-    if (!section)
-        return ZEL_INVALID_PARAMETER;
+    // A null section asks the platform for the file's section names.
     DWORD length = 0;
     const std::vector<wchar_t> names = KeyNames(section, path, length);
     if (length == 0)
@@ -61,8 +61,10 @@ int32_t ZKAPI ZelProfileDelete(const wchar_t *file, const wchar_t *section, cons
     wchar_t path[MAX_PATH] = {};
     if (!zk::os::FindProfile(file, path))
         return ZEL_FILE_NOT_FOUND;
+    // The platform writes nothing without a section: a failed write. (All
+    // three arguments null would only flush its cache, deleting nothing.)
     if (!section)
-        return ZEL_INVALID_PARAMETER;
+        return 0;
     // No key, or an empty one, deletes the whole section.
     const wchar_t *const which = key && *key ? key : nullptr;
     return WritePrivateProfileStringW(section, which, nullptr, path);

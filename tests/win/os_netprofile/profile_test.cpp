@@ -62,9 +62,18 @@ TEST_F(Profile, FailuresAndEmptySectionsLeaveTheArray) {
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(At(L"none.ini").c_str(), L"s", L"k"));
     EXPECT_EQ(ZEL_FILE_NOT_FOUND, ZelProfileDelete(nullptr, L"s", L""));
     EXPECT_EQ("<missing>", Contents(L"none.ini")) << "nothing is created";
-    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileEnumStrings(empty.c_str(), nullptr, keys));
-    EXPECT_EQ(ZEL_INVALID_PARAMETER, ZelProfileDelete(empty.c_str(), nullptr, L"k"));
     EXPECT_EQ((Texts{L"kept"}), Elements(keys));
+}
+
+// Without a section the platform lists the file's sections, and writes nothing.
+TEST_F(Profile, NullSectionListsTheSectionsAndDeletesNothing) {
+    const std::wstring ini = Make(L"s.ini", "[none]\r\n[some]\r\nk=v\r\n");
+    const HostArray keys = Array();
+    EXPECT_EQ(2, ZelProfileEnumStrings(ini.c_str(), nullptr, keys));
+    EXPECT_EQ((Texts{L"none", L"some"}), Elements(keys));
+    for (const wchar_t *key : {L"k", L"", static_cast<const wchar_t *>(nullptr)})
+        EXPECT_EQ(0, ZelProfileDelete(ini.c_str(), nullptr, key));
+    EXPECT_EQ("[none]\r\n[some]\r\nk=v\r\n", Contents(L"s.ini"));
 }
 
 TEST_F(Profile, DeleteAKeyOrTheWholeSection) {
