@@ -78,8 +78,9 @@ uint32_t CCalendar::GetRoleColor(int32_t role) const {
 }
 
 uint32_t CCalendar::SetRoleColor(int32_t role, uint32_t color, int redraw) {
-    CheckRole(role);
-    const uint32_t old = roleColors_[role];
+    // The colour in force before, so that saving and restoring it gives a
+    // role that followed the system its system colour back.
+    const uint32_t old = GetRoleColor(role);
     roleColors_[role] = color;
     useDefaultColor_[role] = 0;
     if (redraw == 1)

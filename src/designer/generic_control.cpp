@@ -41,7 +41,7 @@ COLORREF CGenericControl::GetRoleColor(int role) {
 COLORREF CGenericControl::SetRoleColor(int role, COLORREF colour, int redraw) {
     if (role < 0 || role >= kRoleCount)
         return CLR_INVALID;
-    const COLORREF old = roleColors[role];
+    const COLORREF old = GetRoleColor(role); // in force, not the stored explicit colour
     roleColors[role] = colour;
     useDefaultColor[role] = 0;
     if (redraw == 1 && GetSafeHwnd())

@@ -41,7 +41,7 @@ public:
     // The colour in force for a role; CLR_INVALID outside 0 to 3.
     virtual COLORREF GetRoleColor(int role);
     // Stores an explicit colour and clears the role's default flag. Gives the
-    // explicit colour the role held before (CLR_INVALID outside 0 to 3). With
+    // colour in force before, as GetRoleColor gave it (CLR_INVALID outside 0 to 3). With
     // redraw 1 the whole window is invalidated with erase.
     virtual COLORREF SetRoleColor(int role, COLORREF colour, int redraw);
     // Fills the class's static role table, once per process (a static flag

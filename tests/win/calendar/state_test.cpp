@@ -30,7 +30,8 @@ TEST_F(CalendarExports, AnInvalidFocusDateIsRefused) {
 TEST_F(CalendarExports, ColoursFollowTheSystemUntilSetAndOnlySixteenRolesExist) {
     EXPECT_EQ(ZelCalGetColor(control(), CALR_CellBack), int32_t(GetSysColor(COLOR_WINDOW)));
     EXPECT_EQ(ZelCalGetColor(control(), CALR_MarkBack), int32_t(GetSysColor(COLOR_HIGHLIGHT)));
-    EXPECT_EQ(ZelCalSetColor(control(), CALR_CellText, RGB(1, 2, 3)), 0) << "no colour was set before";
+    // The old colour is the one in force, so restoring it gives the system colour back.
+    EXPECT_EQ(ZelCalSetColor(control(), CALR_CellText, RGB(1, 2, 3)), int32_t(GetSysColor(COLOR_WINDOWTEXT)));
     EXPECT_EQ(ZelCalGetColor(control(), CALR_CaptionText), int32_t(RGB(1, 2, 3))) << "derived from the cell text";
     EXPECT_EQ(ZelCalSetColor(control(), CALR_CellText, RGB(4, 5, 6)), int32_t(RGB(1, 2, 3)));
     zkt::DebugOutputCapture capture;

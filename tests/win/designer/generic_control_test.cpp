@@ -37,9 +37,9 @@ protected:
     TestControl *control = nullptr;
 };
 
-TEST_F(GenericControl, SettingARoleGivesTheFormerExplicitColourAndMayRedraw) {
+TEST_F(GenericControl, SettingARoleGivesTheColourInForceAndMayRedraw) {
     ValidateRect(window, nullptr);
-    EXPECT_EQ(control->SetRoleColor(2, RGB(10, 20, 30), 0), 0u) << "no explicit colour before";
+    EXPECT_EQ(control->SetRoleColor(2, RGB(10, 20, 30), 0), GetSysColor(COLOR_GRAYTEXT)) << "the system's before";
     EXPECT_FALSE(GetUpdateRect(window, nullptr, FALSE)) << "redraw 0 invalidates nothing";
     EXPECT_EQ(control->GetRoleColor(2), RGB(10, 20, 30));
     EXPECT_EQ(control->SetRoleColor(2, RGB(40, 50, 60), 1), RGB(10, 20, 30));
