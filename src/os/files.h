@@ -43,7 +43,7 @@ int ZelPathDriveNumber(std::wstring_view path);
 
 // Makes or grows the call's transfer buffer for a file of `size` bytes: a
 // moveable global block in `block` (null the first time), and in `usefulSize`
-// how many bytes to move at a time: min(size + 1, 65533). 0, or -8 when
+// how many bytes to move at a time: min(size + 1, kTransferLimit). 0, or -8 when
 // the memory cannot be had (the block held so far stays in `block`).
 int32_t ZelFileBufferEnsure(uint64_t size, HGLOBAL &block, uint32_t &usefulSize);
 

@@ -11,8 +11,9 @@ namespace {
 TEST(FileSums, TransferSizeIsOneMoreThanTheFileUpToTheLimit) {
     EXPECT_EQ(1u, TransferSize(0));
     EXPECT_EQ(65533u, TransferSize(65532));
-    EXPECT_EQ(65533u, TransferSize(65533));
-    EXPECT_EQ(65533u, TransferSize(~0ull));
+    EXPECT_EQ(kTransferLimit, TransferSize(kTransferLimit - 1));
+    EXPECT_EQ(kTransferLimit, TransferSize(kTransferLimit));
+    EXPECT_EQ(kTransferLimit, TransferSize(~0ull));
 }
 
 TEST(FileSums, DosWords) {

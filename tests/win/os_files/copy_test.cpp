@@ -1,6 +1,7 @@
 // ZelFileCopy on the real file system: names, masks, contents and times,
 // the targets' marks, the space check and the failures.
 #include "files_support.h"
+#include "os/filesums.h"
 
 using namespace filestest;
 
@@ -55,7 +56,8 @@ TEST_F(FileCopy, MaskNamesTheTargets) {
 
 TEST_F(FileCopy, OverwritesAndMovesFilesAroundTheBufferSize) {
     Folder(L"out");
-    for (size_t size : {size_t{0}, size_t{1}, size_t{65532}, size_t{65533}, size_t{65534}, size_t{200001}}) {
+    const size_t cap = zk::os::kTransferLimit;
+    for (size_t size : {size_t{0}, size_t{1}, size_t{65533}, cap - 1, cap, cap + 1, 2 * cap + 5}) {
         const Bytes data = SampleBytes(size, static_cast<uint32_t>(size));
         Make(L"f.bin", data);
         Write(At(L"out\\f.bin"), SampleBytes(300000, 9)); // a longer target must be cut
