@@ -11,6 +11,7 @@
 #define ZK_EXPORTS_CONFIGURED 0
 #define ZK_EXPORTS_WIN64_BIN ""
 #define ZK_EXPORTS_WIN32_BIN ""
+#define ZK_EXPORTS_I686_OBJDUMP ""
 #endif
 
 namespace locations {
@@ -32,6 +33,8 @@ inline std::string sourceDir() {
 
 inline std::string win64Bin() { return ZK_EXPORTS_WIN64_BIN; }
 inline std::string win32Bin() { return ZK_EXPORTS_WIN32_BIN; }
+// The i686 disassembler of the cross tools.
+inline std::string i686Objdump() { return ZK_EXPORTS_I686_OBJDUMP; }
 
 inline const char *howToConfigure() {
     return ZK_EXPORTS_CONFIGURED

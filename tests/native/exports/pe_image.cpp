@@ -113,6 +113,13 @@ private:
             return fail("unknown optional header magic");
         }
         image.pe32plus = magic == 0x20B;
+        if (image.pe32plus) {
+            in_.u64(optional + 24, image.imageBase);
+        } else {
+            std::uint32_t base = 0;
+            in_.u32(optional + 28, base);
+            image.imageBase = base;
+        }
         const std::size_t countAt = optional + (image.pe32plus ? 108 : 92);
         const std::size_t directoriesAt = countAt + 4;
         std::uint32_t directoryCount = 0;
@@ -207,6 +214,7 @@ private:
             std::uint32_t address = 0;
             in_.u32(functions + 4ull * index, address);
             e.ordinal = base + index;
+            e.rva = address;
             e.forwarded = address >= dir.rva && address - dir.rva < dir.size;
             named[index] = true;
             image.exports.push_back(std::move(e));

@@ -17,6 +17,7 @@ struct Export {
     std::string name;
     std::uint32_t ordinal = 0;
     bool forwarded = false; // the address points into the export directory
+    std::uint32_t rva = 0;  // the function's address, relative to the image base
 };
 
 struct ImportedDll {
@@ -28,6 +29,7 @@ struct ImportedDll {
 struct Image {
     std::uint16_t machine = 0;
     bool pe32plus = false;
+    std::uint64_t imageBase = 0;
     std::string exportDllName;     // the name in the export directory
     std::vector<Export> exports;   // named exports
     std::uint32_t unnamedExports = 0; // addresses reachable by ordinal only

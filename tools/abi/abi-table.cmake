@@ -1,0 +1,22 @@
+# Writes the source of the ABI table: one ZK_ABI entry per export named in
+# the given .def files ("Name@N == Name" lines), for the headers to answer.
+#   cmake -DDEFS="a.def;b.def" -DOUT=abi_table.cpp -P abi-table.cmake
+set(names "")
+foreach(def ${DEFS})
+  file(STRINGS ${def} lines REGEX "^[ \t]*[A-Za-z_][A-Za-z0-9_]*@[0-9]+")
+  foreach(line ${lines})
+    string(REGEX MATCH "[A-Za-z_][A-Za-z0-9_]*" name "${line}")
+    list(APPEND names ${name})
+  endforeach()
+endforeach()
+list(REMOVE_DUPLICATES names)
+set(text "// Generated from the export lists by tools/abi/abi-table.cmake.\n")
+string(APPEND text "#include \"abi_table.h\"\n#include \"zklib.h\"\n#include \"zkhost.h\"\n#include \"zkhostctl.h\"\n\n")
+string(APPEND text "__attribute__((section(\".zkabi\"), used)) extern const zkabi::Record zkAbiTable[] = {\n")
+foreach(name ${names})
+  string(APPEND text "    ZK_ABI(${name})\n")
+endforeach()
+string(APPEND text "};\n")
+file(WRITE ${OUT}.tmp "${text}")
+file(COPY_FILE ${OUT}.tmp ${OUT} ONLY_IF_DIFFERENT)
+file(REMOVE ${OUT}.tmp)
