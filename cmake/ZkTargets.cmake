@@ -36,11 +36,52 @@ function(zk_add_dll target head)
 endfunction()
 
 
+# One component of the library: src/<name>/core/*.cpp (portable, no platform
+# header) join the portable core zkcore; on Windows src/<name>/win/*_exports.cpp
+# (the exported functions) join the DLL, and the rest of win/ (window
+# procedures, painting, the platform's side) forms the static library
+# zk_<name>, which the DLL takes whole and a test program links for what it
+# reaches of it. LIBS: platform libraries the component's code calls.
+function(zk_component name)
+  cmake_parse_arguments(ARG "" "" "LIBS" ${ARGN})
+  set(here ${CMAKE_CURRENT_SOURCE_DIR})
+  file(GLOB core CONFIGURE_DEPENDS ${here}/core/*.cpp)
+  if(core)
+    target_sources(zkcore PRIVATE ${core})
+  endif()
+  if(NOT WIN32)
+    return()
+  endif()
+  file(GLOB win CONFIGURE_DEPENDS ${here}/win/*.cpp)
+  set(exports ${win})
+  list(FILTER exports INCLUDE REGEX "_exports\\.cpp$")
+  list(FILTER win EXCLUDE REGEX "_exports\\.cpp$")
+  if(exports)
+    target_sources(ZKLIB PRIVATE ${exports})
+  endif()
+  if(win)
+    add_library(zk_${name} STATIC ${win})
+    target_include_directories(zk_${name} PUBLIC ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src
+                                                 ${CMAKE_SOURCE_DIR}/res ${CMAKE_BINARY_DIR}/res)
+    target_link_libraries(zk_${name} PUBLIC zkcore zkhost ${ARG_LIBS}
+                                            user32 gdi32 kernel32 comctl32 shell32 advapi32 version)
+    zk_warnings(zk_${name})
+    target_link_libraries(ZKLIB PRIVATE "$<LINK_LIBRARY:WHOLE_ARCHIVE,zk_${name}>")
+    set_property(GLOBAL APPEND PROPERTY ZK_COMPONENT_LIBRARIES zk_${name})
+  endif()
+endfunction()
+
 # A Windows test program: GoogleTest, the harness, both DLLs; one ctest entry
 # that runs it once under Wine in the build tree's prefix.
+# The components' libraries come after the DLL's import library, as one group
+# (they call each other), so that a test reaches the code of the library it
+# names and calls every export in the DLL itself.
 function(zk_win_test name)
   add_executable(${name} ${ARGN})
-  target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost GTest::gtest GTest::gtest_main)
+  get_property(components GLOBAL PROPERTY ZK_COMPONENT_LIBRARIES)
+  list(JOIN components "," group)
+  target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost "$<LINK_GROUP:RESCAN,${group}>"
+                                        GTest::gtest GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src)
   zk_warnings(${name})
   # The program runs under Wine, which reaches Unix paths through drive Z:.

@@ -7,11 +7,11 @@
 #include <cstring>
 #include <string>
 
-#include "designer/archive.h"
-#include "designer/block_io.h"
-#include "designer/obarray.h"
-#include "designer/prop_generic.h"
-#include "designer/spin_block.h"
+#include "frame/core/archive.h"
+#include "frame/core/block_io.h"
+#include "frame/core/obarray.h"
+#include "frame/core/generic_block.h"
+#include "controls/core/spin_block.h"
 
 namespace {
 

@@ -10,7 +10,7 @@
 #include <optional>
 #include <string>
 
-#include "text/strtable.h"
+#include "text/core/strtable.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "os/core/dos_listing.h"
 
-#include "os/filesums.h"
+#include "os/core/filesums.h"
 
 namespace zk::os {
 

@@ -1,5 +1,5 @@
 // Life of items and nodes, and the item test that guards every data word.
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 #include "frame/core/livehandles.h"
 

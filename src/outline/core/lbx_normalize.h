@@ -5,8 +5,8 @@
 #include <cstddef>
 #include <cstdint>
 
-#include "outline/lbx.h"
-#include "text/proper.h"
+#include "outline/core/lbx.h"
+#include "text/core/proper.h"
 
 // What the rules ask of the platform: case mapping in place
 // (CharUpperBuffW, CharLowerBuffW), the lower-case test (IsCharLowerW) and a

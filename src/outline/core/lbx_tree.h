@@ -7,7 +7,7 @@
 #include <string_view>
 
 #include "outline/core/lbx_normalize.h"
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 // One switch for the whole library, not per list: whether tree operations
 // turn painting back on when they end. Initially on.

@@ -6,7 +6,7 @@
 #include <vector>
 
 #include "outline/core/ofile_stream.h"
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 namespace zk::ofile {
 

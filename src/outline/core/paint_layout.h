@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 namespace zk::paint {
 

@@ -1,6 +1,6 @@
 // LbxComboBoxWndProc: an adopted combo box answers like the list box, and
 // keeps its edit in step with the selected item.
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/row_exports.h"
 

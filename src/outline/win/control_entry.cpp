@@ -1,6 +1,6 @@
 // The common entry of the list box and combo box procedures.
-#include "frame/host.h"
-#include "frame/localblock.h"
+#include "frame/win/host.h"
+#include "frame/win/localblock.h"
 #include "outline/win/host_optional.h"
 #include "outline/win/lbx_procs.h"
 

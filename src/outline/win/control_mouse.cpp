@@ -1,7 +1,7 @@
 // Clicks on an outline list: the plus and minus box toggles through the
 // application (posted ZKM_LbxToggle), the indent and the space right of the
 // text swallow the click, the text selects as usual.
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_metrics.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/win_rows.h"

@@ -3,9 +3,9 @@
 // parent may have gone already (a form destroys its own window first). So
 // the items are freed here, once, and each row's data word is cleared
 // through the base procedure: the late delete notifications find no item.
-#include "frame/propcache.h"
+#include "frame/win/propcache.h"
 #include "outline/core/lbx_tree.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_procs.h"
 
 namespace {

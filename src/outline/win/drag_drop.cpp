@@ -1,7 +1,7 @@
 // The drop step of a drag: a node and its subtree leave their rows and
 // place in one outline list and take a place, and rows, at a row of the same
 // list or of a sibling list.
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/tree_ops.h"
 

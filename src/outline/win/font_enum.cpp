@@ -2,8 +2,8 @@
 #include <string>
 #include <unordered_map>
 
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // Fonts by face, points and style bits, and back.
 #include <cwchar>
 
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 
 namespace zk {
 namespace {

@@ -1,9 +1,9 @@
 // The font registry of a list, in its property "ZK:FontList".
 #include <new>
 
-#include "frame/propcache.h"
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/propcache.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 
 namespace zk {
 namespace {

@@ -1,11 +1,11 @@
 // Finding and reading the outline records of a window.
-#include "frame/propcache.h"
+#include "frame/win/propcache.h"
 #include "outline/win/lbx_win.h"
 
 #include <iterator>
 #include <new>
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "frame/core/livehandles.h"
 #include "outline/core/lbx_tree.h"
 

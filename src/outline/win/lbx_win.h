@@ -7,10 +7,10 @@
 
 #include <cstdint>
 
-#include "frame/propcache.h"
-#include "frame/localblock.h"
+#include "frame/win/propcache.h"
+#include "frame/win/localblock.h"
 #include "outline/core/lbx_normalize.h"
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 inline constexpr const wchar_t *kLbxParentProp = L"ZK:ParentLbx";
 inline constexpr const wchar_t *kLbxChildProp = L"ZK:ChildLbx";

@@ -1,6 +1,6 @@
 // LbxListBoxWndProc: an adopted list box answers the list messages through
 // its items, so host code that knows nothing of them sees an ordinary list.
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/host_optional.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/row_exports.h"

@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "outline/win/lbx_win.h"
 
 struct LbxTarget {

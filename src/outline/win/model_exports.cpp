@@ -1,6 +1,6 @@
 // The item model's exports: style and flags of a row, the root and the
 // handle of a row.
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "outline/core/lbx_tree.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/win_rows.h"

@@ -2,11 +2,11 @@
 // and fonts loaded anew and owned by the list.
 #include <vector>
 
-#include "frame/guard.h"
-#include "frame/host.h"
+#include "frame/win/guard.h"
+#include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
 #include "outline/core/ofile_stream.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/ofile_win.h"
 #include "outline/win/tree_ops.h"

@@ -4,10 +4,10 @@
 #include <unordered_map>
 #include <vector>
 
-#include "frame/guard.h"
-#include "frame/host.h"
+#include "frame/win/guard.h"
+#include "frame/win/host.h"
 #include "outline/core/ofile_collect.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/ofile_win.h"
 

@@ -2,9 +2,9 @@
 
 #include <vector>
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 
 namespace zk::ofile {

@@ -8,7 +8,7 @@
 #include <string>
 #include <string_view>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 namespace zk::ofile {
 

@@ -3,7 +3,7 @@
 
 #include <string_view>
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/core/paint_flow.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/paint_parts.h"

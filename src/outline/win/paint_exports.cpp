@@ -2,7 +2,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "outline/win/paint_textrect.h"
 #include "outline/win/lbx_win.h"
 

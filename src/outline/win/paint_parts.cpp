@@ -2,7 +2,7 @@
 
 #include <vector>
 
-#include "frame/localblock.h"
+#include "frame/win/localblock.h"
 #include "outline/core/paint_lines.h"
 #include "outline/core/paint_tabs.h"
 

@@ -7,8 +7,8 @@
 #include <string_view>
 
 #include "outline/core/paint_layout.h"
-#include "outline/lbx.h"
-#include "outline/pic.h"
+#include "outline/core/lbx.h"
+#include "outline/win/pic.h"
 
 namespace zk::paint {
 

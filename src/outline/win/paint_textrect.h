@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 // `rect` holds the row's rectangle on entry and the text's on return (left,
 // top, left + text width + 4, top + the larger of text and picture height).

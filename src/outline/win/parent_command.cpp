@@ -2,7 +2,7 @@
 // selection kept or dropped with the focus, the combo's edit after a
 // selection. Selection moves are posted so that they run after the
 // notification has ended.
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
 

@@ -1,7 +1,7 @@
 // WM_MEASUREITEM at the parent: a row is as high as its font, or its
 // pictures where they are higher.
-#include "frame/host.h"
-#include "outline/pic.h"
+#include "frame/win/host.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/lbx_metrics.h"
 #include "outline/win/host_optional.h"

@@ -5,7 +5,7 @@
 
 #include <windows.h>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 // WM_MEASUREITEM: the height of a row by its font and pictures.
 bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request);

@@ -1,7 +1,7 @@
 // LbxParentWndProc: the parent of adopted lists paints, measures, frees and
 // compares their rows, and steers focus and selection on their commands.
-#include "frame/propcache.h"
-#include "frame/host.h"
+#include "frame/win/propcache.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_paint_entry.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"

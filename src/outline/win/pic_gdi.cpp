@@ -1,6 +1,6 @@
 #include "outline/win/pic_gdi.h"
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 
 namespace zk {
 

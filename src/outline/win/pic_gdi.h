@@ -4,7 +4,7 @@
 
 #include <windows.h>
 
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 
 namespace zk {
 

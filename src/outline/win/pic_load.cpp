@@ -2,8 +2,8 @@
 #include <cwchar>
 #include <memory>
 
-#include "frame/guard.h"
-#include "frame/registry.h"
+#include "frame/win/guard.h"
+#include "frame/win/registry.h"
 #include "outline/win/pic_sources.h"
 
 namespace zk {

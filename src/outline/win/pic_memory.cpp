@@ -1,7 +1,7 @@
 // Pictures from image bytes: a host resource, or memory the caller points
 // at. The core checks the headers against the bytes before GDI sees them.
-#include "frame/host.h"
-#include "frame/registry.h"
+#include "frame/win/host.h"
+#include "frame/win/registry.h"
 #include "outline/core/image_reader.h"
 #include "outline/win/pic_gdi.h"
 #include "outline/win/pic_sources.h"

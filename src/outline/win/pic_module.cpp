@@ -3,7 +3,7 @@
 #include <windows.h>
 #include <shellapi.h>
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/pic_gdi.h"
 #include "outline/win/pic_sources.h"
 

@@ -1,8 +1,8 @@
 // Life of a picture record and the handle checks of the picture exports.
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 
 #include "frame/core/livehandles.h"
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 
 PIC::PIC() { zk::LiveAdd(zk::LiveKind::Picture, this); }
 

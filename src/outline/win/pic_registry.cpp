@@ -2,9 +2,9 @@
 #include <algorithm>
 #include <new>
 
-#include "frame/propcache.h"
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/propcache.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 
 namespace zk {
 namespace {

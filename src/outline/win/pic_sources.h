@@ -6,7 +6,7 @@
 #include <cstdint>
 
 #include "outline/core/pic_plan.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 
 namespace zk {
 

@@ -2,8 +2,8 @@
 #include <string>
 #include <utility>
 
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/row_exports.h"
 

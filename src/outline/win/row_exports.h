@@ -6,7 +6,7 @@
 
 #include <cstdint>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 struct LbxRowFields {
     uint32_t color = 0;

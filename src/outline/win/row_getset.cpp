@@ -1,7 +1,7 @@
 // Reading and changing the colour, pictures and font of a row, and enabling
 // or disabling it.
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_procs.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // Searching, listing into host arrays and freeing, by item handle.
 #include <cstdint>
 
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "outline/win/tree_ops.h"
 
 namespace {

@@ -1,6 +1,6 @@
 // Item flags by handle: a request on the bits that stand for rows (hidden,
 // deleted, selected, expanded) acts on the rows; the bits are stored after.
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/tree_ops.h"
 

@@ -1,7 +1,7 @@
 // Reading an item's fields and links by its handle. Every handle is looked
 // up in the table of live nodes first.
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 namespace {

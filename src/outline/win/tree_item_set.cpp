@@ -2,8 +2,8 @@
 // re-measured where the node has one.
 #include <string>
 
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 namespace {

@@ -1,7 +1,7 @@
 // The tree exports on rows: expand, collapse, delete, demote, promote,
 // move, show, and the process-wide redraw switch.
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 namespace {

@@ -2,7 +2,7 @@
 // the tree exports share.
 #include "outline/win/tree_ops.h"
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 
 void WinTreeRows::Reset() {

@@ -1,6 +1,6 @@
 #include "outline/win/win_rows.h"
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 
 int32_t WinRows::Insert(int32_t row, LbxItem *item) {

@@ -11,9 +11,9 @@
 #include <utility>
 #include <vector>
 
-#include "calendar/calendar_model.h"
-#include "calendar/date_ops.h"
-#include "calendar/datetime.h"
+#include "calendar/core/calendar_model.h"
+#include "calendar/core/date_ops.h"
+#include "calendar/core/datetime.h"
 
 namespace caltest {
 

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "calendar/errors.h"
+#include "calendar/core/errors.h"
 #include "calendar_fakes.h"
 #include "core/hostnum.h"
 

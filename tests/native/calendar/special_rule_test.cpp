@@ -5,7 +5,7 @@
 #include <climits>
 #include <cstdio>
 
-#include "calendar/special_rule.h"
+#include "calendar/core/special_rule.h"
 
 namespace {
 

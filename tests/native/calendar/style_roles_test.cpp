@@ -4,7 +4,7 @@
 
 #include <cstdio>
 
-#include "calendar/errors.h"
+#include "calendar/core/errors.h"
 #include "calendar_fakes.h"
 
 namespace {

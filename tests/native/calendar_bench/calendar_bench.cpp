@@ -9,7 +9,7 @@
 #include <cstdio>
 #include <ctime>
 
-#include "calendar/calendar_model.h"
+#include "calendar/core/calendar_model.h"
 
 namespace {
 

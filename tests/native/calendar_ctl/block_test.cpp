@@ -4,8 +4,8 @@
 
 #include <vector>
 
-#include "calendar/cal_block.h"
-#include "designer/block_io.h"
+#include "calendar/core/calendar_block.h"
+#include "frame/core/block_io.h"
 
 namespace {
 

@@ -3,7 +3,7 @@
 #include <gtest/gtest.h>
 
 
-#include "calendar/cal_nav.h"
+#include "calendar/core/calendar_nav.h"
 #include "control_fakes.h"
 
 namespace {

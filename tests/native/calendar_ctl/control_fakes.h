@@ -4,7 +4,7 @@
 #include <string>
 #include <vector>
 
-#include "calendar/cal_input.h"
+#include "calendar/core/calendar_input.h"
 #include "calendar_fakes.h"
 
 namespace calctl {

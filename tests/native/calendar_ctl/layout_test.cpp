@@ -2,7 +2,7 @@
 // and their gaps, hit testing, arrows and gridlines.
 #include <gtest/gtest.h>
 
-#include "calendar/cal_layout.h"
+#include "calendar/core/calendar_layout.h"
 
 namespace {
 

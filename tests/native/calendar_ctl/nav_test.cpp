@@ -2,7 +2,7 @@
 // selection keys of Multiple Selection.
 #include <gtest/gtest.h>
 
-#include "calendar/cal_nav.h"
+#include "calendar/core/calendar_nav.h"
 #include "control_fakes.h"
 
 namespace {

@@ -6,9 +6,9 @@
 #include <string>
 #include <vector>
 
-#include "calendar/date_ops.h"
-#include "calendar/datetime.h"
-#include "calendar/errors.h"
+#include "calendar/core/date_ops.h"
+#include "calendar/core/datetime.h"
+#include "calendar/core/errors.h"
 
 namespace {
 

@@ -6,7 +6,7 @@
 #include <cstdlib>
 #include <new>
 
-#include "calendar/calendar_model.h"
+#include "calendar/core/calendar_model.h"
 
 namespace {
 

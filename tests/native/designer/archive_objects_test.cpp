@@ -1,6 +1,6 @@
 // Tagged objects and object arrays: new-class tags, class indices shared
 // through one archive, null elements, and the reader's refusals.
-#include "designer/obarray.h"
+#include "frame/core/obarray.h"
 #include "designer_test.h"
 
 using namespace designertest;

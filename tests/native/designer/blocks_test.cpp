@@ -1,6 +1,6 @@
 // SPropGeneric and the block helpers: the byte image, versions, short and
 // damaged records.
-#include "designer/prop_generic.h"
+#include "frame/core/generic_block.h"
 #include "designer_test.h"
 
 using namespace designertest;

@@ -8,8 +8,8 @@
 #include <string>
 #include <vector>
 
-#include "designer/archive.h"
-#include "designer/block_io.h"
+#include "frame/core/archive.h"
+#include "frame/core/block_io.h"
 
 namespace designertest {
 

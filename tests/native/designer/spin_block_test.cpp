@@ -1,5 +1,5 @@
 // The spin field's record: 18 bytes to the host, 17 back, 15 copied.
-#include "designer/spin_block.h"
+#include "controls/core/spin_block.h"
 #include "designer_test.h"
 
 using namespace designertest;

@@ -1,7 +1,7 @@
 // Flags, level, the debug string and the assertion box.
 #include <gtest/gtest.h>
 
-#include "diag/diagnostics.h"
+#include "diag/core/diagnostics.h"
 #include "fake_system.h"
 
 using namespace zk::diag;

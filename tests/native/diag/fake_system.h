@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "diag/system.h"
+#include "diag/core/system.h"
 
 namespace diagtest {
 

@@ -4,8 +4,8 @@
 #include <cstring>
 #include <vector>
 
-#include "diag/elapsed_text.h"
-#include "diag/sample.h"
+#include "diag/core/elapsed_text.h"
+#include "diag/core/sample.h"
 
 using namespace zk::diag;
 

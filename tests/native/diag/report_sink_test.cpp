@@ -3,7 +3,7 @@
 // the block always large enough for what is written.
 #include <gtest/gtest.h>
 
-#include "diag/report_sink.h"
+#include "diag/core/report_sink.h"
 #include "fake_system.h"
 
 using namespace zk::diag;

@@ -1,7 +1,7 @@
 // The sample buffer: its block, its growth and the 16-bit cut of its capacity.
 #include <gtest/gtest.h>
 
-#include "diag/sample_buffer.h"
+#include "diag/core/sample_buffer.h"
 #include "fake_system.h"
 
 using namespace zk::diag;

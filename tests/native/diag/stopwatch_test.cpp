@@ -1,7 +1,7 @@
 // The stopwatch from its start to its report, with ticks and clock set by hand.
 #include <gtest/gtest.h>
 
-#include "diag/diagnostics.h"
+#include "diag/core/diagnostics.h"
 #include "fake_system.h"
 
 using namespace zk::diag;

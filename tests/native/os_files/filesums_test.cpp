@@ -2,7 +2,7 @@
 // free space, temporary names and the program-extension test.
 #include <gtest/gtest.h>
 
-#include "os/filesums.h"
+#include "os/core/filesums.h"
 
 using namespace zk::os;
 

@@ -5,7 +5,7 @@
 #include <set>
 #include <string>
 
-#include "os/pathmask.h"
+#include "os/core/pathmask.h"
 
 using namespace zk::os;
 

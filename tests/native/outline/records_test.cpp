@@ -4,7 +4,7 @@
 #include <cstring>
 
 #include "frame/core/livehandles.h"
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 namespace {
 

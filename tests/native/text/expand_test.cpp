@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes.h"
-#include "text/expand.h"
+#include "text/core/expand.h"
 
 using namespace zk::text;
 using zktest::FakeArray;

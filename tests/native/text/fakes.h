@@ -7,10 +7,10 @@
 #include <string_view>
 #include <vector>
 
-#include "text/expand.h"
-#include "text/padb.h"
-#include "text/proper.h"
-#include "text/scan_reverse.h"
+#include "text/core/expand.h"
+#include "text/core/padb.h"
+#include "text/core/proper.h"
+#include "text/core/scan_reverse.h"
 
 namespace zktest {
 

@@ -1,7 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "fakes.h"
-#include "text/proper.h"
+#include "text/core/proper.h"
 
 using namespace zk::text;
 

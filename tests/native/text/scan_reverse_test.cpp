@@ -3,7 +3,7 @@
 #include <random>
 
 #include "fakes.h"
-#include "text/scan_reverse.h"
+#include "text/core/scan_reverse.h"
 
 using namespace zk::text;
 

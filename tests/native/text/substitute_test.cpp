@@ -2,7 +2,7 @@
 
 #include <random>
 
-#include "text/substitute.h"
+#include "text/core/substitute.h"
 
 using namespace zk::text;
 

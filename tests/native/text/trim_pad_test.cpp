@@ -1,9 +1,9 @@
 #include <gtest/gtest.h>
 
 #include "fakes.h"
-#include "text/pad.h"
-#include "text/padb.h"
-#include "text/trim.h"
+#include "text/core/pad.h"
+#include "text/core/padb.h"
+#include "text/core/trim.h"
 
 using namespace zk::text;
 using zktest::FakeDbcs;

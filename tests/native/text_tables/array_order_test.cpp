@@ -8,7 +8,7 @@
 #include <random>
 #include <vector>
 
-#include "text/array_order.h"
+#include "text/core/array_order.h"
 
 namespace {
 

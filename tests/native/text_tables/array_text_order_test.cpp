@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "text/array_text_order.h"
+#include "text/core/array_text_order.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "calendar_support.h"
 
-#include "frame/host.h"
+#include "frame/win/host.h"
 
 namespace caltest {
 

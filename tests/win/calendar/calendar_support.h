@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "calendar/cal_control.h"
-#include "calendar/calendar_model.h"
+#include "calendar/win/calendar_window.h"
+#include "calendar/core/calendar_model.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"

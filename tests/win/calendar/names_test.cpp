@@ -1,6 +1,6 @@
 // The name exports, the library's string resources, and the date-time
 // checks of the property dialogs.
-#include "calendar/win_date_checks.h"
+#include "calendar/win/date_field_checks.h"
 #include "calendar_support.h"
 
 namespace {

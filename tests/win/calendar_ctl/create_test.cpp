@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "designer/block_io.h"
+#include "frame/core/block_io.h"
 
 namespace {
 

@@ -8,7 +8,7 @@
 
 #include <vector>
 
-#include "calendar/cal_control.h"
+#include "calendar/win/calendar_window.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"

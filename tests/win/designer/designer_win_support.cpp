@@ -2,7 +2,7 @@
 #include <new>
 
 #include "designer_win_test.h"
-#include "frame/host.h"
+#include "frame/win/host.h"
 
 namespace designertest {
 

@@ -9,9 +9,9 @@
 
 #include <vector>
 
-#include "designer/control_create.h"
-#include "designer/generic_control.h"
-#include "designer/prop_block.h"
+#include "frame/win/control_create.h"
+#include "frame/win/generic_control.h"
+#include "frame/win/prop_block.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"

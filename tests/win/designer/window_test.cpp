@@ -4,7 +4,7 @@
 #include <stdexcept>
 
 #include "designer_win_test.h"
-#include "frame/window.h"
+#include "frame/win/window.h"
 
 namespace {
 

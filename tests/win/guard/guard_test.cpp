@@ -6,7 +6,7 @@
 
 #include <string>
 
-#include "frame/guard.h"
+#include "frame/win/guard.h"
 #include "zkharness.h"
 #include "zkhostctl.h"
 

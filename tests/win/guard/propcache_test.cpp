@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include "frame/propcache.h"
+#include "frame/win/propcache.h"
 #include "zkharness.h"
 
 namespace {

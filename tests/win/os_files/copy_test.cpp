@@ -1,7 +1,7 @@
 // ZelFileCopy on the real file system: names, masks, contents and times,
 // the targets' marks, the space check and the failures.
 #include "files_support.h"
-#include "os/filesums.h"
+#include "os/core/filesums.h"
 
 using namespace filestest;
 

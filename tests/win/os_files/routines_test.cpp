@@ -1,8 +1,8 @@
 // The routines the file exports share with other areas, compiled into this
 // program from the library's sources (they are not exported).
 #include "files_support.h"
-#include "os/filesums.h"
-#include "os/files.h"
+#include "os/core/filesums.h"
+#include "os/win/files.h"
 
 using namespace filestest;
 

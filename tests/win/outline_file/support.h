@@ -12,8 +12,8 @@
 #include <string>
 #include <vector>
 
-#include "outline/lbx.h"
-#include "outline/pic.h"
+#include "outline/core/lbx.h"
+#include "outline/win/pic.h"
 #include "zkharness.h"
 #include "zkhostctl.h"
 #include "zklib.h"

@@ -9,7 +9,7 @@
 #include <string>
 #include <vector>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
 

@@ -1,6 +1,6 @@
 // Rows with colours, pictures and fonts; enabling and disabling.
 #include "fixture.h"
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 
 namespace {
 

@@ -1,6 +1,6 @@
 #include "bench.h"
 
-#include "frame/propcache.h"
+#include "frame/win/propcache.h"
 
 namespace painttest {
 

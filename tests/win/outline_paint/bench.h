@@ -10,8 +10,8 @@
 #include <string>
 #include <vector>
 
-#include "outline/lbx.h"
-#include "outline/pic.h"
+#include "outline/core/lbx.h"
+#include "outline/win/pic.h"
 #include "outline/win/lbx_paint_entry.h"
 #include "zkharness.h"
 

@@ -6,7 +6,7 @@
 #include <algorithm>
 #include <vector>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
 

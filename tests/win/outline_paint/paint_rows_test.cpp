@@ -1,7 +1,7 @@
 // Rows of a flat list: colours by state, the picture, the frames, tabs,
 // the focus frames and the horizontal extent.
 #include "bench.h"
-#include "frame/propcache.h"
+#include "frame/win/propcache.h"
 
 namespace painttest {
 namespace {

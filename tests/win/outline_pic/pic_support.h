@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "outline/pic.h"
+#include "outline/win/pic.h"
 #include "zklib.h"
 
 namespace pictest {

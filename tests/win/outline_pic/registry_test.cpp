@@ -4,8 +4,8 @@
 #include <gtest/gtest.h>
 
 #include "frame/core/livehandles.h"
-#include "frame/guard.h"
-#include "outline/pic.h"
+#include "frame/win/guard.h"
+#include "outline/win/pic.h"
 #include "zkt_window.h"
 
 namespace {

@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 
 namespace treetest {
 

@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "consistency.h"
-#include "outline/lbx.h"
+#include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
 
