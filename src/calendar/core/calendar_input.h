@@ -2,7 +2,7 @@
 // and month buttons, the seven timers, cancel mode and losing the focus.
 // What it needs of its window (timers, capture, focus, posting, painting
 // parts at once, the host's field validation, key states) comes through
-// CalControlEffects, so that the machine runs without one.
+// the control's effects, so that the machine runs without one.
 #pragma once
 
 #include <cstdint>
@@ -19,7 +19,6 @@ inline constexpr uint16_t CALF_LeftDown = 0x0008;  // left month button pressed
 inline constexpr uint16_t CALF_RightDown = 0x0010; // right month button pressed
 inline constexpr uint16_t CALF_GridDown = 0x0020;  // grid pressed
 inline constexpr uint16_t kPressFlags = CALF_LeftDown | CALF_RightDown | CALF_GridDown;
-inline constexpr uint16_t kStateDisabled = 0x0001;
 
 // Timers of the control's own window.
 enum CalTimer : uint32_t {
@@ -33,49 +32,9 @@ enum CalTimer : uint32_t {
 };
 inline constexpr uint32_t kScrollPeriod = 75, kCatchUpPeriod = 100, kRepeatPeriod = 250;
 
-// Virtual-key codes and mouse-key bits of the platform.
-inline constexpr uint32_t kKeyReturn = 0x0D, kKeyEscape = 0x1B, kKeySpace = 0x20, kKeyPrior = 0x21,
-                          kKeyNext = 0x22, kKeyEnd = 0x23, kKeyHome = 0x24, kKeyLeft = 0x25, kKeyUp = 0x26,
-                          kKeyRight = 0x27, kKeyDown = 0x28, kKeyInsert = 0x2D, kKeyDelete = 0x2E;
-inline constexpr uint32_t kMouseShift = 0x0004, kMouseControl = 0x0008;
-// Messages posted to the control's own window for the application.
-inline constexpr uint32_t kHostMsgSelect = 0x2006, kHostMsgDoubleClick = 0x2009;
-
-class CalControlEffects {
-public:
-    // False when the platform has no timer to give.
-    virtual bool StartTimer(uint32_t id, uint32_t period) = 0;
-    virtual void StopTimer(uint32_t id) = 0;
-    virtual void TakeCapture() = 0;
-    virtual void DropCapture() = 0;
-    virtual bool HasFocus() const = 0;
-    virtual void TakeFocus() = 0;
-    // HostFieldValidate(window, flag, 0): 0 keeps the focus where it is.
-    virtual int32_t FieldValidate(int32_t flag) = 0;
-    // Posted to the control's own window, lParam 0.
-    virtual void PostToSelf(uint32_t message, int32_t wParam) = 0;
-    // ControlNotify: WM_COMMAND posted to the notify window.
-    virtual void NotifyParent(int32_t code) = 0;
-    // A month button invalidated and updated.
-    virtual void RefreshButton(bool left) = 0;
-    // The caption painted at once through a client context.
-    virtual void RepaintCaption() = 0;
-    // The whole window invalidated without erasing.
-    virtual void InvalidateWindow() = 0;
-    // A cell invalidated; with update also painted at once.
-    virtual void InvalidateCell(int32_t cell, bool update) = 0;
-    virtual void HideWindow() = 0;
-    // Modifier keys as GetKeyState reads them now.
-    virtual bool CtrlDown() const = 0;
-    virtual bool ShiftDown() const = 0;
-
-protected:
-    ~CalControlEffects() = default;
-};
-
 class CalInput {
 public:
-    CalInput(CCalendar &model, const CalLayout &layout, CalControlEffects &effects, uint16_t &state)
+    CalInput(CalendarModel &model, const CalLayout &layout, ControlEffects &effects, uint16_t &state)
         : model_(model), layout_(layout), fx_(effects), state_(state) {}
 
     // WM_KEYDOWN and WM_CHAR: false when the default procedure is to have
@@ -108,10 +67,14 @@ private:
     void DragOutsideGrid(int32_t y);
     void StartOrRun(uint32_t id, uint32_t period);
     void StopAllTimers();
+    // A month button painted again at once.
+    void RefreshButton(bool left);
+    // A cell marked for painting; with update also painted at once.
+    void RefreshCell(int32_t cell, bool update);
 
-    CCalendar &model_;
+    CalendarModel &model_;
     const CalLayout &layout_;
-    CalControlEffects &fx_;
+    ControlEffects &fx_;
     uint16_t &state_;
     uint8_t cancelPending_ = 0;
 };

@@ -7,7 +7,7 @@ namespace zk::cal {
 
 namespace {
 
-CDateTime MonthEnd(const CCalendar &model, bool last) {
+CDateTime MonthEnd(const CalendarModel &model, bool last) {
     const int32_t year = model.DisplayYear(), month = model.DisplayMonth();
     return CDateTime(year, month, last ? CDateTime::DaysInMonth(year, month) : 1);
 }
@@ -17,8 +17,8 @@ CDateTime MonthEnd(const CCalendar &model, bool last) {
 bool CalInput::KeyDown(uint32_t key) {
     if (!FlagOn(model_.Flags().enableKeyboard))
         return false;
-    const bool ctrl = fx_.CtrlDown();
-    const bool shift = fx_.ShiftDown();
+    const bool ctrl = fx_.KeyDown(kKeyControl);
+    const bool shift = fx_.KeyDown(kKeyShift);
     const bool multiple = FlagOn(model_.Flags().multipleSelection);
     switch (key) {
     case kKeyReturn:
@@ -26,7 +26,7 @@ bool CalInput::KeyDown(uint32_t key) {
         // Only a pop-up closes: as a release at the corner, then the request.
         if (PopUp()) {
             LButtonUp(0, 0, 0);
-            fx_.NotifyParent(CALN_CloseUp);
+            fx_.Notify(CALN_CloseUp);
         }
         return true;
     case kKeySpace:
@@ -48,7 +48,7 @@ bool CalInput::KeyDown(uint32_t key) {
             model_.SetFocusDate(YearStepDate(model_, forward), 0, 1);
         else
             StepMonth(model_, forward, 1);
-        fx_.RepaintCaption();
+        fx_.PaintNow(layout_.Caption());
         return true;
     }
     case kKeyHome:

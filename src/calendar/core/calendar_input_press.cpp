@@ -9,6 +9,17 @@
 
 namespace zk::cal {
 
+void CalInput::RefreshButton(bool left) {
+    fx_.Invalidate(left ? layout_.LeftButton() : layout_.RightButton(), false);
+    fx_.Update();
+}
+
+void CalInput::RefreshCell(int32_t cell, bool update) {
+    fx_.Invalidate(layout_.CellRect(cell), false);
+    if (update)
+        fx_.Update();
+}
+
 namespace {
 
 constexpr uint32_t kAllTimers[] = {kTimerScrollDown, kTimerScrollUp, kTimerCatchUp, kTimerMonthOn,
@@ -30,7 +41,7 @@ void CalInput::StartOrRun(uint32_t id, uint32_t period) {
 void CalInput::PressButton(bool left, bool ctrl) {
     state_ = static_cast<uint16_t>((state_ & ~(CALF_LeftDown | CALF_RightDown)) |
                                    (left ? CALF_LeftDown : CALF_RightDown));
-    fx_.RefreshButton(left);
+    RefreshButton(left);
     if (!PopUp())
         fx_.TakeCapture();
     const bool forward = !left;
@@ -44,7 +55,7 @@ void CalInput::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
     if (PopUp() && !layout_.Client().Contains(x, y)) {
         // A press beside the pop-up asks to close it; the press still counts.
         fx_.DropCapture();
-        fx_.NotifyParent(CALN_CloseUp);
+        fx_.Notify(CALN_CloseUp);
     }
     if (!fx_.HasFocus()) {
         if (fx_.FieldValidate(1) == 0)
@@ -77,7 +88,7 @@ void CalInput::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
 void CalInput::LButtonDblClk(int32_t x, int32_t y, uint32_t keys) {
     LButtonDown(x, y, keys);
     if (layout_.Grid().Contains(x, y))
-        fx_.PostToSelf(kHostMsgDoubleClick, model_.FocusCell());
+        fx_.PostToSelf(kHostMsgDoubleClick, model_.FocusCell(), 0);
 }
 
 void CalInput::DragOutsideGrid(int32_t y) {
@@ -122,7 +133,7 @@ void CalInput::MouseMove(int32_t x, int32_t y, uint32_t) {
         fx_.StopTimer(left ? kTimerYearBack : kTimerYearOn);
     }
     if (state_ != before)
-        fx_.RefreshButton(left);
+        RefreshButton(left);
 }
 
 void CalInput::LButtonUp(int32_t, int32_t, uint32_t) {
@@ -133,13 +144,13 @@ void CalInput::LButtonUp(int32_t, int32_t, uint32_t) {
         if (state_ & (CALF_LeftDown | CALF_RightDown)) {
             const bool left = (state_ & CALF_LeftDown) != 0;
             state_ &= static_cast<uint16_t>(~(CALF_Outside | kPressFlags));
-            fx_.RefreshButton(left);
-            fx_.RepaintCaption();
+            RefreshButton(left);
+            fx_.PaintNow(layout_.Caption());
             StartOrRun(kTimerCatchUp, kCatchUpPeriod);
         } else {
-            fx_.PostToSelf(kHostMsgSelect, model_.FocusCell());
+            fx_.PostToSelf(kHostMsgSelect, model_.FocusCell(), 0);
             if (PopUp())
-                fx_.NotifyParent(CALN_CloseUp);
+                fx_.Notify(CALN_CloseUp);
         }
     }
     state_ &= static_cast<uint16_t>(~(CALF_Outside | kPressFlags));
@@ -147,14 +158,14 @@ void CalInput::LButtonUp(int32_t, int32_t, uint32_t) {
 
 void CalInput::ButtonTick(bool forward, bool byYear) {
     ButtonStep(model_, forward, byYear);
-    fx_.RepaintCaption();
+    fx_.PaintNow(layout_.Caption());
 }
 
 bool CalInput::Timer(uint32_t id) {
     if (cancelPending_) {
         cancelPending_ = 0;
         CancelMode();
-        fx_.InvalidateWindow();
+        fx_.InvalidateAll(false);
         return true;
     }
     switch (id) {
@@ -166,7 +177,7 @@ bool CalInput::Timer(uint32_t id) {
         KeyDown(kKeyUp);
         return true;
     case kTimerCatchUp:
-        fx_.InvalidateWindow();
+        fx_.InvalidateAll(false);
         fx_.StopTimer(kTimerCatchUp);
         return true;
     case kTimerMonthOn:
@@ -194,19 +205,19 @@ void CalInput::CancelMode() {
 
 void CalInput::FocusGained() {
     if (FlagOn(model_.Flags().showFocus))
-        fx_.InvalidateCell(model_.FocusCell(), true);
+        RefreshCell(model_.FocusCell(), true);
 }
 
 void CalInput::FocusLost() {
     cancelPending_ = 1;
     if (!PopUp()) {
-        fx_.InvalidateCell(model_.FocusCell(), false);
+        RefreshCell(model_.FocusCell(), false);
     } else {
         fx_.DropCapture();
-        fx_.HideWindow();
-        fx_.NotifyParent(CALN_CloseUp);
+        fx_.Hide();
+        fx_.Notify(CALN_CloseUp);
     }
-    fx_.NotifyParent(CALN_KillFocus);
+    fx_.Notify(CALN_KillFocus);
 }
 
 } // namespace zk::cal

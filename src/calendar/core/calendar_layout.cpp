@@ -4,21 +4,24 @@
 
 namespace zk::cal {
 
-bool CalRect::Intersects(const CalRect &other) const { return !Intersect(other).Empty(); }
-
-CalRect CalRect::Intersect(const CalRect &other) const {
-    CalRect r{std::max(left, other.left), std::max(top, other.top), std::min(right, other.right),
-              std::min(bottom, other.bottom)};
-    return r.Empty() ? CalRect{} : r;
-}
-
-CalRect CalRect::Union(const CalRect &other) const {
-    if (Empty())
-        return other;
-    if (other.Empty())
-        return *this;
-    return {std::min(left, other.left), std::min(top, other.top), std::max(right, other.right),
-            std::max(bottom, other.bottom)};
+Rect CalLayout::AreaRect(CalArea area) const {
+    switch (area) {
+    case CalArea::Window:
+        return client_;
+    case CalArea::Grid:
+        return grid_;
+    case CalArea::Caption:
+        return caption_;
+    case CalArea::WeekdayHeader:
+        return weekdayHeader_;
+    case CalArea::CaptionAndHeader:
+        return caption_.Union(weekdayHeader_);
+    case CalArea::Buttons:
+        return leftButton_.Union(rightButton_);
+    case CalArea::Body:
+        return body_;
+    }
+    return {};
 }
 
 void CalLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int32_t rowHeight) {
@@ -45,11 +48,11 @@ void CalLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int3
     body_ = {client_.left, grid_.top, client_.right, client_.bottom};
 }
 
-CalRect CalLayout::WeekdayBand() const {
+Rect CalLayout::WeekdayBand() const {
     return {client_.left, weekdayHeader_.top, client_.right, weekdayHeader_.bottom};
 }
 
-CalRect CalLayout::CellRect(int32_t cell) const {
+Rect CalLayout::CellRect(int32_t cell) const {
     if (cell < 0 || cell >= 42)
         return {};
     const int32_t left = grid_.left + (cell % 7) * (cellWidth_ + 1);
@@ -57,8 +60,8 @@ CalRect CalLayout::CellRect(int32_t cell) const {
     return {left, top, left + cellWidth_, top + cellHeight_};
 }
 
-CellSpan CalLayout::CellRange(const CalRect &area) const {
-    const CalRect r = area.Intersect(grid_);
+CellSpan CalLayout::CellRange(const Rect &area) const {
+    const Rect r = area.Intersect(grid_);
     if (r.Empty() || cellWidth_ <= 0 || cellHeight_ <= 0)
         return {};
     const int32_t dx = cellWidth_ + 1, dy = cellHeight_ + 1;
@@ -84,18 +87,18 @@ int32_t CalLayout::HitTestCell(int32_t x, int32_t y, int32_t focusCell, bool ext
     return result;
 }
 
-std::array<CalPoint, 3> ArrowCorners(const CalRect &button, bool leftButton, bool pressed, bool alternate) {
+std::array<Point, 3> ArrowCorners(const Rect &button, bool leftButton, bool pressed, bool alternate) {
     const int32_t p = pressed ? 1 : 0;
     const int32_t l = leftButton ? 1 : 0;
     const int32_t x = button.left, y = button.top;
     if (!alternate) {
         const int32_t a = (button.Height() - 4) / 3, b = button.Width() / 2;
-        const CalPoint first{x - a + b + p, y + (2 - l) * a + 2 + p};
-        return {first, CalPoint{x + b + p, y + (l + 1) * a + 2 + p}, CalPoint{x + a + b + p, first.y}};
+        const Point first{x - a + b + p, y + (2 - l) * a + 2 + p};
+        return {first, Point{x + b + p, y + (l + 1) * a + 2 + p}, Point{x + a + b + p, first.y}};
     }
     const int32_t a = (button.Width() - 4) / 3, b = button.Height() / 2;
-    const CalPoint second{x + (l + 1) * a + 2 + p, y + a + b + p};
-    return {CalPoint{x + (2 - l) * a + 2 + p, y + b + p}, second, CalPoint{second.x, y - a + b + p}};
+    const Point second{x + (l + 1) * a + 2 + p, y + a + b + p};
+    return {Point{x + (2 - l) * a + 2 + p, y + b + p}, second, Point{second.x, y - a + b + p}};
 }
 
 } // namespace zk::cal

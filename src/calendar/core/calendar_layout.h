@@ -8,25 +8,20 @@
 #include <array>
 #include <cstdint>
 
+#include "frame/core/geometry.h"
+
 namespace zk::cal {
 
-// Half-open like the platform's rectangles: right and bottom are outside.
-struct CalRect {
-    int32_t left = 0, top = 0, right = 0, bottom = 0;
-
-    bool Empty() const { return right <= left || bottom <= top; }
-    bool Contains(int32_t x, int32_t y) const { return x >= left && x < right && y >= top && y < bottom; }
-    bool Intersects(const CalRect &other) const;
-    CalRect Intersect(const CalRect &other) const;
-    CalRect Union(const CalRect &other) const;
-    int32_t Width() const { return right - left; }
-    int32_t Height() const { return bottom - top; }
-    bool operator==(const CalRect &) const = default;
-};
-
-struct CalPoint {
-    int32_t x = 0, y = 0;
-    bool operator==(const CalPoint &) const = default;
+// Which parts of the control an invalidation names; the layout knows where
+// they lie.
+enum class CalArea {
+    Window,          // the whole client area
+    Grid,            // the 42 cells
+    Caption,         // month and year
+    WeekdayHeader,   // the weekday names
+    CaptionAndHeader,
+    Buttons,         // both month buttons
+    Body,            // client width, from the grid's top down
 };
 
 // First and last cell a rectangle touches; first > last when none.
@@ -45,22 +40,22 @@ public:
     int32_t CellHeight() const { return cellHeight_; }
     // The month buttons' width: always odd, so the arrow has a centre pixel.
     int32_t ButtonWidth() const { return cellHeight_ % 2 == 0 ? cellHeight_ + 1 : cellHeight_; }
-    const CalRect &Client() const { return client_; }
-    const CalRect &Frame() const { return frame_; }
-    const CalRect &LeftButton() const { return leftButton_; }
-    const CalRect &RightButton() const { return rightButton_; }
-    const CalRect &Caption() const { return caption_; }
-    const CalRect &WeekdayHeader() const { return weekdayHeader_; }
-    const CalRect &Grid() const { return grid_; }
-    const CalRect &Body() const { return body_; }
+    const Rect &Client() const { return client_; }
+    const Rect &Frame() const { return frame_; }
+    const Rect &LeftButton() const { return leftButton_; }
+    const Rect &RightButton() const { return rightButton_; }
+    const Rect &Caption() const { return caption_; }
+    const Rect &WeekdayHeader() const { return weekdayHeader_; }
+    const Rect &Grid() const { return grid_; }
+    const Rect &Body() const { return body_; }
     // The weekday band: the header's height over the whole client width.
-    CalRect WeekdayBand() const;
+    Rect WeekdayBand() const;
 
     // Cell 0 to 41; -1 (or any cell outside the grid) gives an empty rectangle.
-    CalRect CellRect(int32_t cell) const;
+    Rect CellRect(int32_t cell) const;
     // The cells from the first to the last that the rectangle touches
     // inside the grid; painting walks all of them.
-    CellSpan CellRange(const CalRect &area) const;
+    CellSpan CellRange(const Rect &area) const;
     // The cell under a point, starting from the present focus cell: a point
     // in a gap between cells (or off the grid) answers the focus cell. An
     // extra cell answers -1 unless extra cells may be picked.
@@ -72,18 +67,22 @@ public:
     int32_t GridlineX(int32_t i) const { return grid_.left + i * (cellWidth_ + 1) - 1; }
     int32_t GridlineY(int32_t j) const { return body_.top + j * (cellHeight_ + 1) - 1; }
 
+    // The rectangle of an area; Window is the client area, Buttons the
+    // two buttons together.
+    Rect AreaRect(CalArea area) const;
+
     // The window size that fits the month exactly.
     int32_t FitWidth() const { return 7 * cellWidth_ + 8; }
     int32_t FitHeight() const { return 8 * cellHeight_ + 9; }
 
 private:
     int32_t cellWidth_ = 0, cellHeight_ = 0;
-    CalRect client_, frame_, leftButton_, rightButton_, caption_, weekdayHeader_, grid_, body_;
+    Rect client_, frame_, leftButton_, rightButton_, caption_, weekdayHeader_, grid_, body_;
 };
 
 // The three corners of a month button's arrow. Plain buttons point down
 // (left) and up (right); alternate buttons point left and right. A pressed
 // button's arrow sits one pixel lower and to the right.
-std::array<CalPoint, 3> ArrowCorners(const CalRect &button, bool leftButton, bool pressed, bool alternate);
+std::array<Point, 3> ArrowCorners(const Rect &button, bool leftButton, bool pressed, bool alternate);
 
 } // namespace zk::cal

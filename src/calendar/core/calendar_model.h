@@ -1,17 +1,20 @@
 // The calendar as a model: a month on a grid of 42 cells, a focus date, a
 // set of marked dates and a set of rules that colour dates as special, the
 // colour roles and the style flags. It needs no window; the window of the
-// control attaches itself and from then on receives the model's
-// invalidations and notifications.
+// control attaches its effects and layout and from then on receives the
+// model's invalidations and notifications.
 #pragma once
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <unordered_map>
 
-#include "calendar/core/calendar_view.h"
+#include "calendar/core/calendar_layout.h"
 #include "calendar/core/datetime.h"
 #include "calendar/core/special_rule.h"
+#include "frame/core/effects.h"
+#include "frame/core/roles.h"
 #include "zklib/calendar.h"
 
 namespace zk::cal {
@@ -42,15 +45,25 @@ struct CalFlags {
 using MarkStore = std::unordered_map<std::u16string, CDateTime>;
 using RuleStore = std::unordered_map<std::string, SSpecialRule>;
 
-class CCalendar {
+class CalendarModel {
 public:
-    CCalendar();
-    CCalendar(const CCalendar &) = delete;
-    CCalendar &operator=(const CCalendar &) = delete;
+    CalendarModel();
+    CalendarModel(const CalendarModel &) = delete;
+    CalendarModel &operator=(const CalendarModel &) = delete;
 
-    // The window that shows the model, or null; the model does not own it.
-    void AttachWindow(CalendarWindow *window) { window_ = window; }
-    bool Created() const { return window_ && window_->IsCreated(); }
+    // The window that shows the model, as its effects and the layout that
+    // tells where each area lies; null for none. The model owns neither.
+    void AttachView(ControlEffects *effects, const CalLayout *layout) {
+        effects_ = effects;
+        layout_ = layout;
+    }
+    bool Created() const { return effects_ && effects_->IsCreated(); }
+    // Told of every style flag assigned, created or not: the control frame
+    // keeps its own copy of the auto-size, pop-up and third to sixth flags,
+    // which its window procedure reads.
+    void OnFlagAssigned(std::function<void(uint32_t bit, int32_t value)> listener) {
+        flagAssigned_ = std::move(listener);
+    }
 
     // ---- dates and cells ----------------------------------------------------
     CDateTime GetFocusDate() const { return focusDate_; }
@@ -98,13 +111,14 @@ public:
     int ClearSpecials(int updateNow);
     const RuleStore &Rules() const { return rules_; }
 
-    // ---- colour roles: 0 to 15, another role raises InvalidArgError ---------
+    // ---- colour roles: 0 to 15, another role raises InvalidArgException ---------
     uint32_t GetRoleColor(int32_t role) const;
-    // The explicit colour the role held before (0 until one was set).
+    // The colour in force before, as GetRoleColor gave it.
     uint32_t SetRoleColor(int32_t role, uint32_t color, int redraw);
     int IsDerivedRoleColor(int32_t role) const;
     // The system colour index of each role, 0xFFFF for a derived one.
     static uint16_t RoleTableEntry(int32_t role);
+    static const std::array<uint16_t, kRoleCount> &RoleTable();
 
     // ---- style --------------------------------------------------------------
     const CalFlags &Flags() const { return flags_; }
@@ -130,19 +144,20 @@ private:
     void MoveFocusIntoMonth();
 
     CalFlags flags_;
-    int32_t useDefaultColor_[kRoleCount];
+    RoleColors<kRoleCount> roles_;
     CDateTime anchorDate_;
     CDateTime focusDate_;
     MarkStore marks_;
     RuleStore rules_;
-    uint32_t roleColors_[kRoleCount] = {};
     int32_t month_ = 0;
     int32_t year_ = 0;
     int32_t focusCell_ = -1;
     int32_t firstCell_ = 0;
     int32_t lastCell_ = -1;
     int32_t weekStart_ = 1;
-    CalendarWindow *window_ = nullptr;
+    ControlEffects *effects_ = nullptr;
+    const CalLayout *layout_ = nullptr;
+    std::function<void(uint32_t, int32_t)> flagAssigned_;
 };
 
 } // namespace zk::cal

@@ -15,34 +15,31 @@ int32_t WeekdaySteps(int64_t from, int64_t to) {
 
 } // namespace
 
-CCalendar::CCalendar() {
-    for (int32_t &flag : useDefaultColor_)
-        flag = 1;
-}
+CalendarModel::CalendarModel() : roles_(RoleTable()) {}
 
-CDateTime CCalendar::SwapAnchorDate(const CDateTime &date) {
+CDateTime CalendarModel::SwapAnchorDate(const CDateTime &date) {
     CDateTime old = anchorDate_;
     anchorDate_ = date;
     return old;
 }
 
-int32_t CCalendar::ColumnWeekday(int32_t column) const {
+int32_t CalendarModel::ColumnWeekday(int32_t column) const {
     return WeekdaySteps(int64_t{1} - column, weekStart_) + 1;
 }
 
-void CCalendar::RecalcCells(int32_t year, int32_t month) {
+void CalendarModel::RecalcCells(int32_t year, int32_t month) {
     const int32_t first = CDateTime(year, month, 1, 0, 0, 0).GetWeekday();
     firstCell_ = WeekdaySteps(weekStart_, first);
     lastCell_ = CDateTime::DaysInMonth(year, month) + firstCell_ - 1;
 }
 
-CDateTime CCalendar::CellToDate(int32_t cell) const {
+CDateTime CalendarModel::CellToDate(int32_t cell) const {
     if (month_ == 0)
         return CDateTime(HostDateTime{});
     return CDateTime(year_, month_, 1, 0, 0, 0) + CDateTimeSpan(cell - firstCell_, 0, 0, 0);
 }
 
-int32_t CCalendar::DateToCell(const CDateTime &date) const {
+int32_t CalendarModel::DateToCell(const CDateTime &date) const {
     if (month_ == 0)
         return -1;
     const int64_t cell = int64_t{(date - CDateTime(year_, month_, 1, 0, 0, 0)).GetDays()} + firstCell_;
@@ -51,7 +48,7 @@ int32_t CCalendar::DateToCell(const CDateTime &date) const {
     return inRange ? static_cast<int32_t>(cell) : -1;
 }
 
-int CCalendar::IsExtraCell(int32_t cell, int32_t first, int32_t last) const {
+int CalendarModel::IsExtraCell(int32_t cell, int32_t first, int32_t last) const {
     if (first == -1 || last == -1) {
         first = firstCell_;
         last = lastCell_;
@@ -59,7 +56,7 @@ int CCalendar::IsExtraCell(int32_t cell, int32_t first, int32_t last) const {
     return cell < first || cell > last ? 1 : 0;
 }
 
-void CCalendar::SetDisplayMonth(int32_t year, int32_t month, int redraw) {
+void CalendarModel::SetDisplayMonth(int32_t year, int32_t month, int redraw) {
     if (year == year_ && month == month_)
         return;
     year_ = year;
@@ -75,35 +72,39 @@ void CCalendar::SetDisplayMonth(int32_t year, int32_t month, int redraw) {
     Notify(CALN_MonthChange);
 }
 
-int32_t CCalendar::SetWeekStart(int32_t weekday) {
+int32_t CalendarModel::SetWeekStart(int32_t weekday) {
     const int32_t old = weekStart_;
     weekStart_ = weekday;
     // The focus cell keeps its number until the focus next moves.
     if (Created()) {
         RecalcCells(year_, month_);
-        window_->RedrawAll();
+        effects_->Redraw();
     }
     return old;
 }
 
-void CCalendar::Invalidate(CalArea area, bool erase) {
+void CalendarModel::Invalidate(CalArea area, bool erase) {
+    if (!Created())
+        return;
+    if (area == CalArea::Window)
+        effects_->InvalidateAll(erase);
+    else if (layout_)
+        effects_->Invalidate(layout_->AreaRect(area), erase);
+}
+
+void CalendarModel::InvalidateCell(int32_t cell) {
+    if (Created() && layout_ && cell >= 0 && cell < kCellCount)
+        effects_->Invalidate(layout_->CellRect(cell), false);
+}
+
+void CalendarModel::UpdateNow() {
     if (Created())
-        window_->Invalidate(area, erase);
+        effects_->Update();
 }
 
-void CCalendar::InvalidateCell(int32_t cell) {
-    if (Created() && cell >= 0 && cell < kCellCount)
-        window_->InvalidateCell(cell);
-}
-
-void CCalendar::UpdateNow() {
-    if (Created())
-        window_->UpdateNow();
-}
-
-void CCalendar::Notify(int32_t code) {
-    if (window_)
-        window_->Notify(code);
+void CalendarModel::Notify(int32_t code) {
+    if (effects_)
+        effects_->Notify(code);
 }
 
 } // namespace zk::cal

@@ -4,7 +4,7 @@
 
 namespace zk::cal {
 
-int CCalendar::SetFocusDate(const CDateTime &date, int updateNow, int invalidate) {
+int CalendarModel::SetFocusDate(const CDateTime &date, int updateNow, int invalidate) {
     // The time of day falls away: the grid's dates are midnights.
     const CDateTime day(date.GetYear(), date.GetMonth(), date.GetDay(), 0, 0, 0);
     const bool single = !(flags_.multipleSelection > 0);
@@ -32,7 +32,7 @@ int CCalendar::SetFocusDate(const CDateTime &date, int updateNow, int invalidate
     return 1;
 }
 
-void CCalendar::SetFocusCell(int32_t cell, int updateNow) {
+void CalendarModel::SetFocusCell(int32_t cell, int updateNow) {
     if (cell < 0 || cell >= kCellCount || cell == focusCell_)
         return;
     const CDateTime oldDate = focusDate_;
@@ -58,7 +58,7 @@ void CCalendar::SetFocusCell(int32_t cell, int updateNow) {
     }
 }
 
-int CCalendar::IsSelectableCell(int32_t cell) const {
+int CalendarModel::IsSelectableCell(int32_t cell) const {
     if (!(flags_.selectExtra > 0) && IsExtraCell(cell, -1, -1))
         return 0;
     if (flags_.selectSpecial > 0)

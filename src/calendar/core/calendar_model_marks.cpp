@@ -6,13 +6,13 @@
 
 namespace zk::cal {
 
-int CCalendar::IsMarked(const CDateTime &date) const {
+int CalendarModel::IsMarked(const CDateTime &date) const {
     if (marks_.empty() || date.IsNull())
         return 0;
     return marks_.count(date.KeyText()) ? 1 : 0;
 }
 
-int CCalendar::MarkDate(const CDateTime &date, int add, int updateNow, int invalidate) {
+int CalendarModel::MarkDate(const CDateTime &date, int add, int updateNow, int invalidate) {
     if ((add != 0 && add != 1) || date.IsNull())
         return 0;
     try {
@@ -39,7 +39,7 @@ int CCalendar::MarkDate(const CDateTime &date, int add, int updateNow, int inval
     return 1;
 }
 
-int CCalendar::MarkRange(const CDateTime &dateA, const CDateTime &dateB, int add, int updateNow) {
+int CalendarModel::MarkRange(const CDateTime &dateA, const CDateTime &dateB, int add, int updateNow) {
     if (!dateA.IsNull() && !dateB.IsNull()) {
         std::u16string low = dateA.KeyText(), high = dateB.KeyText();
         CDateTime day = dateA;
@@ -65,7 +65,7 @@ int CCalendar::MarkRange(const CDateTime &dateA, const CDateTime &dateB, int add
     return 1;
 }
 
-int CCalendar::ClearMarks(int updateNow) {
+int CalendarModel::ClearMarks(int updateNow) {
     const bool had = !marks_.empty();
     marks_.clear();
     if (had && Created()) {
@@ -76,7 +76,7 @@ int CCalendar::ClearMarks(int updateNow) {
     return 1;
 }
 
-void CCalendar::UnmarkExtraCells() {
+void CalendarModel::UnmarkExtraCells() {
     for (int32_t cell = 0; cell < kCellCount; ++cell) {
         if (cell >= firstCell_ && cell <= lastCell_)
             continue;
@@ -85,7 +85,7 @@ void CCalendar::UnmarkExtraCells() {
     }
 }
 
-void CCalendar::UnmarkSpecialCells() {
+void CalendarModel::UnmarkSpecialCells() {
     for (int32_t cell = firstCell_ < 0 ? 0 : firstCell_; cell <= lastCell_ && cell < kCellCount; ++cell) {
         if (GetCellSpecial(cell, nullptr, nullptr, -1, -1, nullptr) == 1 && MarkDate(CellToDate(cell), 0, 0, 1) == 1)
             InvalidateCell(cell);

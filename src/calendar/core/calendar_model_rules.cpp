@@ -7,7 +7,7 @@
 
 namespace zk::cal {
 
-int CCalendar::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backColor, int32_t, int32_t,
+int CalendarModel::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backColor, int32_t, int32_t,
                               const CDateTime *date) const {
     if (textColor)
         *textColor = 0;
@@ -23,7 +23,7 @@ int CCalendar::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backC
     return MatchSpecial(SSpecialRule(0, day, weekday, week, 0, 0), textColor, backColor);
 }
 
-int CCalendar::GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t weekday, uint32_t *textColor,
+int CalendarModel::GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t weekday, uint32_t *textColor,
                              uint32_t *backColor) const {
     if (textColor)
         *textColor = 0;
@@ -40,7 +40,7 @@ int CCalendar::GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t w
     return MatchSpecial(probe, textColor, backColor);
 }
 
-int CCalendar::MatchSpecial(const SSpecialRule &rule, uint32_t *textColor, uint32_t *backColor) const {
+int CalendarModel::MatchSpecial(const SSpecialRule &rule, uint32_t *textColor, uint32_t *backColor) const {
     if (textColor)
         *textColor = 0;
     if (backColor)
@@ -66,7 +66,7 @@ int CCalendar::MatchSpecial(const SSpecialRule &rule, uint32_t *textColor, uint3
     return 0;
 }
 
-int CCalendar::SetSpecialRule(const SSpecialRule &rule, int add) {
+int CalendarModel::SetSpecialRule(const SSpecialRule &rule, int add) {
     if (add != 0 && add != 1)
         return 0;
     try {
@@ -90,7 +90,7 @@ int CCalendar::SetSpecialRule(const SSpecialRule &rule, int add) {
     return 1;
 }
 
-int CCalendar::ClearSpecials(int updateNow) {
+int CalendarModel::ClearSpecials(int updateNow) {
     const bool had = !rules_.empty();
     rules_.clear();
     if (had && Created()) {

@@ -18,7 +18,7 @@ bool On(int32_t flag) { return flag > 0; }
 
 } // namespace
 
-uint32_t CCalendar::GetStyle() const {
+uint32_t CalendarModel::GetStyle() const {
     const CalFlags &f = flags_;
     uint32_t bits = 0;
     if (f.autoSize != 0)
@@ -46,7 +46,7 @@ uint32_t CCalendar::GetStyle() const {
     return bits;
 }
 
-uint32_t CCalendar::SetStyle(uint32_t mask, int32_t value) {
+uint32_t CalendarModel::SetStyle(uint32_t mask, int32_t value) {
     const uint32_t old = GetStyle();
     for (uint32_t bit : kAssignOrder)
         if (mask & bit)
@@ -54,7 +54,7 @@ uint32_t CCalendar::SetStyle(uint32_t mask, int32_t value) {
     return old;
 }
 
-void CCalendar::AssignStyleFlag(uint32_t bit, int32_t value) {
+void CalendarModel::AssignStyleFlag(uint32_t bit, int32_t value) {
     CalFlags &f = flags_;
     const bool created = Created();
     switch (bit) {
@@ -125,25 +125,25 @@ void CCalendar::AssignStyleFlag(uint32_t bit, int32_t value) {
     default: // not a style bit: ignored
         return;
     }
-    if (window_)
-        window_->FlagAssigned(bit, value);
+    if (flagAssigned_)
+        flagAssigned_(bit, value);
 }
 
-void CCalendar::MoveFocusIntoMonth() {
+void CalendarModel::MoveFocusIntoMonth() {
     if (focusCell_ < firstCell_)
         SetFocusCell(firstCell_, 0);
     else if (focusCell_ > lastCell_)
         SetFocusCell(lastCell_, 0);
 }
 
-void CCalendar::MonthNamesChanged() {
+void CalendarModel::MonthNamesChanged() {
     if (Created()) {
         Invalidate(CalArea::Caption);
         UpdateNow();
     }
 }
 
-void CCalendar::WeekdayNamesChanged() {
+void CalendarModel::WeekdayNamesChanged() {
     if (Created()) {
         Invalidate(CalArea::WeekdayHeader);
         UpdateNow();

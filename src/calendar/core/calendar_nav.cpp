@@ -7,7 +7,7 @@ namespace zk::cal {
 
 namespace {
 
-bool ShowExtra(const CCalendar &model) { return FlagOn(model.Flags().showExtra); }
+bool ShowExtra(const CalendarModel &model) { return FlagOn(model.Flags().showExtra); }
 
 void PreviousMonth(int32_t &year, int32_t &month) {
     if (--month < 1) {
@@ -24,7 +24,7 @@ void NextMonth(int32_t &year, int32_t &month) {
 }
 
 // Marks or unmarks the focus date, the anchor moving to it.
-void MarkFocus(CCalendar &model, int add, bool ctrl, bool shift) {
+void MarkFocus(CalendarModel &model, int add, bool ctrl, bool shift) {
     if (!ctrl)
         model.ClearMarks(0);
     const CDateTime focus = model.GetFocusDate();
@@ -38,7 +38,7 @@ void MarkFocus(CCalendar &model, int add, bool ctrl, bool shift) {
 
 } // namespace
 
-void MoveFocus(CCalendar &model, int32_t delta) {
+void MoveFocus(CalendarModel &model, int32_t delta) {
     const int32_t target = model.FocusCell() + delta;
     const int32_t first = model.FirstCell();
     const bool inGrid = target >= 0 && target < kCellCount;
@@ -59,7 +59,7 @@ void MoveFocus(CCalendar &model, int32_t delta) {
     model.SetFocusDate(CDateTime(year, month, day), 1, 1);
 }
 
-void StepMonth(CCalendar &model, bool forward, int redraw) {
+void StepMonth(CalendarModel &model, bool forward, int redraw) {
     int32_t day = model.GetFocusDate().GetDay();
     int32_t year = model.DisplayYear(), month = model.DisplayMonth();
     if (forward)
@@ -71,12 +71,12 @@ void StepMonth(CCalendar &model, bool forward, int redraw) {
     model.SetFocusDate(CDateTime(year, month, day), 0, redraw);
 }
 
-CDateTime YearStepDate(const CCalendar &model, bool forward) {
+CDateTime YearStepDate(const CalendarModel &model, bool forward) {
     const int32_t year = model.DisplayYear() + (forward ? 1 : -1);
     return CDateTime(year, model.DisplayMonth(), model.GetFocusDate().GetDay());
 }
 
-void ButtonStep(CCalendar &model, bool forward, bool byYear) {
+void ButtonStep(CalendarModel &model, bool forward, bool byYear) {
     if (byYear) {
         model.SetFocusDate(YearStepDate(model, forward), 0, 0);
         return;
@@ -86,21 +86,21 @@ void ButtonStep(CCalendar &model, bool forward, bool byYear) {
     model.SetFocusDate(CDateTime(model.DisplayYear(), model.DisplayMonth(), day), 0, 0);
 }
 
-int32_t RowStartCell(const CCalendar &model) {
+int32_t RowStartCell(const CalendarModel &model) {
     const int32_t cell = model.FocusCell() / 7 * 7;
     return ShowExtra(model) ? cell : std::max(cell, model.FirstCell());
 }
 
-int32_t RowEndCell(const CCalendar &model) {
+int32_t RowEndCell(const CalendarModel &model) {
     const int32_t cell = model.FocusCell() / 7 * 7 + 6;
     return ShowExtra(model) ? cell : std::min(cell, model.LastCell());
 }
 
-void SelectAdd(CCalendar &model, bool ctrl, bool shift) { MarkFocus(model, 1, ctrl, shift); }
+void SelectAdd(CalendarModel &model, bool ctrl, bool shift) { MarkFocus(model, 1, ctrl, shift); }
 
-void SelectRemove(CCalendar &model, bool ctrl, bool shift) { MarkFocus(model, 0, ctrl, shift); }
+void SelectRemove(CalendarModel &model, bool ctrl, bool shift) { MarkFocus(model, 0, ctrl, shift); }
 
-void SelectToggle(CCalendar &model, bool ctrl, bool shift) {
+void SelectToggle(CalendarModel &model, bool ctrl, bool shift) {
     if (shift) {
         const int add = model.IsMarked(model.GetAnchorDate()) ? 1 : 0;
         if (!ctrl)
@@ -119,7 +119,7 @@ void SelectToggle(CCalendar &model, bool ctrl, bool shift) {
         model.MarkDate(focus, 1, 0, 1);
 }
 
-CalDay DayOfCell(const CCalendar &model, int32_t cell) {
+CalDay DayOfCell(const CalendarModel &model, int32_t cell) {
     CalDay d{model.DisplayYear(), model.DisplayMonth(), 0};
     int32_t offset = cell - model.FirstCell();
     while (offset < 0) {

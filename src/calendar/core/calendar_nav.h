@@ -15,28 +15,28 @@ inline bool FlagOn(int32_t flag) { return flag > 0; }
 
 // The focus delta cells on, with the month turning at the edges of what
 // may be focused (the grid, or the month alone without Show Extra).
-void MoveFocus(CCalendar &model, int32_t delta);
+void MoveFocus(CalendarModel &model, int32_t delta);
 // A month on or back from the month on display, the focus day cut to the
 // new month's length.
-void StepMonth(CCalendar &model, bool forward, int redraw);
+void StepMonth(CalendarModel &model, bool forward, int redraw);
 // The focus date a year on or back: the day is not cut, so a 29 February
 // reaches the host as it is.
-CDateTime YearStepDate(const CCalendar &model, bool forward);
+CDateTime YearStepDate(const CalendarModel &model, bool forward);
 // What a held month button does at the press and at each tick: a month
 // (with the focus day kept as it was, not cut) or, with Ctrl, a year.
 // Nothing is redrawn; the caller repaints the caption.
-void ButtonStep(CCalendar &model, bool forward, bool byYear);
+void ButtonStep(CalendarModel &model, bool forward, bool byYear);
 
 // Home and End within the focus cell's row; without Show Extra they stop
 // at the first and last cell of the month.
-int32_t RowStartCell(const CCalendar &model);
-int32_t RowEndCell(const CCalendar &model);
+int32_t RowStartCell(const CalendarModel &model);
+int32_t RowEndCell(const CalendarModel &model);
 
 // Space, Insert and Delete with Multiple Selection; ctrl keeps the other
 // marks, shift takes the range from the anchor.
-void SelectToggle(CCalendar &model, bool ctrl, bool shift);
-void SelectAdd(CCalendar &model, bool ctrl, bool shift);
-void SelectRemove(CCalendar &model, bool ctrl, bool shift);
+void SelectToggle(CalendarModel &model, bool ctrl, bool shift);
+void SelectAdd(CalendarModel &model, bool ctrl, bool shift);
+void SelectRemove(CalendarModel &model, bool ctrl, bool shift);
 
 // A day of the grid as plain numbers: what painting walks cell by cell
 // without asking the host for each date.
@@ -44,7 +44,7 @@ struct CalDay {
     int32_t year = 0, month = 0, day = 0;
 };
 // The day shown in a cell of the month on display.
-CalDay DayOfCell(const CCalendar &model, int32_t cell);
+CalDay DayOfCell(const CalendarModel &model, int32_t cell);
 CalDay NextCalDay(CalDay d);
 // The key text a midnight of that day has in the mark store, for years 0
 // to 9999; the caller checks once against the host's own text.

@@ -7,7 +7,7 @@
 #include "calendar/core/calendar_ids.h"
 #include "calendar/core/date_ops.h"
 #include "calendar/core/datetime.h"
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 
 namespace zk::cal {
 
@@ -28,7 +28,7 @@ NameTables &Tables() {
 
 std::u16string Lookup(const std::vector<std::u16string> &table, int32_t index) {
     if (index < 0 || index >= static_cast<int32_t>(table.size()))
-        throw InvalidArgError();
+        throw InvalidArgException();
     return table[static_cast<size_t>(index)];
 }
 
@@ -37,18 +37,18 @@ std::u16string Lookup(const std::vector<std::u16string> &table, int32_t index) {
 int Replace(std::vector<std::u16string> &table, const std::vector<std::u16string> &names, size_t count) {
     try {
         if (names.size() < count)
-            throw UserError();
+            throw UserException();
         std::vector<std::u16string> updated = table;
         for (size_t i = 0; i < count; ++i) {
             if (i + 1 >= updated.size())
-                throw InvalidArgError();
+                throw InvalidArgException();
             updated[i + 1] = names[i];
         }
         table.swap(updated);
         return 1;
     } catch (const std::bad_alloc &) {
         return 0;
-    } catch (const UserError &) {
+    } catch (const UserException &) {
         return 0;
     }
 }

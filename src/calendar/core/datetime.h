@@ -59,7 +59,7 @@ public:
     CDateTimeSpan operator-(const CDateTime &other) const;
 
     // The name tables: index 0 holds "NULL WEEKDAY" and "NULL MONTH"; an
-    // index outside a table raises InvalidArgError.
+    // index outside a table raises InvalidArgException.
     static std::u16string WeekdayName(int32_t index);
     static std::u16string MonthName(int32_t index);
     // Gregorian for every year, negative ones included. Month 1 to 12; any

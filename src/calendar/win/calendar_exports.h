@@ -5,7 +5,7 @@
 
 #include "calendar/win/calendar_window.h"
 #include "calendar/core/calendar_model.h"
-#include "frame/win/control_guard.h"
+#include "frame/win/guard.h"
 
 namespace zk::cal {
 
@@ -13,8 +13,8 @@ namespace zk::cal {
 // ZKM_ControlCreate announced is the calendar window object (a drop-down
 // hands out its pop-up's), and the exports work on its model. Null stays
 // null, for the guard's message.
-inline CCalendar *CalendarOf(ZelCalControl control) {
-    auto *window = reinterpret_cast<zk::CCalendar *>(control);
+inline CalendarModel *CalendarOf(ZelCalControl control) {
+    auto *window = reinterpret_cast<CCalendar *>(control);
     return window ? &window->Model() : nullptr;
 }
 

@@ -3,12 +3,12 @@
 #include <cwchar>
 #include <vector>
 
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 #include "calendar/win/calendar_exports.h"
 
 using zk::GuardedControlText;
 using zk::cal::CalendarOf;
-using zk::cal::CCalendar;
+using zk::cal::CalendarModel;
 using zk::cal::CDateTime;
 
 namespace {
@@ -18,7 +18,7 @@ namespace {
 std::vector<std::u16string> Names(HostArray array, int32_t count) {
     int32_t low = 0, high = -1;
     if (HostArrayGetBounds(array, &low, &high) != count)
-        throw zk::cal::UserError();
+        throw zk::UserException();
     std::vector<std::u16string> names;
     names.reserve(static_cast<size_t>(count));
     for (int32_t i = 0; i < count; ++i) {
@@ -27,7 +27,7 @@ std::vector<std::u16string> Names(HostArray array, int32_t count) {
         int32_t size = 0;
         const wchar_t *text = handle ? HostStrLock(handle, &size) : nullptr;
         if (!text)
-            throw zk::cal::UserError();
+            throw zk::UserException();
         const size_t length = size > 0 ? wcsnlen(text, static_cast<size_t>(size) / sizeof(wchar_t)) : 0;
         names.emplace_back(reinterpret_cast<const char16_t *>(text), length);
     }
@@ -42,7 +42,7 @@ extern "C" {
 
 int32_t ZKAPI ZelCalSetMonths(ZelCalControl control, HostArray names) {
     return GuardedControlText(L"ZelCalSetMonths()", L"Unable to assign text for month names.", 0,
-                              CalendarOf(control), [&](CCalendar &c) {
+                              CalendarOf(control), [&](CalendarModel &c) {
                                   const int result = CDateTime::SetMonthNames(Names(names, 12));
                                   c.MonthNamesChanged();
                                   return result;
@@ -51,7 +51,7 @@ int32_t ZKAPI ZelCalSetMonths(ZelCalControl control, HostArray names) {
 
 int32_t ZKAPI ZelCalSetWeekDays(ZelCalControl control, HostArray names) {
     return GuardedControlText(L"ZelCalSetWeekDays()", L"Unable to assign text for weekday names.", 0,
-                              CalendarOf(control), [&](CCalendar &c) {
+                              CalendarOf(control), [&](CalendarModel &c) {
                                   const int result = CDateTime::SetWeekdayNames(Names(names, 7));
                                   c.WeekdayNamesChanged();
                                   return result;

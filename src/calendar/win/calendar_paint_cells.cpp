@@ -6,9 +6,9 @@
 
 #include "calendar/core/calendar_nav.h"
 #include "calendar/win/calendar_paint.h"
-#include "frame/win/bevel.h"
+#include "frame/win/draw.h"
 
-namespace zk::calpaint {
+namespace zk::cal {
 
 namespace {
 
@@ -23,26 +23,26 @@ struct CellColours {
 // text, otherwise by the host's date.
 class MarkLookup {
 public:
-    MarkLookup(const cal::CCalendar &model, cal::CalDay first, int32_t firstCell) : model_(model) {
+    MarkLookup(const CalendarModel &model, CalDay first, int32_t firstCell) : model_(model) {
         if (model.Marks().empty())
             return;
-        const cal::CDateTime hostDate = model.CellToDate(firstCell);
-        fast_ = first.year >= 0 && first.year <= 9999 && hostDate.KeyText() == cal::MidnightKey(first);
+        const CDateTime hostDate = model.CellToDate(firstCell);
+        fast_ = first.year >= 0 && first.year <= 9999 && hostDate.KeyText() == MidnightKey(first);
     }
-    bool Marked(const cal::CalDay &d) const {
+    bool Marked(const CalDay &d) const {
         if (model_.Marks().empty())
             return false;
         if (fast_)
-            return model_.Marks().count(cal::MidnightKey(d)) != 0;
-        return model_.IsMarked(cal::CDateTime(d.year, d.month, d.day)) == 1;
+            return model_.Marks().count(MidnightKey(d)) != 0;
+        return model_.IsMarked(CDateTime(d.year, d.month, d.day)) == 1;
     }
 
 private:
-    const cal::CCalendar &model_;
+    const CalendarModel &model_;
     bool fast_ = false;
 };
 
-CellColours ColoursOf(const Kit &kit, const cal::CCalendar &model, const cal::CalDay &d, int32_t weekday,
+CellColours ColoursOf(const RoleTools &kit, const CalendarModel &model, const CalDay &d, int32_t weekday,
                       bool marked, bool extra, const Look &look) {
     const bool showExtra = On(model.Flags().showExtra);
     CellColours c;
@@ -70,7 +70,7 @@ CellColours ColoursOf(const Kit &kit, const cal::CCalendar &model, const cal::Ca
     return c;
 }
 
-void FocusMark(HDC dc, const Kit &kit, const cal::CCalendar &model, RECT r) {
+void FocusMark(HDC dc, const RoleTools &kit, const CalendarModel &model, RECT r) {
     if (On(model.Flags().etchedLook)) {
         DrawBevel(dc, r, kit.Pen(CALR_ButtonShadow), kit.Pen(CALR_ButtonLight), kit.Pen(CALR_Frame),
                   kit.Pen(CALR_CellBack));
@@ -91,23 +91,22 @@ std::u16string DayText(int32_t day) {
 
 } // namespace
 
-void Cells(HDC dc, const Kit &kit, const cal::CalLayout &layout, const cal::CCalendar &model, const Look &look,
-           cal::CellSpan span) {
+void PaintCells(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look,
+           CellSpan span) {
     if (span.Empty() || model.DisplayMonth() == 0)
         return;
     const bool showExtra = On(model.Flags().showExtra);
-    cal::CalDay day = cal::DayOfCell(model, span.first);
+    CalDay day = DayOfCell(model, span.first);
     const MarkLookup marks(model, day, span.first);
-    for (int32_t cell = span.first; cell <= span.last; ++cell, day = cal::NextCalDay(day)) {
+    for (int32_t cell = span.first; cell <= span.last; ++cell, day = NextCalDay(day)) {
         const bool extra = model.IsExtraCell(cell, -1, -1) == 1;
-        const RECT r = ToRect(layout.CellRect(cell));
+        const RECT r = ToRECT(layout.CellRect(cell));
         const CellColours colours =
             ColoursOf(kit, model, day, model.ColumnWeekday(cell % 7), marks.Marked(day), extra, look);
         if (colours.backRole >= 0) {
             FillRect(dc, &r, kit.Brush(colours.backRole));
-        } else if (HBRUSH own = CreateSolidBrush(colours.back)) {
+        } else if (const Brush own = SolidBrush(colours.back)) {
             FillRect(dc, &r, own);
-            DeleteObject(own);
         }
         // "%i" of the day; an extra cell has no text unless extra cells show.
         if (!extra || showExtra)
@@ -117,4 +116,4 @@ void Cells(HDC dc, const Kit &kit, const cal::CalLayout &layout, const cal::CCal
     }
 }
 
-} // namespace zk::calpaint
+} // namespace zk::cal

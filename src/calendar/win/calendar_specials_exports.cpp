@@ -1,10 +1,10 @@
 // Exports of the special rules.
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 #include "calendar/win/calendar_exports.h"
 
 using zk::GuardedControlText;
 using zk::cal::CalendarOf;
-using zk::cal::CCalendar;
+using zk::cal::CalendarModel;
 using zk::cal::CDateTime;
 using zk::cal::DateArg;
 using zk::cal::SSpecialRule;
@@ -31,16 +31,16 @@ extern "C" {
 int32_t ZKAPI ZelCalClearSpecials(ZelCalControl control) {
     // The name it reports has no final s.
     return GuardedControlText(L"ZelCalClearSpecial()", L"Unable to clear special dates.", 0, CalendarOf(control),
-                              [](CCalendar &c) { return c.ClearSpecials(1); });
+                              [](CalendarModel &c) { return c.ClearSpecials(1); });
 }
 
 int32_t ZKAPI ZelCalSpecialDate(ZelCalControl control, int32_t type, HostDateTime date, int32_t weekday,
                                 int32_t week, COLORREF textColor, COLORREF backColor, int32_t add) {
     return GuardedControlText(L"ZelCalSpecialDate()", L"Unable to add/remove date from special rule list.", 0,
-                              CalendarOf(control), [&](CCalendar &c) {
+                              CalendarOf(control), [&](CalendarModel &c) {
                                   const CDateTime day = DateArg(date);
                                   if (day.IsNull() && KeysOnDate(type))
-                                      throw zk::cal::InvalidArgError();
+                                      throw zk::InvalidArgException();
                                   const SSpecialRule rule(type, day, weekday, week, textColor, backColor);
                                   return c.SetSpecialRule(rule, add);
                               });
@@ -50,7 +50,7 @@ int32_t ZKAPI ZelCalSpecialDate(ZelCalControl control, int32_t type, HostDateTim
 int32_t ZKAPI ZelCalIsDateSpecial(ZelCalControl control, int32_t type, HostDateTime date, int32_t weekday,
                                   int32_t week) {
     return GuardedControlText(L"ZelCalIsDateSpecial()", L"Unable to determine if specified date is special.", 0,
-                              CalendarOf(control), [&](CCalendar &c) {
+                              CalendarOf(control), [&](CalendarModel &c) {
                                   const SSpecialRule probe(type, DateArg(date), weekday, week, 0, 0);
                                   return c.MatchSpecial(probe, nullptr, nullptr);
                               });
@@ -61,7 +61,7 @@ int32_t ZKAPI ZelCalIsDateSpecial(ZelCalControl control, int32_t type, HostDateT
 int32_t ZKAPI ZelCalGetSpecials(ZelCalControl control, HostArray types, HostArray dates, HostArray weekdays,
                                 HostArray weeks) {
     return GuardedControlText(L"ZelCalGetSpecials()", L"Unable to retrieve special weekdays.", -1,
-                              CalendarOf(control), [&](CCalendar &c) {
+                              CalendarOf(control), [&](CalendarModel &c) {
                                   int32_t count = 0;
                                   for (const auto &entry : c.Rules()) {
                                       const SSpecialRule &rule = entry.second;

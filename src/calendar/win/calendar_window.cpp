@@ -1,23 +1,20 @@
-// The calendar window: its class, its messages, and what the model and
-// the input machine ask of a window.
+// The calendar window: its messages, unpacked and handed to the input
+// machine and the model.
 #include "calendar/win/calendar_window.h"
 
+#include "frame/win/crack.h"
 #include "frame/win/startup.h"
-#include "zkhost.h"
 
-namespace zk {
+namespace zk::cal {
 
-namespace {
-
-bool KeyDown(int key) { return GetKeyState(key) < 0; }
-
-} // namespace
-
-CCalendar::CCalendar() : input_(model_, layout_, *this, stateFlags) { model_.AttachWindow(this); }
+CCalendar::CCalendar() : input_(model_, layout_, *this, stateFlags) {
+    model_.AttachView(this, &layout_);
+    model_.OnFlagAssigned([this](uint32_t bit, int32_t value) { FlagAssigned(bit, value); });
+}
 
 CCalendar::~CCalendar() {
-    FreeOffscreen();
-    model_.AttachWindow(nullptr);
+    model_.AttachView(nullptr, nullptr);
+    model_.OnFlagAssigned(nullptr);
 }
 
 bool CCalendar::CreatePopup(const RECT &rect, HWND notify) {
@@ -29,37 +26,26 @@ bool CCalendar::CreatePopup(const RECT &rect, HWND notify) {
 }
 
 LRESULT CCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
-    const int x = static_cast<short>(LOWORD(lParam)), y = static_cast<short>(HIWORD(lParam));
-    const auto keys = static_cast<uint32_t>(wParam);
+    const Point at = MousePoint(lParam);
+    const uint32_t keys = MouseKeys(wParam);
     switch (message) {
     case WM_CREATE:
         return OnCreate();
-    case WM_DESTROY:
-        created = 0;
-        FreeOffscreen();
-        return Default();
-    case WM_PAINT:
-        return OnPaint();
-    case WM_PRINTCLIENT:
-        PaintTo(reinterpret_cast<HDC>(wParam));
-        return 0;
-    case WM_ERASEBKGND:
-        return 1;
     case WM_KEYDOWN:
-        return input_.KeyDown(static_cast<uint32_t>(wParam)) ? 0 : Default();
+        return input_.KeyDown(KeyCode(wParam)) ? 0 : Default();
     case WM_CHAR:
-        return input_.Char(static_cast<uint32_t>(wParam)) ? 0 : Default();
+        return input_.Char(KeyCode(wParam)) ? 0 : Default();
     case WM_LBUTTONDOWN:
-        input_.LButtonDown(x, y, keys);
+        input_.LButtonDown(at.x, at.y, keys);
         return 0;
     case WM_LBUTTONDBLCLK:
-        input_.LButtonDblClk(x, y, keys);
+        input_.LButtonDblClk(at.x, at.y, keys);
         return 0;
     case WM_MOUSEMOVE:
-        input_.MouseMove(x, y, keys);
+        input_.MouseMove(at.x, at.y, keys);
         return 0;
     case WM_LBUTTONUP:
-        input_.LButtonUp(x, y, keys);
+        input_.LButtonUp(at.x, at.y, keys);
         return 0;
     case WM_TIMER:
         return input_.Timer(static_cast<uint32_t>(wParam)) ? 0 : Default();
@@ -78,7 +64,7 @@ LRESULT CCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
 }
 
 LRESULT CCalendar::OnSetFocus() {
-    if (HostFieldValidate(GetSafeHwnd(), 0, 0) == 0)
+    if (FieldValidate(0) == 0)
         return 0;
     const LRESULT result = Default();
     input_.FocusGained();
@@ -89,49 +75,6 @@ LRESULT CCalendar::OnKillFocus() {
     const LRESULT result = Default();
     input_.FocusLost();
     return result;
-}
-
-// ---- what the model asks ----------------------------------------------------
-
-void CCalendar::InvalidateArea(const cal::CalRect &rect, bool erase) {
-    if (!GetSafeHwnd() || rect.Empty())
-        return;
-    const RECT r{rect.left, rect.top, rect.right, rect.bottom};
-    InvalidateRect(GetSafeHwnd(), &r, erase ? TRUE : FALSE);
-}
-
-void CCalendar::Invalidate(cal::CalArea area, bool erase) {
-    switch (area) {
-    case cal::CalArea::Window:
-        if (GetSafeHwnd())
-            InvalidateRect(GetSafeHwnd(), nullptr, erase ? TRUE : FALSE);
-        return;
-    case cal::CalArea::Grid:
-        return InvalidateArea(layout_.Grid(), erase);
-    case cal::CalArea::Caption:
-        return InvalidateArea(layout_.Caption(), erase);
-    case cal::CalArea::WeekdayHeader:
-        return InvalidateArea(layout_.WeekdayHeader(), erase);
-    case cal::CalArea::CaptionAndHeader:
-        return InvalidateArea(layout_.Caption().Union(layout_.WeekdayHeader()), erase);
-    case cal::CalArea::Buttons:
-        InvalidateArea(layout_.LeftButton(), erase);
-        return InvalidateArea(layout_.RightButton(), erase);
-    case cal::CalArea::Body:
-        return InvalidateArea(layout_.Body(), erase);
-    }
-}
-
-void CCalendar::InvalidateCell(int32_t cell) { InvalidateArea(layout_.CellRect(cell), false); }
-
-void CCalendar::UpdateNow() {
-    if (GetSafeHwnd())
-        UpdateWindow(GetSafeHwnd());
-}
-
-void CCalendar::RedrawAll() {
-    if (GetSafeHwnd())
-        RedrawWindow(GetSafeHwnd(), nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
 }
 
 void CCalendar::FlagAssigned(uint32_t bit, int32_t value) {
@@ -159,62 +102,4 @@ void CCalendar::FlagAssigned(uint32_t bit, int32_t value) {
     }
 }
 
-// ---- what the input machine asks --------------------------------------------
-
-bool CCalendar::StartTimer(uint32_t id, uint32_t period) {
-    return GetSafeHwnd() && SetTimer(GetSafeHwnd(), id, period, nullptr) != 0;
-}
-
-void CCalendar::StopTimer(uint32_t id) {
-    if (GetSafeHwnd())
-        KillTimer(GetSafeHwnd(), id);
-}
-
-void CCalendar::TakeCapture() {
-    if (GetSafeHwnd())
-        SetCapture(GetSafeHwnd());
-}
-
-void CCalendar::DropCapture() {
-    // Only a capture of this window's: another window's stays.
-    if (GetSafeHwnd() && GetCapture() == GetSafeHwnd())
-        ReleaseCapture();
-}
-
-bool CCalendar::HasFocus() const { return GetSafeHwnd() && GetFocus() == GetSafeHwnd(); }
-
-void CCalendar::TakeFocus() {
-    if (GetSafeHwnd())
-        SetFocus(GetSafeHwnd());
-}
-
-int32_t CCalendar::FieldValidate(int32_t flag) { return HostFieldValidate(GetSafeHwnd(), flag, 0); }
-
-void CCalendar::PostToSelf(uint32_t message, int32_t wParam) {
-    if (GetSafeHwnd())
-        PostMessageW(GetSafeHwnd(), message, static_cast<WPARAM>(wParam), 0);
-}
-
-void CCalendar::RefreshButton(bool left) {
-    InvalidateArea(left ? layout_.LeftButton() : layout_.RightButton(), false);
-    UpdateNow();
-}
-
-void CCalendar::InvalidateWindow() { Invalidate(cal::CalArea::Window, false); }
-
-void CCalendar::InvalidateCell(int32_t cell, bool update) {
-    InvalidateCell(cell);
-    if (update)
-        UpdateNow();
-}
-
-void CCalendar::HideWindow() {
-    if (GetSafeHwnd())
-        ShowWindow(GetSafeHwnd(), SW_HIDE);
-}
-
-bool CCalendar::CtrlDown() const { return KeyDown(VK_CONTROL); }
-
-bool CCalendar::ShiftDown() const { return KeyDown(VK_SHIFT); }
-
-} // namespace zk
+} // namespace zk::cal

@@ -2,9 +2,10 @@
 // the frame answered by the model.
 #include "calendar/win/calendar_window.h"
 
+#include "frame/win/gdi.h"
 #include "frame/win/prop_block.h"
 
-namespace zk {
+namespace zk::cal {
 
 namespace {
 
@@ -23,7 +24,7 @@ constexpr Assignment kAssignOrder[] = {
     {CALS_ShowSpecial, &SPropCalendar::showSpecial},
 };
 
-bool IsRole(int role) { return role >= 0 && role < cal::kRoleCount; }
+bool IsRole(int role) { return role >= 0 && role < kRoleCount; }
 
 } // namespace
 
@@ -33,7 +34,7 @@ LRESULT CCalendar::OnCreate() {
     ApplyProperties(SPropCalendar());
     SizeToFit(autoSize);
     created = 1;
-    const cal::CDateTime today;
+    const CDateTime today;
     model_.SetDisplayMonth(today.GetYear(), today.GetMonth(), 1);
     model_.SetFocusDate(today, 0, 1);
     return 0;
@@ -43,9 +44,9 @@ int CCalendar::ApplyProperties(const SPropCalendar &block) {
     try {
         for (const Assignment &a : kAssignOrder)
             model_.AssignStyleFlag(a.bit, block.*a.field);
-        cal::CDateTime date;
+        CDateTime date;
         if (block.initialDateMode == 1) {
-            cal::CDateTime given;
+            CDateTime given;
             if (given.Parse(block.initialDate.c_str()) == 1)
                 date = given;
         }
@@ -72,12 +73,9 @@ void CCalendar::RecalcMetrics() {
 }
 
 void CCalendar::RecalcFrame() {
-    RECT client{};
-    if (GetSafeHwnd())
-        GetClientRect(GetSafeHwnd(), &client);
-    layout_.Compute(client.right - client.left, client.bottom - client.top, columnWidth, rowHeight);
-    const cal::CalRect &f = layout_.Frame();
-    frame = RECT{f.left, f.top, f.right, f.bottom};
+    const Rect client = ClientArea();
+    layout_.Compute(client.Width(), client.Height(), columnWidth, rowHeight);
+    frame = ToRECT(layout_.Frame());
 }
 
 COLORREF CCalendar::GetRoleColor(int role) { return IsRole(role) ? model_.GetRoleColor(role) : CLR_INVALID; }
@@ -112,4 +110,4 @@ LRESULT CDlgCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     return 0;
 }
 
-} // namespace zk
+} // namespace zk::cal

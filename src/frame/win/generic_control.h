@@ -1,7 +1,8 @@
-// CGenericControl: the base of the calendar family. It holds what every
-// such control has: six style flags, four colour roles that follow the
-// system until set, a private font with the metrics taken from it, the
-// frame rectangle, the notify window and two state bits.
+// CGenericControl: the base of the calendar family. On top of the control
+// base (control_window.h: window object, notify window, created flag,
+// ControlNotify, off-screen paint, effects) it holds six style flags, four
+// colour roles that follow the system until set, a private font with the
+// metrics taken from it, the frame rectangle and two state bits.
 //
 // How a derived control uses it:
 //   - derive, and override WindowProc for the messages of the control; pass
@@ -12,7 +13,7 @@
 //   - set `created` to 1 once the control's own creation is finished: most
 //     queries answer -1 before, and WM_SETFONT resizes only after;
 //   - notify with ControlNotify(code), which posts WM_COMMAND.
-// The object is made by the bootstrap (designer/control_create.h) or with
+// The object is made by the bootstrap (frame/win/control_create.h) or with
 // CreateEx, and is deleted by its window after WM_NCDESTROY.
 #pragma once
 
@@ -21,16 +22,14 @@
 #include <cstdint>
 
 #include "frame/core/generic_block.h"
-#include "frame/win/window.h"
+#include "frame/core/roles.h"
+#include "frame/win/control_window.h"
 
 namespace zk {
 
-class CGenericControl : public Window {
+class CGenericControl : public ControlWindow {
 public:
     static constexpr int kRoleCount = 4;
-    // Bits of stateFlags.
-    static constexpr uint16_t kStateDisabled = 0x0001;
-    static constexpr uint16_t kStateHidden = 0x0002;
     // Code of ControlNotify that asks a drop-down to close its pop-up.
     static constexpr int kNotifyClosePopup = 8;
 
@@ -63,18 +62,11 @@ public:
     // Frame extents; -1 until created.
     int FrameHeight() const;
     int FrameWidth() const;
-    HWND NotifyWindow() const { return notifyWindow; }
-    // Ignores 0.
-    void SetNotifyWindow(HWND window);
-    // Posts WM_COMMAND to the notify window: wParam the control id (low
-    // word) and code (high word), lParam the control's window.
-    void ControlNotify(int code);
     // Style one to auto-size, two to the third flag, three to pop-up, four
     // to six to the fourth to sixth flags: the second and third swap places.
     void ApplyGenericBlock(const SPropGeneric &block);
 
     HFONT Font() const { return font; }
-    bool IsCreated() const { return created == 1; }
     uint16_t StateFlags() const { return stateFlags; }
 
 protected:
@@ -83,9 +75,6 @@ protected:
     // everything else goes to Default().
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
-    // The system colour indices of the four roles: COLOR_WINDOW,
-    // COLOR_WINDOWTEXT, COLOR_GRAYTEXT, COLOR_WINDOWFRAME.
-    static uint16_t roleTable[kRoleCount];
 
     int32_t autoSize = 0;   // 1: resized to fit whenever the metrics change
     int32_t popUp = 0;      // 1: inside a drop-down; Alt+Up asks to close
@@ -93,12 +82,12 @@ protected:
     int32_t fourthFlag = 1; // Enable Keyboard
     int32_t fifthFlag = 0;  // Multiple Selection
     int32_t sixthFlag = 1;  // Show Focus
-    int32_t created = 0;    // set to 1 by the derived class at the end of its creation
-    int32_t useDefaultColor[kRoleCount] = {1, 1, 1, 1};
+    // The four roles; the system colour indices of the table are
+    // COLOR_WINDOW, COLOR_WINDOWTEXT, COLOR_GRAYTEXT, COLOR_WINDOWFRAME,
+    // filled once per process by InitClassStatics.
+    RoleColors<kRoleCount> roles{{}};
     HFONT font = nullptr; // the control's own copy, deleted with it
-    COLORREF roleColors[kRoleCount] = {};
     RECT frame = {};
-    HWND notifyWindow = nullptr; // the parent unless set
     int32_t rowHeight = 0;
     int32_t columnWidth = 0;
     uint16_t stateFlags = 0;
@@ -106,7 +95,6 @@ protected:
 private:
     LRESULT OnCreate();
     LRESULT OnSetFont(HFONT given);
-    static bool staticsDone;
 };
 
 } // namespace zk

@@ -1,4 +1,5 @@
 // The messages every control of the calendar family handles alike.
+#include "frame/win/gdi.h"
 #include "frame/win/generic_control.h"
 
 namespace zk {
@@ -8,10 +9,8 @@ namespace {
 // The default font: MS Sans Serif, bold, 8 points on this screen.
 HFONT MakeDefaultFont(HWND window) {
     int pixelsPerInch = 96;
-    if (HDC dc = GetDC(window)) {
+    if (ClientDC dc(window); dc)
         pixelsPerInch = GetDeviceCaps(dc, LOGPIXELSY);
-        ReleaseDC(window, dc);
-    }
     const int height = (-8 * pixelsPerInch) / 72; // truncated toward zero
     return CreateFontW(height, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, VARIABLE_PITCH | FF_SWISS,
                        L"MS Sans Serif");
@@ -48,8 +47,8 @@ LRESULT CGenericControl::OnSetFont(HFONT given) {
     RecalcMetrics();
     if (created == 1) {
         SizeToFit(autoSize);
-        InvalidateRect(GetSafeHwnd(), nullptr, TRUE);
-        UpdateWindow(GetSafeHwnd());
+        InvalidateAll(true);
+        Update();
     }
     return 0;
 }
@@ -68,8 +67,8 @@ LRESULT CGenericControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
             stateFlags &= static_cast<uint16_t>(~kStateDisabled);
         else
             stateFlags |= kStateDisabled;
-        InvalidateRect(GetSafeHwnd(), nullptr, TRUE);
-        UpdateWindow(GetSafeHwnd());
+        InvalidateAll(true);
+        Update();
         return result;
     }
     case WM_SHOWWINDOW: {
@@ -97,7 +96,7 @@ LRESULT CGenericControl::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) 
     case WM_ERASEBKGND:
         return 1; // all painting is done in WM_PAINT
     default:
-        return Window::WindowProc(message, wParam, lParam);
+        return ControlWindow::WindowProc(message, wParam, lParam);
     }
 }
 

@@ -2,20 +2,12 @@
 // caught exception becomes one debugger line and the export's failure value.
 #pragma once
 
+#include "frame/core/errors.h"
 #include "frame/win/host.h"
 
 #include <utility>
 
 namespace zk {
-
-// The library's own exceptions, thrown inside guarded bodies only.
-struct Exception {
-    virtual ~Exception() = default;
-};
-struct UserException : Exception {};       // the body has already told the user
-struct MemoryException : Exception {};     // a block the library needs could not be had
-struct InvalidArgException : Exception {}; // an index or argument outside what a body accepts
-struct ResourceException : Exception {};   // a window class or resource could not be set up
 
 // String 48 in a box: the control pointer the host holds is null because the
 // application swallowed the control's announcement.
@@ -69,16 +61,39 @@ HostStr StringResult(Body &&body) noexcept {
 
 // An exported control function: a null control pointer shows string 48 and
 // ends with the failure value; otherwise body(control) runs under the guard.
+// Each export holds its own name with parentheses and its row's failure
+// value, and gives the row's words as a string resource (GuardedControl) or
+// as a literal text (GuardedControlText):
+//
+//   int32_t ZKAPI ZelPalColorGet(CColorPalette *control, int32_t role) {
+//       return zk::GuardedControlText(L"ZelPalColorGet()", L"Unable to ...", -1, control,
+//                                     [&](CColorPalette &c) { return ...; });
+//   }
+// The body of a control export behind the null check: string 48 and a user
+// exception for a null control pointer.
 template <class R, class Control, class Body>
-R GuardedControl(const wchar_t *functionName, UINT traceId, R failure, Control *control,
-                 Body &&body) noexcept {
-    return Guarded(functionName, traceId, failure, [&]() -> R {
+auto NullChecked(const wchar_t *functionName, Control *control, Body &body) {
+    return [functionName, control, &body]() -> R {
         if (!control) {
             NullControlBox(functionName);
             throw UserException();
         }
         return body(*control);
-    });
+    };
+}
+
+template <class R, class Control, class Body>
+R GuardedControl(const wchar_t *functionName, UINT traceId, R failure, Control *control,
+                 Body &&body) noexcept {
+    return Guarded(functionName, traceId, failure, NullChecked<R>(functionName, control, body));
+}
+
+// As GuardedControl, with the row's words given as text, without the
+// " - " before them and the line feed after them, which the trace adds.
+template <class R, class Control, class Body>
+R GuardedControlText(const wchar_t *functionName, const wchar_t *failureText, R failure, Control *control,
+                     Body &&body) noexcept {
+    return GuardedText(functionName, failureText, failure, NullChecked<R>(functionName, control, body));
 }
 
 } // namespace zk

@@ -50,25 +50,31 @@ std::ostream &operator<<(std::ostream &out, const Ymd &d) {
     return out << d.year << '-' << d.month << '-' << d.day;
 }
 
-void RecordingWindow::Invalidate(zk::cal::CalArea area, bool erase) {
+std::string PartName(const zk::cal::CalLayout &layout, const zk::Rect &r) {
     using A = zk::cal::CalArea;
-    const char *name = "?";
-    switch (area) {
-    case A::Window: name = "window"; break;
-    case A::Grid: name = "grid"; break;
-    case A::Caption: name = "caption"; break;
-    case A::WeekdayHeader: name = "header"; break;
-    case A::CaptionAndHeader: name = "caption+header"; break;
-    case A::Buttons: name = "buttons"; break;
-    case A::Body: name = "body"; break;
-    }
-    events.push_back(std::string("inv ") + name + (erase ? " erase" : ""));
+    const std::pair<A, const char *> areas[] = {
+        {A::Window, "window"}, {A::Grid, "grid"},     {A::Caption, "caption"}, {A::WeekdayHeader, "header"},
+        {A::CaptionAndHeader, "caption+header"},      {A::Buttons, "buttons"}, {A::Body, "body"},
+    };
+    for (const auto &[area, name] : areas)
+        if (layout.AreaRect(area) == r)
+            return name;
+    if (r == layout.LeftButton())
+        return "button left";
+    if (r == layout.RightButton())
+        return "button right";
+    for (int32_t cell = 0; cell < zk::cal::kCellCount; ++cell)
+        if (layout.CellRect(cell) == r)
+            return "cell " + std::to_string(cell);
+    return {};
 }
 
 Shown::Shown(int year, int month, bool created) {
+    layout.Compute(140, 100, 8, 12);
     window.created = created;
+    window.namer = [this](const zk::Rect &r) { return PartName(layout, r); };
     cal.SetDisplayMonth(year, month, 0);
-    cal.AttachWindow(&window);
+    cal.AttachView(&window, &layout);
 }
 
 } // namespace caltest

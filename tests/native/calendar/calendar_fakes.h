@@ -14,6 +14,7 @@
 #include "calendar/core/calendar_model.h"
 #include "calendar/core/date_ops.h"
 #include "calendar/core/datetime.h"
+#include "fake_effects.h"
 
 namespace caltest {
 
@@ -60,26 +61,17 @@ inline Ymd Parts(std::chrono::sys_days d) {
 inline Ymd Parts(const CDateTime &d) { return {d.GetYear(), d.GetMonth(), d.GetDay()}; }
 std::ostream &operator<<(std::ostream &out, const Ymd &d);
 
-class RecordingWindow : public zk::cal::CalendarWindow {
-public:
-    bool IsCreated() const override { return created; }
-    void Invalidate(zk::cal::CalArea area, bool erase) override;
-    void InvalidateCell(int32_t cell) override { events.push_back("cell " + std::to_string(cell)); }
-    void UpdateNow() override { events.push_back("update"); }
-    void RedrawAll() override { events.push_back("redraw"); }
-    void Notify(int32_t code) override { events.push_back("notify " + std::to_string(code)); }
-    // The events since the last call, which forgets them.
-    std::vector<std::string> Take() { return std::exchange(events, {}); }
+// The parts of a calendar laid out in `layout` by name ("grid", "caption",
+// "cell 14", "button left"...); empty for any other rectangle.
+std::string PartName(const zk::cal::CalLayout &layout, const zk::Rect &r);
 
-    bool created = true;
-    std::vector<std::string> events;
-};
-
-// A model on display at year/month with a window attached.
+// A model on display at year/month with a window attached, whose client is
+// 140 x 100 with cells of 20 x 12.
 struct Shown {
     Shown(int year, int month, bool created = true);
-    zk::cal::CCalendar cal;
-    RecordingWindow window;
+    zk::cal::CalLayout layout;
+    zk::cal::CalendarModel cal;
+    zkt::FakeEffects window;
 };
 
 } // namespace caltest

@@ -10,12 +10,12 @@ using caltest::Days;
 using caltest::Parts;
 using caltest::Shown;
 using Events = std::vector<std::string>;
-using zk::cal::CCalendar;
+using zk::cal::CalendarModel;
 using zk::cal::CDateTime;
 
 TEST(Cells, EveryMonthOfTwoCenturiesForEveryWeekStart) {
     for (int weekStart = 1; weekStart <= 7; ++weekStart) {
-        CCalendar cal;
+        CalendarModel cal;
         cal.SetWeekStart(weekStart);
         for (int year = 1900; year <= 2100; ++year) {
             for (int month = 1; month <= 12; ++month) {
@@ -56,7 +56,7 @@ TEST(Cells, ShowExtraDecidesWhichCellsHaveDates) {
 }
 
 TEST(Cells, NoGridBeforeTheFirstMonth) {
-    CCalendar cal;
+    CalendarModel cal;
     EXPECT_EQ(cal.DateToCell(CDateTime(2024, 1, 1)), -1);
     EXPECT_TRUE(cal.CellToDate(10).IsNull());
     EXPECT_EQ(cal.FocusCell(), -1);

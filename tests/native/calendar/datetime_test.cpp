@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 #include "calendar_fakes.h"
 #include "core/hostnum.h"
 
@@ -137,9 +137,9 @@ TEST(DateNames, TablesFromStringResourcesAndTheirBounds) {
     EXPECT_EQ(CDateTime::WeekdayName(7), u"#38");
     EXPECT_EQ(CDateTime::MonthName(0), u"NULL MONTH");
     EXPECT_EQ(CDateTime::MonthName(12), u"#27");
-    EXPECT_THROW(CDateTime::MonthName(13), zk::cal::InvalidArgError);
-    EXPECT_THROW(CDateTime::MonthName(-1), zk::cal::InvalidArgError);
-    EXPECT_THROW(CDateTime::WeekdayName(8), zk::cal::InvalidArgError);
+    EXPECT_THROW(CDateTime::MonthName(13), zk::InvalidArgException);
+    EXPECT_THROW(CDateTime::MonthName(-1), zk::InvalidArgException);
+    EXPECT_THROW(CDateTime::WeekdayName(8), zk::InvalidArgException);
 }
 
 std::vector<std::u16string> Names(const char16_t *stem, int count) {
@@ -163,7 +163,7 @@ TEST(DateNames, TooFewNamesChangeNothingAndTheFirstReplaceIndicesFromOne) {
     EXPECT_EQ(CDateTime::SetMonthNames(Names(u"m", 13)), 1);
     EXPECT_EQ(CDateTime::MonthName(0), u"NULL MONTH");
     EXPECT_EQ(CDateTime::MonthName(12), u"ml");
-    EXPECT_THROW(CDateTime::MonthName(13), zk::cal::InvalidArgError) << "the table keeps its size";
+    EXPECT_THROW(CDateTime::MonthName(13), zk::InvalidArgException) << "the table keeps its size";
     EXPECT_EQ(CDateTime::SetWeekdayNames(Names(u"w", 7)), 1);
     EXPECT_EQ(CDateTime::WeekdayName(7), u"wg");
     CDateTime::SetMonthNames(months);

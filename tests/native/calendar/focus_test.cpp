@@ -31,7 +31,7 @@ TEST(FocusDate, ADateOffTheGridBringsItsMonth) {
     EXPECT_EQ(s.cal.DisplayMonth(), 7);
     EXPECT_EQ(s.cal.FocusCell(), 4);
     EXPECT_EQ(s.window.Take(),
-              (Events{"cell 14", "inv caption", "inv grid", "notify 3", "cell 4", "update", "notify 1"}));
+              (Events{"inv cell 14", "inv caption", "inv grid", "notify 3", "inv cell 4", "update", "notify 1"}));
     s.cal.SetFocusDate(CDateTime(2024, 7, 5), 0, 0);
     EXPECT_EQ(s.window.Take(), (Events{"notify 1"})) << "invalidate 0 asks for no cell";
 }
@@ -68,7 +68,7 @@ TEST(FocusCell, MovesTheMarkAndTheAnchor) {
     EXPECT_EQ(Parts(s.cal.GetFocusDate()), (Ymd{2024, 3, 16}));
     EXPECT_EQ(Parts(s.cal.GetAnchorDate()), (Ymd{2024, 3, 16}));
     EXPECT_EQ(s.cal.IsMarked(CDateTime(2024, 3, 10)), 0);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 14", "cell 14", "update", "cell 20", "update", "notify 1"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 14", "inv cell 14", "update", "inv cell 20", "update", "notify 1"}));
     for (int cell : {-1, 20, 42, -7})
         s.cal.SetFocusCell(cell, 1);
     EXPECT_EQ(s.cal.FocusCell(), 20) << "minus one, the same cell or no cell do nothing";
@@ -84,7 +84,7 @@ TEST(FocusCell, OntoAnExtraCellWithSelectExtraOffUnmarksAndMarksNothing) {
     EXPECT_EQ(Parts(s.cal.GetFocusDate()), (Ymd{2024, 2, 28}));
     EXPECT_EQ(s.cal.Marks().size(), 0u);
     EXPECT_EQ(Parts(s.cal.GetAnchorDate()), (Ymd{2024, 3, 15})) << "the anchor stays";
-    EXPECT_EQ(s.window.Take(), (Events{"cell 6", "cell 6", "update", "cell 3", "notify 1"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 6", "inv cell 6", "update", "inv cell 3", "notify 1"}));
 }
 
 TEST(FocusCell, WithMultipleSelectionOnlyTheCellsAreDrawn) {
@@ -93,7 +93,7 @@ TEST(FocusCell, WithMultipleSelectionOnlyTheCellsAreDrawn) {
     s.cal.SetFocusCell(10, 0);
     s.window.Take();
     s.cal.SetFocusCell(11, 0);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 10", "update", "cell 11", "notify 1"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 10", "update", "inv cell 11", "notify 1"}));
     EXPECT_EQ(s.cal.IsMarked(s.cal.CellToDate(11)), 0);
 }
 
@@ -112,7 +112,7 @@ TEST(Selectable, ExtraAndSpecialCells) {
 }
 
 TEST(Anchor, SwapHandsBackTheOldDate) {
-    zk::cal::CCalendar cal;
+    zk::cal::CalendarModel cal;
     EXPECT_EQ(cal.SwapAnchorDate(CDateTime(2000, 1, 2)).KeyText(), CDateTime(Record(2024, 3, 15, 13, 45, 10)).KeyText())
         << "the present at construction";
     EXPECT_EQ(Parts(cal.SwapAnchorDate(CDateTime(2000, 1, 3))), (Ymd{2000, 1, 2}));

@@ -15,13 +15,13 @@ TEST(Marks, AddRemoveAndTheirResults) {
     Shown s(2024, 3);
     const CDateTime d(2024, 3, 20);
     EXPECT_EQ(s.cal.MarkDate(d, 1, 1, 1), 1);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 24", "update"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 24", "update"}));
     EXPECT_EQ(s.cal.MarkDate(d, 1, 1, 1), 0) << "already there";
     EXPECT_EQ(s.cal.MarkDate(d, 2, 1, 1), 0) << "add is 0 or 1";
     EXPECT_EQ(s.cal.MarkDate(d, -1, 1, 1), 0);
     EXPECT_TRUE(s.window.events.empty());
     EXPECT_EQ(s.cal.MarkDate(d, 0, 0, 1), 1);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 24"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 24"}));
     EXPECT_EQ(s.cal.MarkDate(d, 0, 1, 1), 0) << "not there";
     // Off the grid, without invalidation or without a window: stored quietly.
     EXPECT_EQ(s.cal.MarkDate(CDateTime(2030, 1, 1), 1, 1, 1), 1);
@@ -62,7 +62,7 @@ TEST(Marks, ARangeInvalidatesTheCellsOnDisplayAndUpdatesOnce) {
     Shown s(2024, 3);
     s.cal.MarkRange(CDateTime(2024, 4, 5), CDateTime(2024, 4, 8), 1, 1);
     // 5 and 6 April are extra cells of March; 7 and 8 April are not on the grid.
-    EXPECT_EQ(s.window.Take(), (Events{"cell 40", "cell 41", "update"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 40", "inv cell 41", "update"}));
 }
 
 TEST(Marks, ClearRemovesEveryMarkAndRedrawsTheGridOnlyIfThereWereAny) {
@@ -88,7 +88,7 @@ TEST(Marks, ClearingSelectExtraUnmarksTheExtraCellsOnDisplay) {
     s.window.Take();
     s.cal.SetStyle(CALS_SelectExtra, 0);
     EXPECT_EQ(s.window.Take(),
-              (Events{"cell 2", "cell 2", "cell 3", "cell 3", "cell 4", "cell 4", "cell 41", "cell 41"}));
+              (Events{"inv cell 2", "inv cell 2", "inv cell 3", "inv cell 3", "inv cell 4", "inv cell 4", "inv cell 41", "inv cell 41"}));
     EXPECT_EQ(s.cal.Marks().size(), 3u) << "1 and 2 March and 7 April stay";
 }
 
@@ -99,7 +99,7 @@ TEST(Marks, ClearingSelectSpecialUnmarksTheSpecialCellsOfTheMonth) {
     s.cal.MarkRange(CDateTime(2024, 2, 1), CDateTime(2024, 4, 3), 1, 0);
     s.window.Take();
     s.cal.SetStyle(CALS_SelectSpecial, 0);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 6", "cell 6"})) << "2 April is an extra cell and stays";
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 6", "inv cell 6"})) << "2 April is an extra cell and stays";
     EXPECT_EQ(s.cal.IsMarked(CDateTime(2024, 3, 2)), 0);
     EXPECT_EQ(s.cal.IsMarked(CDateTime(2024, 4, 2)), 1);
 }

@@ -16,7 +16,7 @@ SSpecialRule KindFor15March(int type) {
     return SSpecialRule(type, CDateTime(2024, 3, 15), 6, 3, 0x100u + type, 0x200u + type);
 }
 
-int Matches(zk::cal::CCalendar &cal, int y, int m, int d, int weekday, int week, uint32_t *text = nullptr,
+int Matches(zk::cal::CalendarModel &cal, int y, int m, int d, int weekday, int week, uint32_t *text = nullptr,
             uint32_t *back = nullptr) {
     return cal.MatchSpecial(SSpecialRule(0, CDateTime(y, m, d), weekday, week, 0, 0), text, back);
 }
@@ -78,7 +78,7 @@ TEST(Rules, AddingRemovingAndClearingRedrawOnlyWhatChanged) {
     EXPECT_EQ(s.cal.ClearSpecials(1), 1);
     EXPECT_TRUE(s.window.events.empty());
     s.cal.SetSpecialRule(KindFor15March(SPECIAL_Date), 1);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 19", "update"})) << "a date rule redraws only its cell";
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 19", "update"})) << "a date rule redraws only its cell";
     s.cal.SetSpecialRule(SSpecialRule(SPECIAL_Date, CDateTime(2025, 1, 1), 0, 0, 1, 2), 1);
     EXPECT_EQ(s.window.Take(), (Events{"update"})) << "a date off the grid has no cell";
     s.cal.SetSpecialRule(KindFor15March(SPECIAL_Weekly), 1);

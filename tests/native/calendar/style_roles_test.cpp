@@ -2,9 +2,11 @@
 // colour roles: defaults, derivation, explicit colours and their redraws.
 #include <gtest/gtest.h>
 
+#include <utility>
+
 #include <cstdio>
 
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 #include "calendar_fakes.h"
 
 namespace {
@@ -41,7 +43,7 @@ TEST(Style, EffectsOfEveryFlagInTheirOrder) {
     s.cal.SetStyle(kAllBits, 0);
     // ... then Multiple Selection cleared: the marks go and the focus date is
     // marked again (cell 19); Show Extra cleared moves no focus that is in the month.
-    EXPECT_EQ(s.window.Take(), (Events{"inv buttons", "inv buttons", "inv window", "inv grid", "cell 19",
+    EXPECT_EQ(s.window.Take(), (Events{"inv buttons", "inv buttons", "inv window", "inv grid", "inv cell 19",
                                        "inv grid", "inv grid", "inv body", "inv grid"}));
 }
 
@@ -61,38 +63,35 @@ TEST(Style, ShowExtraMovesTheFocusIntoTheMonthOrUnmarksExtraCells) {
     s.cal.MarkDate(CDateTime(2024, 4, 1), 1, 0, 0);
     s.window.Take();
     s.cal.SetStyle(CALS_ShowExtra, 1);
-    EXPECT_EQ(s.window.Take(), (Events{"cell 36", "cell 36", "inv grid"})) << "Select Extra is off";
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 36", "inv cell 36", "inv grid"})) << "Select Extra is off";
     EXPECT_EQ(s.cal.IsMarked(CDateTime(2024, 4, 1)), 0);
     EXPECT_EQ(s.cal.IsMarked(CDateTime(2024, 3, 31)), 1) << "the focus date's mark is no extra cell";
 }
 
-// The control frame keeps its own copy of some flags: the window hears of
-// every assignment, in the order of assignment.
+// The control frame keeps its own copy of some flags: it hears of every
+// assignment, in the order of assignment.
 TEST(Style, TheWindowHearsOfEveryFlagAssigned) {
-    struct FlagWindow final : caltest::RecordingWindow {
-        void FlagAssigned(uint32_t bit, int32_t value) override {
-            char text[32];
-            std::snprintf(text, sizeof text, "flag %04X=%d", static_cast<unsigned>(bit), static_cast<int>(value));
-            events.push_back(text);
-        }
-    } window;
-    zk::cal::CCalendar cal;
-    window.created = false;
-    cal.AttachWindow(&window);
+    zk::cal::CalendarModel cal;
+    Events heard;
+    cal.OnFlagAssigned([&](uint32_t bit, int32_t value) {
+        char text[32];
+        std::snprintf(text, sizeof text, "flag %04X=%d", static_cast<unsigned>(bit), static_cast<int>(value));
+        heard.push_back(text);
+    });
     cal.SetStyle(0xF0000 | CALS_AutoSize | CALS_AlternateButtons | CALS_ShowFocus, 3);
-    EXPECT_EQ(window.Take(), (Events{"flag 1000=3", "flag 0001=3", "flag 0200=3"}));
+    EXPECT_EQ(std::exchange(heard, {}), (Events{"flag 1000=3", "flag 0001=3", "flag 0200=3"}));
     cal.AssignStyleFlag(CALS_PopUp, -2);
     cal.AssignStyleFlag(0x2000, 1);
-    EXPECT_EQ(window.Take(), (Events{"flag 0002=-2"}));
+    EXPECT_EQ(heard, (Events{"flag 0002=-2"}));
     EXPECT_EQ(cal.Flags().popUp, -2);
 }
 
 TEST(Roles, DefaultsFollowTheSystemOrTheirRole) {
-    zk::cal::CCalendar cal;
+    zk::cal::CalendarModel cal;
     const int table[] = {-1, 5, -1, 15, 13, 15, 20, 16, 18, 8, -1, 17, 17, -1, 14, 6};
     for (int role = 0; role < 16; ++role) {
         SCOPED_TRACE(role);
-        EXPECT_EQ(zk::cal::CCalendar::RoleTableEntry(role), table[role] < 0 ? 0xFFFF : table[role]);
+        EXPECT_EQ(zk::cal::CalendarModel::RoleTableEntry(role), table[role] < 0 ? 0xFFFF : table[role]);
         if (table[role] >= 0)
             EXPECT_EQ(cal.GetRoleColor(role), SysColor(table[role]));
         EXPECT_EQ(cal.IsDerivedRoleColor(role), table[role] < 0 ? 1 : 0);
@@ -111,15 +110,15 @@ TEST(Roles, DefaultsFollowTheSystemOrTheirRole) {
 }
 
 TEST(Roles, SetReturnsTheColourInForceBeforeAndEndsTheDefault) {
-    zk::cal::CCalendar cal;
+    zk::cal::CalendarModel cal;
     // A derived role gives what it followed: the cells' background, the system's window colour.
     EXPECT_EQ(cal.SetRoleColor(CALR_ExtraBack, 0xABCDEF, 0), SysColor(5));
     EXPECT_EQ(cal.GetRoleColor(CALR_ExtraBack), 0xABCDEFu);
     EXPECT_EQ(cal.IsDerivedRoleColor(CALR_ExtraBack), 0);
     EXPECT_EQ(cal.SetRoleColor(CALR_ExtraBack, 0x000001, 0), 0xABCDEFu);
-    EXPECT_THROW(cal.GetRoleColor(16), zk::cal::InvalidArgError);
-    EXPECT_THROW(cal.SetRoleColor(-1, 0, 1), zk::cal::InvalidArgError);
-    EXPECT_THROW(cal.IsDerivedRoleColor(99), zk::cal::InvalidArgError);
+    EXPECT_THROW(cal.GetRoleColor(16), zk::InvalidArgException);
+    EXPECT_THROW(cal.SetRoleColor(-1, 0, 1), zk::InvalidArgException);
+    EXPECT_THROW(cal.IsDerivedRoleColor(99), zk::InvalidArgException);
 }
 
 TEST(Roles, EachRoleRedrawsItsArea) {

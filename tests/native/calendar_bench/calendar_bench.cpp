@@ -13,7 +13,7 @@
 
 namespace {
 
-using zk::cal::CCalendar;
+using zk::cal::CalendarModel;
 using zk::cal::CDateTime;
 using zk::cal::SSpecialRule;
 
@@ -25,14 +25,14 @@ struct Outcome {
 };
 
 // One rule of every kind, so that MatchSpecial looks up every key of a cell.
-void AddRules(CCalendar &cal) {
+void AddRules(CalendarModel &cal) {
     const CDateTime d(2001, 5, 13); // the second Sunday of May
     for (int type = SPECIAL_Date; type <= SPECIAL_YearWeekday; ++type)
         cal.SetSpecialRule(SSpecialRule(type, d, 1, 2, 0x10, 0x20), 1);
 }
 
 Outcome Run(int years) {
-    CCalendar cal;
+    CalendarModel cal;
     AddRules(cal);
     cal.SetStyle(CALS_MultipleSelection, 1);
     cal.MarkRange(CDateTime(kFirstYear, 1, 1), CDateTime(kFirstYear + years - 1, 12, 31), 1, 0);

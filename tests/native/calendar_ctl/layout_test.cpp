@@ -8,8 +8,8 @@ namespace {
 
 using zk::cal::ArrowCorners;
 using zk::cal::CalLayout;
-using zk::cal::CalPoint;
-using zk::cal::CalRect;
+using zk::Point;
+using zk::Rect;
 
 CalLayout Laid(int w, int h, int column = 8, int row = 12) {
     CalLayout layout;
@@ -22,14 +22,14 @@ TEST(CalLayoutMetrics, TheWorkedExample) {
     EXPECT_EQ(l.CellWidth(), 20) << "max(140 / 7 - 1, 8 * 2.5)";
     EXPECT_EQ(l.CellHeight(), 12) << "max(100 / 8 - 1, 12)";
     EXPECT_EQ(l.ButtonWidth(), 13);
-    EXPECT_EQ(l.Frame(), (CalRect{0, 0, 146, 103})) << "larger than the client: no offset";
-    EXPECT_EQ(l.LeftButton(), (CalRect{0, 0, 13, 12}));
-    EXPECT_EQ(l.RightButton(), (CalRect{127, 0, 140, 12}));
-    EXPECT_EQ(l.Caption(), (CalRect{13, 0, 126, 12})) << "one pixel short of the right button";
-    EXPECT_EQ(l.WeekdayHeader(), (CalRect{0, 13, 146, 25}));
-    EXPECT_EQ(l.Grid(), (CalRect{0, 26, 146, 103}));
-    EXPECT_EQ(l.Body(), (CalRect{0, 26, 140, 100}));
-    EXPECT_EQ(l.WeekdayBand(), (CalRect{0, 13, 140, 25}));
+    EXPECT_EQ(l.Frame(), (Rect{0, 0, 146, 103})) << "larger than the client: no offset";
+    EXPECT_EQ(l.LeftButton(), (Rect{0, 0, 13, 12}));
+    EXPECT_EQ(l.RightButton(), (Rect{127, 0, 140, 12}));
+    EXPECT_EQ(l.Caption(), (Rect{13, 0, 126, 12})) << "one pixel short of the right button";
+    EXPECT_EQ(l.WeekdayHeader(), (Rect{0, 13, 146, 25}));
+    EXPECT_EQ(l.Grid(), (Rect{0, 26, 146, 103}));
+    EXPECT_EQ(l.Body(), (Rect{0, 26, 140, 100}));
+    EXPECT_EQ(l.WeekdayBand(), (Rect{0, 13, 140, 25}));
 }
 
 TEST(CalLayoutMetrics, CellsGrowWithTheWindowAndTheFrameIsCentred) {
@@ -37,7 +37,7 @@ TEST(CalLayoutMetrics, CellsGrowWithTheWindowAndTheFrameIsCentred) {
     EXPECT_EQ(l.CellWidth(), 56);
     EXPECT_EQ(l.CellHeight(), 36);
     EXPECT_EQ(l.ButtonWidth(), 37) << "an even cell height gives an odd button";
-    EXPECT_EQ(l.Frame(), (CalRect{1, 2, 1 + 398, 2 + 295}));
+    EXPECT_EQ(l.Frame(), (Rect{1, 2, 1 + 398, 2 + 295}));
     EXPECT_EQ(l.WeekdayHeader().left, 1);
     EXPECT_EQ(l.WeekdayHeader().top, 37) << "the header follows the caption, not the frame";
     EXPECT_EQ(l.Caption().left, 37) << "buttons and caption use the whole width";
@@ -57,27 +57,27 @@ TEST(CalLayoutMetrics, TheFittedSizeLaysOutTheSameCells) {
 
 TEST(CalLayoutCells, RectanglesLeaveOnePixelGapsAndMinusOneIsEmpty) {
     const CalLayout l = Laid(140, 100);
-    EXPECT_EQ(l.CellRect(0), (CalRect{0, 26, 20, 38}));
-    EXPECT_EQ(l.CellRect(1), (CalRect{21, 26, 41, 38}));
-    EXPECT_EQ(l.CellRect(8), (CalRect{21, 39, 41, 51}));
-    EXPECT_EQ(l.CellRect(41), (CalRect{126, 91, 146, 103})) << "the last cell ends on the grid's corner";
+    EXPECT_EQ(l.CellRect(0), (Rect{0, 26, 20, 38}));
+    EXPECT_EQ(l.CellRect(1), (Rect{21, 26, 41, 38}));
+    EXPECT_EQ(l.CellRect(8), (Rect{21, 39, 41, 51}));
+    EXPECT_EQ(l.CellRect(41), (Rect{126, 91, 146, 103})) << "the last cell ends on the grid's corner";
     EXPECT_TRUE(l.CellRect(-1).Empty());
     EXPECT_TRUE(l.CellRect(42).Empty());
 }
 
 TEST(CalLayoutCells, RangesOfRectangles) {
     const CalLayout l = Laid(140, 100);
-    auto range = [&](CalRect r) {
+    auto range = [&](Rect r) {
         const auto s = l.CellRange(r);
         return std::pair(s.first, s.last);
     };
     EXPECT_EQ(range(l.Grid()), std::pair(0, 41));
     EXPECT_EQ(range(l.CellRect(9)), std::pair(9, 9));
-    EXPECT_EQ(range(CalRect{20, 26, 21, 38}), std::pair(0, 0)) << "a gap column belongs to the cell before";
-    EXPECT_EQ(range(CalRect{30, 40, 70, 60}), std::pair(8, 17)) << "first to last, whole rows between";
-    EXPECT_EQ(range(CalRect{0, 0, 140, 20}), std::pair(0, -1)) << "nothing of the grid";
-    EXPECT_TRUE(l.CellRange(CalRect{0, 0, 140, 26}).Empty());
-    EXPECT_EQ(range(CalRect{-50, -50, 500, 500}), std::pair(0, 41)) << "cut to the grid";
+    EXPECT_EQ(range(Rect{20, 26, 21, 38}), std::pair(0, 0)) << "a gap column belongs to the cell before";
+    EXPECT_EQ(range(Rect{30, 40, 70, 60}), std::pair(8, 17)) << "first to last, whole rows between";
+    EXPECT_EQ(range(Rect{0, 0, 140, 20}), std::pair(0, -1)) << "nothing of the grid";
+    EXPECT_TRUE(l.CellRange(Rect{0, 0, 140, 26}).Empty());
+    EXPECT_EQ(range(Rect{-50, -50, 500, 500}), std::pair(0, 41)) << "cut to the grid";
 }
 
 TEST(CalLayoutCells, HitTestKeepsTheFocusInGapsAndRefusesExtraCells) {
@@ -93,31 +93,31 @@ TEST(CalLayoutCells, HitTestKeepsTheFocusInGapsAndRefusesExtraCells) {
 }
 
 TEST(CalLayoutArrows, PlainButtonsPointDownAndUp) {
-    const CalRect left{0, 0, 13, 12}, right{127, 0, 140, 12};
+    const Rect left{0, 0, 13, 12}, right{127, 0, 140, 12};
     // a = (12 - 4) / 3 = 2, b = 13 / 2 = 6.
     const auto down = ArrowCorners(left, true, false, false);
-    EXPECT_EQ(down[0], (CalPoint{4, 4}));
-    EXPECT_EQ(down[1], (CalPoint{6, 6})) << "the tip below the base: down";
-    EXPECT_EQ(down[2], (CalPoint{8, 4}));
+    EXPECT_EQ(down[0], (Point{4, 4}));
+    EXPECT_EQ(down[1], (Point{6, 6})) << "the tip below the base: down";
+    EXPECT_EQ(down[2], (Point{8, 4}));
     const auto up = ArrowCorners(right, false, false, false);
-    EXPECT_EQ(up[0], (CalPoint{131, 6}));
-    EXPECT_EQ(up[1], (CalPoint{133, 4})) << "the tip above the base: up";
-    EXPECT_EQ(up[2], (CalPoint{135, 6}));
+    EXPECT_EQ(up[0], (Point{131, 6}));
+    EXPECT_EQ(up[1], (Point{133, 4})) << "the tip above the base: up";
+    EXPECT_EQ(up[2], (Point{135, 6}));
     const auto pressed = ArrowCorners(left, true, true, false);
-    EXPECT_EQ(pressed[1], (CalPoint{7, 7})) << "pressed: one pixel down and right";
+    EXPECT_EQ(pressed[1], (Point{7, 7})) << "pressed: one pixel down and right";
 }
 
 TEST(CalLayoutArrows, AlternateButtonsPointLeftAndRight) {
-    const CalRect left{0, 0, 13, 12}, right{127, 0, 140, 12};
+    const Rect left{0, 0, 13, 12}, right{127, 0, 140, 12};
     // a = (13 - 4) / 3 = 3, b = 12 / 2 = 6.
     const auto l = ArrowCorners(left, true, false, true);
-    EXPECT_EQ(l[0], (CalPoint{5, 6})) << "the tip";
-    EXPECT_EQ(l[1], (CalPoint{8, 9}));
-    EXPECT_EQ(l[2], (CalPoint{8, 3}));
+    EXPECT_EQ(l[0], (Point{5, 6})) << "the tip";
+    EXPECT_EQ(l[1], (Point{8, 9}));
+    EXPECT_EQ(l[2], (Point{8, 3}));
     EXPECT_LT(l[0].x, l[1].x) << "left";
     const auto r = ArrowCorners(right, false, false, true);
-    EXPECT_EQ(r[0], (CalPoint{135, 6}));
-    EXPECT_EQ(r[1], (CalPoint{132, 9}));
+    EXPECT_EQ(r[0], (Point{135, 6}));
+    EXPECT_EQ(r[1], (Point{132, 9}));
     EXPECT_GT(r[0].x, r[1].x) << "right";
 }
 

@@ -102,7 +102,7 @@ TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksAre
     c.input.LButtonDown(p.x, p.y, 0);
     c.input.LButtonUp(p.x, p.y, 0);
     p = c.Centre(12);
-    c.input.LButtonDown(p.x, p.y, k::kMouseShift | k::kMouseControl);
+    c.input.LButtonDown(p.x, p.y, zk::kMouseShift | zk::kMouseControl);
     c.input.LButtonUp(p.x, p.y, 0);
     EXPECT_EQ(c.cal().Marks().size(), 3u) << "6 to 8 March, from the anchor";
     c.fx.Take();
@@ -119,23 +119,23 @@ TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     c.input.LButtonDown(r.left + 2, 3, 0);
     EXPECT_EQ(c.state, k::CALF_RightDown);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 4, 15}));
-    EXPECT_EQ(c.fx.Take(), (Events{"button right", "capture", "start 503/250"}));
+    EXPECT_EQ(c.fx.Take(), (Events{"inv button right", "update", "capture", "start 503/250"}));
     c.shown.window.Take();
     for (int tick = 0; tick < 4; ++tick)
         c.input.Timer(k::kTimerMonthOn);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 8, 15}));
-    EXPECT_EQ(std::count(c.fx.events.begin(), c.fx.events.end(), std::string("caption")), 4);
+    EXPECT_EQ(std::count(c.fx.events.begin(), c.fx.events.end(), std::string("paint caption")), 4);
     for (const auto &e : c.shown.window.Take())
         EXPECT_EQ(e.rfind("notify", 0), 0u) << "while held the grid is not invalidated: " << e;
     c.fx.Take();
     c.input.LButtonUp(r.left + 2, 3, 0);
     const Events e = c.fx.Take();
-    EXPECT_TRUE(Has(e, "button right"));
-    EXPECT_TRUE(Has(e, "caption"));
+    EXPECT_TRUE(Has(e, "inv button right"));
+    EXPECT_TRUE(Has(e, "paint caption"));
     EXPECT_EQ(e.back(), "start 502/100");
     EXPECT_EQ(c.state, 0);
     c.input.Timer(k::kTimerCatchUp);
-    EXPECT_EQ(c.fx.Take(), (Events{"invalidate", "stop 502"}));
+    EXPECT_EQ(c.fx.Take(), (Events{"inv window", "stop 502"}));
     EXPECT_FALSE(c.input.Timer(499)) << "other timers are not the calendar's";
     EXPECT_FALSE(c.input.Timer(507));
 }
@@ -143,15 +143,15 @@ TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
 TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     Control c(2024, 3, 15);
     const auto l = c.layout.LeftButton();
-    c.input.LButtonDown(l.left + 2, 3, k::kMouseControl);
+    c.input.LButtonDown(l.left + 2, 3, zk::kMouseControl);
     EXPECT_EQ(c.Focus(), (Ymd{2023, 3, 15}));
     EXPECT_TRUE(Has(c.fx.Take(), "start 506/250"));
     c.input.MouseMove(60, 3, 0);
-    EXPECT_EQ(c.fx.Take(), (Events{"stop 504", "stop 506", "button left"}));
+    EXPECT_EQ(c.fx.Take(), (Events{"stop 504", "stop 506", "inv button left", "update"}));
     c.input.MouseMove(60, 4, 0);
-    EXPECT_FALSE(Has(c.fx.Take(), "button left")) << "the state did not change: no repaint";
+    EXPECT_FALSE(Has(c.fx.Take(), "inv button left")) << "the state did not change: no repaint";
     c.input.MouseMove(l.left + 3, 3, 0);
-    EXPECT_EQ(c.fx.Take(), (Events{"button left"})) << "pressed again, no timer";
+    EXPECT_EQ(c.fx.Take(), (Events{"inv button left", "update"})) << "pressed again, no timer";
     c.input.LButtonUp(l.left + 3, 3, 0);
     EXPECT_TRUE(Has(c.fx.Take(), "start 502/100"));
 }
@@ -167,7 +167,7 @@ TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut
     c.input.LButtonUp(60, 50, 0);
     const Events e = c.fx.Take();
     EXPECT_FALSE(Has(e, "start 502/100"));
-    EXPECT_FALSE(Has(e, "caption"));
+    EXPECT_FALSE(Has(e, "paint caption"));
     EXPECT_EQ(c.state, 0);
     c.Style(CALS_EnableButtons, 0);
     c.input.LButtonDown(l.left + 2, 3, 0);
@@ -195,14 +195,14 @@ TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
     c.input.LButtonDown(r.left + 2, 3, 0);
     c.fx.Take();
     c.input.FocusLost();
-    EXPECT_EQ(c.fx.Take(), (Events{"cell 15", "notify 2"})) << "15 April, after the first step";
+    EXPECT_EQ(c.fx.Take(), (Events{"inv cell 15", "notify 2"})) << "15 April, after the first step";
     EXPECT_TRUE(c.input.CancelPending());
     EXPECT_TRUE(c.input.Timer(k::kTimerMonthOn));
     EXPECT_EQ(c.Focus(), (Ymd{2024, 4, 15})) << "the tick did not step";
     EXPECT_EQ(c.state & (k::CALF_LeftDown | k::CALF_RightDown), 0);
     const Events e = c.fx.Take();
     EXPECT_TRUE(Has(e, "release") && Has(e, "stop 503") && Has(e, "stop 506"));
-    EXPECT_EQ(e.back(), "invalidate");
+    EXPECT_EQ(e.back(), "inv window");
     EXPECT_FALSE(c.input.CancelPending());
     c.input.Timer(k::kTimerMonthOn);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 5, 15})) << "ticks count again";
@@ -227,7 +227,7 @@ TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
 TEST(CalPressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
     Control c(2024, 3, 15);
     c.input.FocusGained();
-    EXPECT_EQ(c.fx.Take(), (Events{"cell 19 update"}));
+    EXPECT_EQ(c.fx.Take(), (Events{"inv cell 19", "update"}));
     c.Style(CALS_ShowFocus, 0);
     c.input.FocusGained();
     EXPECT_TRUE(c.fx.Take().empty());

@@ -8,7 +8,7 @@
 
 #include "calendar/core/date_ops.h"
 #include "calendar/core/datetime.h"
-#include "calendar/core/errors.h"
+#include "frame/core/errors.h"
 
 namespace {
 
@@ -44,7 +44,7 @@ TEST(NameTables, TheFirstDateFillsThemOnceAndSwallowsAMemoryException) {
     EXPECT_EQ(CDateTime::MonthName(4), u"text 19");
     EXPECT_EQ(CDateTime::MonthName(5), u"") << "the table stays as far as it got";
     EXPECT_EQ(CDateTime::MonthName(12), u"");
-    EXPECT_THROW(CDateTime::MonthName(13), zk::cal::InvalidArgError);
+    EXPECT_THROW(CDateTime::MonthName(13), zk::InvalidArgException);
 }
 
 } // namespace

@@ -7,6 +7,7 @@
 #include <new>
 
 #include "calendar/core/calendar_model.h"
+#include "fake_effects.h"
 
 namespace {
 
@@ -35,13 +36,11 @@ namespace {
 using zk::cal::CDateTime;
 using zk::cal::SSpecialRule;
 
-class Window final : public zk::cal::CalendarWindow {
+// A window not yet created: it hears only notifications, and records them
+// without allocating.
+class Window final : public zkt::FakeEffects {
 public:
-    bool IsCreated() const override { return false; }
-    void Invalidate(zk::cal::CalArea, bool) override {}
-    void InvalidateCell(int32_t) override {}
-    void UpdateNow() override {}
-    void RedrawAll() override {}
+    Window() { created = false; }
     void Notify(int32_t code) override { codes.push_back(code); }
     std::vector<int32_t> codes;
 };
@@ -74,9 +73,9 @@ int FailEachAllocationInTurn(Window &window, Add add, Size size) {
 }
 
 TEST(OutOfMemory, AddingAMark) {
-    zk::cal::CCalendar cal;
+    zk::cal::CalendarModel cal;
     Window window;
-    cal.AttachWindow(&window);
+    cal.AttachView(&window, nullptr);
     cal.MarkDate(CDateTime(2024, 1, 1), 1, 0, 0);
     const CDateTime date(2024, 1, 2);
     const int allocations = FailEachAllocationInTurn(
@@ -86,9 +85,9 @@ TEST(OutOfMemory, AddingAMark) {
 }
 
 TEST(OutOfMemory, AddingARule) {
-    zk::cal::CCalendar cal;
+    zk::cal::CalendarModel cal;
     Window window;
-    cal.AttachWindow(&window);
+    cal.AttachView(&window, nullptr);
     const SSpecialRule rule(SPECIAL_Weekly, CDateTime(2024, 1, 1), 3, 0, 1, 2);
     const int allocations = FailEachAllocationInTurn(
         window, [&] { return cal.SetSpecialRule(rule, 1); }, [&] { return cal.Rules().size(); });

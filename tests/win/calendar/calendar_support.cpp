@@ -12,7 +12,7 @@ namespace {
 class Library : public testing::Environment {
     void SetUp() override {
         zk::ModuleInstance = GetModuleHandleW(L"ZKLIB.dll");
-        zk::CCalendar warmUp;
+        zk::cal::CCalendar warmUp;
         ZelCalMarkDate(reinterpret_cast<ZelCalControl>(&warmUp), Date(2000, 1, 1), 1);
     }
 };
@@ -32,7 +32,7 @@ void CalendarExports::SetUp() {
     ZkHostFailAllocations(0);
     strings_ = ZkHostLiveStrings();
     arrays_ = ZkHostLiveArrays();
-    object_ = std::make_unique<zk::CCalendar>();
+    object_ = std::make_unique<zk::cal::CCalendar>();
     calendar = &object_->Model();
 }
 

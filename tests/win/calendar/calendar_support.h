@@ -60,10 +60,10 @@ protected:
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_.get()); }
 
     // The model the exports work on.
-    zk::cal::CCalendar *calendar = nullptr;
+    zk::cal::CalendarModel *calendar = nullptr;
 
 private:
-    std::unique_ptr<zk::CCalendar> object_;
+    std::unique_ptr<zk::cal::CCalendar> object_;
     int32_t strings_ = 0, arrays_ = 0;
 };
 

@@ -38,7 +38,7 @@ FormCalendar::FormCalendar(zkt::Box box, void *parameter) {
                             parameter);
     MSG m{};
     if (hwnd_ && PeekMessageW(&m, hwnd_, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
-        object_ = reinterpret_cast<zk::CCalendar *>(m.lParam);
+        object_ = reinterpret_cast<zk::cal::CCalendar *>(m.lParam);
     zkt::pumpMessages();
 }
 

@@ -44,7 +44,7 @@ public:
 
     HWND hwnd() const { return hwnd_; }
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_); }
-    zk::CCalendar &object() const { return *object_; }
+    zk::cal::CCalendar &object() const { return *object_; }
     const zk::cal::CalLayout &layout() const { return object_->Layout(); }
     Ymd Focus() const;
     int FocusCell() const { return object_->Model().FocusCell(); }
@@ -64,12 +64,12 @@ public:
 
 private:
     HWND hwnd_ = nullptr;
-    zk::CCalendar *object_ = nullptr;
+    zk::cal::CCalendar *object_ = nullptr;
 };
 
 // Pixels of a colour in a row or a column of a picture, between two bounds.
 int RowCount(const zkt::Bitmap &b, COLORREF colour, int y, int x0, int x1);
 int ColumnCount(const zkt::Bitmap &b, COLORREF colour, int x, int y0, int y1);
-inline RECT Win(const zk::cal::CalRect &r) { return RECT{r.left, r.top, r.right, r.bottom}; }
+inline RECT Win(const zk::Rect &r) { return RECT{r.left, r.top, r.right, r.bottom}; }
 
 } // namespace ctltest

@@ -60,14 +60,14 @@ TEST(CalendarPaint, GridlinesRunThroughTheGapsOnlyWhenAskedFor) {
 }
 
 // Rows of the arrow of a button: widths of the arrow colour per row.
-std::vector<int> ArrowRows(const zkt::Bitmap &b, const zk::cal::CalRect &r, COLORREF colour) {
+std::vector<int> ArrowRows(const zkt::Bitmap &b, const zk::Rect &r, COLORREF colour) {
     std::vector<int> rows;
     for (int y = r.top; y < r.bottom; ++y)
         if (int n = RowCount(b, colour, y, r.left, r.right))
             rows.push_back(n);
     return rows;
 }
-std::vector<int> ArrowColumns(const zkt::Bitmap &b, const zk::cal::CalRect &r, COLORREF colour) {
+std::vector<int> ArrowColumns(const zkt::Bitmap &b, const zk::Rect &r, COLORREF colour) {
     std::vector<int> columns;
     for (int x = r.left; x < r.right; ++x)
         if (int n = ColumnCount(b, colour, x, r.top, r.bottom))

@@ -10,7 +10,7 @@ class Popup : public testing::Test {
 protected:
     void SetUp() override {
         edit = notify.addEdit(9, {10, 10, 80, 20});
-        popup = new zk::CCalendar(); // owned by its window from CreatePopup on
+        popup = new zk::cal::CCalendar(); // owned by its window from CreatePopup on
         ASSERT_TRUE(popup->CreatePopup(RECT{60, 60, 300, 240}, notify));
         window = popup->GetSafeHwnd();
         popup->Model().AssignStyleFlag(CALS_PopUp, 1);
@@ -23,7 +23,7 @@ protected:
 
     zkt::TestWindow notify;
     HWND edit = nullptr;
-    zk::CCalendar *popup = nullptr;
+    zk::cal::CCalendar *popup = nullptr;
     HWND window = nullptr;
 };
 

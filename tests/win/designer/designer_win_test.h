@@ -7,6 +7,7 @@
 
 #include <windows.h>
 
+#include <array>
 #include <vector>
 
 #include "frame/win/control_create.h"
@@ -44,7 +45,8 @@ public:
         const int32_t all[] = {autoSize, thirdFlag, popUp, fourthFlag, fifthFlag, sixthFlag};
         return all[which];
     }
-    static uint16_t &RoleEntry(int role) { return roleTable[role]; }
+    // A table of a derived class's own, for roles that follow others.
+    void UseRoleTable(const std::array<uint16_t, kRoleCount> &table) { roles = zk::RoleColors<kRoleCount>(table); }
 };
 
 // A wrapper that loads its block at WM_CREATE, as the host-created classes do.

@@ -52,16 +52,12 @@ TEST_F(GenericControl, SettingARoleGivesTheColourInForceAndMayRedraw) {
 }
 
 TEST_F(GenericControl, ADerivingEntryFollowsTextOrWindowColour) {
-    const uint16_t saved1 = TestControl::RoleEntry(1), saved2 = TestControl::RoleEntry(2);
-    TestControl::RoleEntry(1) = 0xFFFF;
-    TestControl::RoleEntry(2) = 0xFFFF;
+    control->UseRoleTable({COLOR_WINDOW, zk::kFollows, zk::kFollows, COLOR_WINDOWFRAME});
     EXPECT_EQ(control->IsDerivedRoleColor(2), 1);
     EXPECT_EQ(control->GetRoleColor(1), GetSysColor(COLOR_WINDOWTEXT));
     EXPECT_EQ(control->GetRoleColor(2), GetSysColor(COLOR_WINDOW));
     control->SetRoleColor(2, RGB(1, 1, 1), 0);
     EXPECT_EQ(control->IsDerivedRoleColor(2), 0) << "an explicit colour does not derive";
-    TestControl::RoleEntry(1) = saved1;
-    TestControl::RoleEntry(2) = saved2;
 }
 
 TEST_F(GenericControl, CreationSetsNotifyWindowAndDefaultFont) {
@@ -101,11 +97,11 @@ TEST_F(GenericControl, SetFontKeepsACopyAndZeroMeansTheSystemFont) {
 
 TEST_F(GenericControl, EnableAndShowKeepTheStateBits) {
     EnableWindow(window, FALSE);
-    EXPECT_EQ(control->StateFlags(), TestControl::kStateDisabled);
+    EXPECT_EQ(control->StateFlags(), zk::kStateDisabled);
     ShowWindow(window, SW_HIDE);
-    EXPECT_EQ(control->StateFlags(), TestControl::kStateDisabled | TestControl::kStateHidden);
+    EXPECT_EQ(control->StateFlags(), zk::kStateDisabled | zk::kStateHidden);
     EnableWindow(window, TRUE);
-    EXPECT_EQ(control->StateFlags(), TestControl::kStateHidden);
+    EXPECT_EQ(control->StateFlags(), zk::kStateHidden);
     ShowWindow(window, SW_SHOW);
     EXPECT_EQ(control->StateFlags(), 0);
     EXPECT_TRUE(IsWindowEnabled(window)) << "the default handling still ran";

@@ -2,7 +2,7 @@
 // string 48 for a null pointer, the row's words for an exception.
 #include <stdexcept>
 
-#include "frame/win/control_guard.h"
+#include "frame/win/guard.h"
 #include "designer_win_test.h"
 
 using namespace designertest;

@@ -1,4 +1,6 @@
-#include "frame/win/bevel.h"
+#include "frame/win/draw.h"
+
+#include "frame/win/gdi.h"
 
 namespace zk {
 
@@ -22,29 +24,39 @@ void DrawBevel(HDC dc, const RECT &rect, COLORREF outerTopLeft, COLORREF outerBo
                COLORREF innerBottomRight) {
     if (!dc)
         return;
-    const COLORREF colours[4] = {outerTopLeft, outerBottomRight, innerTopLeft, innerBottomRight};
-    HPEN pens[4] = {};
-    for (int i = 0; i < 4; ++i)
-        pens[i] = CreatePen(PS_SOLID, 1, colours[i]);
-    if (pens[0] && pens[1] && pens[2] && pens[3])
-        DrawBevel(dc, rect, pens[0], pens[1], pens[2], pens[3]);
-    for (HPEN pen : pens)
-        if (pen)
-            DeleteObject(pen);
+    const Pen pens[4] = {SolidPen(outerTopLeft), SolidPen(outerBottomRight), SolidPen(innerTopLeft),
+                         SolidPen(innerBottomRight)};
+    DrawBevel(dc, rect, pens[0], pens[1], pens[2], pens[3]);
 }
 
 void DrawBevel(HDC dc, const RECT &rect, HPEN outerTopLeft, HPEN outerBottomRight, HPEN innerTopLeft,
                HPEN innerBottomRight) {
     if (!dc || !outerTopLeft || !outerBottomRight || !innerTopLeft || !innerBottomRight)
         return;
-    const HGDIOBJ previous = SelectObject(dc, outerTopLeft);
+    const Selected selected(dc, outerTopLeft);
     POINT at{};
     MoveToEx(dc, 0, 0, &at);
     RECT r{rect.left, rect.top, rect.right - 1, rect.bottom - 1};
     Ring(dc, r, outerTopLeft, outerBottomRight);
     Ring(dc, r, innerTopLeft, innerBottomRight);
     MoveToEx(dc, at.x, at.y, nullptr);
-    SelectObject(dc, previous);
+}
+
+void Line(HDC dc, HPEN pen, int x1, int y1, int x2, int y2) {
+    const Selected selected(dc, pen);
+    MoveToEx(dc, x1, y1, nullptr);
+    LineTo(dc, x2, y2);
+}
+
+void CentredText(HDC dc, std::u16string_view text, const RECT &box, COLORREF textColour, COLORREF backColour) {
+    if (text.empty())
+        return;
+    SetTextColor(dc, textColour);
+    SetBkColor(dc, backColour);
+    SetBkMode(dc, OPAQUE);
+    RECT r = box;
+    DrawTextW(dc, reinterpret_cast<const wchar_t *>(text.data()), static_cast<int>(text.size()), &r,
+              DT_CENTER | DT_VCENTER | DT_SINGLELINE);
 }
 
 } // namespace zk
