@@ -80,7 +80,7 @@ function(zk_win_test name)
   add_executable(${name} ${ARGN})
   get_property(components GLOBAL PROPERTY ZK_COMPONENT_LIBRARIES)
   list(JOIN components "," group)
-  target_link_libraries(${name} PRIVATE zkharness ZKLIB zkhost "$<LINK_GROUP:RESCAN,${group}>"
+  target_link_libraries(${name} PRIVATE zktsupport zkharness ZKLIB zkhost "$<LINK_GROUP:RESCAN,${group}>"
                                         GTest::gtest GTest::gtest_main)
   target_include_directories(${name} PRIVATE ${CMAKE_SOURCE_DIR}/include ${CMAKE_SOURCE_DIR}/src)
   zk_warnings(${name})

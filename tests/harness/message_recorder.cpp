@@ -36,7 +36,21 @@ LRESULT CALLBACK getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
     return CallNextHookEx(hooks.getMessage, code, wParam, lParam);
 }
 
+WNDPROC watchedNext = nullptr;
+
+LRESULT CALLBACK defaultWatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    for (MessageRecorder *recorder : hooks.recorders) {
+        recorder->record(window, message, wParam, lParam, false, true);
+    }
+    return watchedNext ? CallWindowProcW(watchedNext, window, message, wParam, lParam)
+                       : DefWindowProcW(window, message, wParam, lParam);
+}
+
 } // namespace
+
+DefaultWatch::DefaultWatch(WNDPROC next) { watchedNext = next; }
+DefaultWatch::~DefaultWatch() { watchedNext = nullptr; }
+WNDPROC DefaultWatch::procedure() const { return &defaultWatchProc; }
 
 MessageRecorder::MessageRecorder() {
     if (hooks.recorders.empty()) {
@@ -68,11 +82,41 @@ void MessageRecorder::watch(HWND window) { watched_.push_back(window); }
 
 void MessageRecorder::watchAll() { all_ = true; }
 
-void MessageRecorder::record(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                             bool posted) {
+void MessageRecorder::record(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool posted,
+                             bool defaulted) {
     if (all_ || std::find(watched_.begin(), watched_.end(), window) != watched_.end()) {
-        messages_.push_back(RecordedMessage{window, message, wParam, lParam, posted});
+        messages_.push_back(RecordedMessage{window, message, wParam, lParam, posted, defaulted});
     }
+}
+
+long MessageRecorder::find(HWND window, UINT message, WPARAM wParam) const {
+    for (size_t i = 0; i < messages_.size(); ++i) {
+        const RecordedMessage &m = messages_[i];
+        if (m.hwnd == window && m.message == message && m.wParam == wParam && !m.defaulted) {
+            return static_cast<long>(i);
+        }
+    }
+    return -1;
+}
+
+long MessageRecorder::findCommand(HWND window, int notification) const {
+    for (size_t i = 0; i < messages_.size(); ++i) {
+        const RecordedMessage &m = messages_[i];
+        if (m.hwnd == window && m.message == WM_COMMAND && HIWORD(m.wParam) == notification && !m.defaulted) {
+            return static_cast<long>(i);
+        }
+    }
+    return -1;
+}
+
+std::vector<int> MessageRecorder::notifications(HWND control) const {
+    std::vector<int> codes;
+    for (const RecordedMessage &m : messages_) {
+        if (m.message == WM_COMMAND && reinterpret_cast<HWND>(m.lParam) == control && !m.defaulted) {
+            codes.push_back(HIWORD(m.wParam));
+        }
+    }
+    return codes;
 }
 
 int MessageRecorder::count(UINT message, HWND window) const {

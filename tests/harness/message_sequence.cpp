@@ -21,8 +21,13 @@ std::string describe(const ExpectedMessage &entry) {
     if (entry.flags & posted) {
         text += " posted";
     }
-    if (entry.flags & wparam) {
+    if (entry.flags & code) {
+        text += " code=" + std::to_string(entry.wParam);
+    } else if (entry.flags & wparam) {
         text += " wParam=" + hex(static_cast<unsigned long long>(entry.wParam));
+    }
+    if (entry.flags & defaulted) {
+        text += " to the default procedure";
     }
     if (entry.flags & lparam) {
         text += " lParam=" + hex(static_cast<unsigned long long>(entry.lParam));
@@ -46,7 +51,13 @@ bool matches(const ExpectedMessage &want, const RecordedMessage &got) {
     if ((want.flags & posted) && !got.posted) {
         return false;
     }
-    if ((want.flags & wparam) && want.wParam != got.wParam) {
+    if (((want.flags & defaulted) != 0) != got.defaulted) {
+        return false;
+    }
+    if ((want.flags & code) && want.wParam != HIWORD(got.wParam)) {
+        return false;
+    }
+    if ((want.flags & wparam) && !(want.flags & code) && want.wParam != got.wParam) {
         return false;
     }
     if ((want.flags & lparam) && want.lParam != got.lParam) {
@@ -71,7 +82,7 @@ bool matches(const ExpectedMessage &want, const RecordedMessage &got) {
 } // namespace
 
 std::string describe(const RecordedMessage &message) {
-    return messageName(message.message) + (message.posted ? " posted" : " sent") +
+    return messageName(message.message) + (message.posted ? " posted" : message.defaulted ? " defaulted" : " sent") +
            " wParam=" + hex(static_cast<unsigned long long>(message.wParam)) +
            " lParam=" + hex(static_cast<unsigned long long>(message.lParam)) + " to " +
            hex(reinterpret_cast<std::uintptr_t>(message.hwnd));

@@ -16,7 +16,8 @@ struct RecordedMessage {
     UINT message;
     WPARAM wParam;
     LPARAM lParam;
-    bool posted; // taken from the queue rather than sent
+    bool posted;            // taken from the queue rather than sent
+    bool defaulted = false; // passed on to a default procedure a DefaultWatch watches
 };
 
 // Records, in order, messages sent to watched windows (WH_CALLWNDPROC) and
@@ -36,9 +37,17 @@ public:
 
     const std::vector<RecordedMessage> &messages() const { return messages_; }
     int count(UINT message, HWND window = nullptr) const;
+    // Position of the first message to the window with that wParam, or -1.
+    long find(HWND window, UINT message, WPARAM wParam) const;
+    // Position of the first WM_COMMAND to the window with that notification
+    // code in wParam's high word, or -1.
+    long findCommand(HWND window, int code) const;
+    // The notification codes of the WM_COMMANDs from a control (its window
+    // in lParam), in order: what a parent hears of it.
+    std::vector<int> notifications(HWND control) const;
 
     // Called by the hooks.
-    void record(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool posted);
+    void record(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool posted, bool defaulted = false);
 
 private:
     std::vector<HWND> watched_;
@@ -54,6 +63,8 @@ enum : unsigned {
     wparam = 1u << 2,
     lparam = 1u << 3,
     optional = 1u << 4, // may be missing
+    code = 1u << 5,     // a WM_COMMAND compared by its notification code: wParam's high word against wParam
+    defaulted = 1u << 6, // went on to the default procedure (recorded by a DefaultWatch)
 };
 
 struct ExpectedMessage {
@@ -77,6 +88,27 @@ struct ExpectedMessage {
 // else the system delivers meanwhile cannot change the outcome.
 ::testing::AssertionResult matchNamed(const std::vector<RecordedMessage> &got,
                                       const std::vector<ExpectedMessage> &want);
+
+// A notification a control posts to its parent: WM_COMMAND with the code,
+// the control's window in lParam.
+inline ExpectedMessage Notified(int notification, HWND control) {
+    return ExpectedMessage{WM_COMMAND, posted | code | lparam, static_cast<WPARAM>(notification),
+                           reinterpret_cast<LPARAM>(control)};
+}
+
+// Watches what a window object passes on to its default procedure: while
+// alive, the procedure it hands out (to put in the object's place of the
+// default procedure) records each message, with `defaulted` set, in the
+// recorders alive on the thread, then calls `next` (DefWindowProcW when
+// null). One watch at a time.
+class DefaultWatch {
+public:
+    explicit DefaultWatch(WNDPROC next);
+    ~DefaultWatch();
+    DefaultWatch(const DefaultWatch &) = delete;
+    DefaultWatch &operator=(const DefaultWatch &) = delete;
+    WNDPROC procedure() const;
+};
 
 // Messages that Wine and the window manager send when they like (hit tests,
 // cursor, icons, non-client paint, IME...), for `ignore`.

@@ -2,16 +2,16 @@
 
 #include "frame/win/host.h"
 
-#include <unordered_map>
 
 namespace zk {
 
 namespace {
 
-// The permanent map from windows to their objects.
-std::unordered_map<HWND, Window *> &Objects() {
-    static std::unordered_map<HWND, Window *> objects;
-    return objects;
+// The family of the controls: the windows of the library's classes and the
+// objects the bootstraps attach.
+WindowFamily &Controls() {
+    static WindowFamily family{&Window::FrameProcedure, {}, {}};
+    return family;
 }
 
 // The object of a CreateEx under way, taken by the first message of the new window.
@@ -30,33 +30,52 @@ Window::~Window() {
         Unbind();
 }
 
-Window *Window::FromHandle(HWND window) {
+WindowFamily &Window::Family() const { return Controls(); }
+
+Window *Window::FromHandle(HWND window) { return FromHandle(window, Controls()); }
+
+Window *Window::FromHandle(HWND window, WindowFamily &family) {
     if (!window)
         return nullptr;
-    const auto found = Objects().find(window);
-    return found == Objects().end() ? nullptr : found->second;
+    const auto found = family.objects.find(window);
+    return found == family.objects.end() ? nullptr : found->second;
 }
 
 bool Window::Bind(HWND window) {
-    if (!window || hwnd_ || FromHandle(window))
+    WindowFamily &family = Family();
+    if (!window || hwnd_ || FromHandle(window, family))
         return false;
     try {
-        Objects().emplace(window, this);
+        family.objects.emplace(window, this);
     } catch (...) {
         return false;
     }
+    family.forward.erase(window);
     hwnd_ = window;
+    family_ = &family;
     return true;
 }
 
 void Window::Unbind() {
-    Objects().erase(hwnd_);
-    // A window still running the framework's procedure gets its own back,
-    // so that what comes after the object is handled as before it.
-    if (subclassed_ && ProcedureOf(hwnd_) == &FrameProcedure)
-        SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(super_));
+    WindowFamily &family = *family_;
+    family.objects.erase(hwnd_);
+    if (subclassed_) {
+        // A window still running the family's procedure gets its own back,
+        // so that what comes after the object is handled as before it. When
+        // another procedure was put above ours, ours stays in the chain and
+        // passes the window's messages on to the one it replaced.
+        if (ProcedureOf(hwnd_) == family.procedure) {
+            SetWindowLongPtrW(hwnd_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(super_));
+        } else {
+            try {
+                family.forward[hwnd_] = super_;
+            } catch (...) {
+            }
+        }
+    }
     subclassed_ = false;
     hwnd_ = nullptr;
+    family_ = nullptr;
 }
 
 HWND Window::CreateEx(DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, int x, int y,
@@ -90,14 +109,15 @@ HWND Window::Detach() {
 bool Window::SubclassWindow(HWND window) {
     if (!Attach(window))
         return false;
-    const WNDPROC former = ReplaceProcedure(window, &FrameProcedure);
+    const WNDPROC procedure = family_->procedure;
+    const WNDPROC former = ReplaceProcedure(window, procedure);
     if (!former) {
         Unbind();
         return false;
     }
-    // A window already on the framework's procedure keeps DefWindowProcW
+    // A window already on the family's procedure keeps DefWindowProcW
     // behind it, or Default() would come back here.
-    subclassed_ = former != &FrameProcedure;
+    subclassed_ = former != procedure;
     super_ = subclassed_ ? former : nullptr;
     return true;
 }
@@ -141,7 +161,7 @@ LRESULT Window::Dispatch(Window *object, HWND window, UINT message, WPARAM wPara
             ValidateRect(window, nullptr);
     }
     currentMessage = outer;
-    if (message == WM_NCDESTROY && FromHandle(window) == object) {
+    if (message == WM_NCDESTROY && object->family_ && FromHandle(window, *object->family_) == object) {
         object->Unbind();
         try {
             object->PostNcDestroy();
@@ -152,21 +172,29 @@ LRESULT Window::Dispatch(Window *object, HWND window, UINT message, WPARAM wPara
 }
 
 LRESULT CALLBACK Window::FrameProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    Window *object = FromHandle(window);
     // Only these two come before a new window is known; any other message
     // for a window without object is not the creation under way.
-    if (!object && pendingCreation && (message == WM_NCCREATE || message == WM_GETMINMAXINFO)) {
+    if (pendingCreation && (message == WM_NCCREATE || message == WM_GETMINMAXINFO) && !FromHandle(window)) {
         Window *pending = pendingCreation;
-        if (pending->Bind(window)) {
+        if (pending->Bind(window))
             pendingCreation = nullptr;
-            object = pending;
-        } else if (message == WM_NCCREATE) {
+        else if (message == WM_NCCREATE)
             return FALSE;
-        }
     }
-    if (!object)
+    return Route(Controls(), window, message, wParam, lParam);
+}
+
+LRESULT Window::Route(WindowFamily &family, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    if (Window *object = FromHandle(window, family))
+        return Dispatch(object, window, message, wParam, lParam);
+    const auto forward = family.forward.find(window);
+    if (forward == family.forward.end())
         return DefWindowProcW(window, message, wParam, lParam);
-    return Dispatch(object, window, message, wParam, lParam);
+    const WNDPROC next = forward->second;
+    if (message == WM_NCDESTROY)
+        family.forward.erase(forward);
+    return next ? CallWindowProcW(next, window, message, wParam, lParam)
+                : DefWindowProcW(window, message, wParam, lParam);
 }
 
 WNDPROC ReplaceProcedure(HWND window, WNDPROC procedure) {

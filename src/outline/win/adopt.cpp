@@ -3,6 +3,7 @@
 // once for the list messages; later calls only add style bits.
 #include "frame/win/propcache.h"
 #include "frame/win/guard.h"
+#include "outline/win/lbx_adopted.h"
 #include "outline/win/lbx_procs.h"
 
 namespace {
@@ -17,13 +18,17 @@ bool AdoptParent(HWND parent) {
     if (!record) {
         return false;
     }
-    const LONG_PTR former = GetWindowLongPtrW(parent, GWLP_WNDPROC);
-    zk::LocalWith<LbxParent>(record, [&](LbxParent &p) { p.parentProc = static_cast<std::uintptr_t>(former); });
     if (!zk::PropSet(parent, kLbxParentProp, record)) {
         LocalFree(record);
         return false;
     }
-    SetWindowLongPtrW(parent, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&LbxParentWndProc));
+    const WNDPROC former = LbxSitOn<LbxAdoptedParent>(parent);
+    if (!former) {
+        zk::PropRemove(parent, kLbxParentProp);
+        LocalFree(record);
+        return false;
+    }
+    zk::LocalWith<LbxParent>(record, [&](LbxParent &p) { p.parentProc = reinterpret_cast<std::uintptr_t>(former); });
     return true;
 }
 
@@ -36,11 +41,7 @@ bool AdoptControl(HWND window, LbxKind kind) {
     if (!record) {
         return false;
     }
-    const LONG_PTR former = GetWindowLongPtrW(window, GWLP_WNDPROC);
-    zk::LocalWith<LbxChild>(record, [&](LbxChild &c) {
-        c.childProc = static_cast<std::uintptr_t>(former);
-        c.indent = 5;
-    });
+    zk::LocalWith<LbxChild>(record, [&](LbxChild &c) { c.indent = 5; });
     if (!zk::PropSet(window, kLbxChildProp, record)) {
         LocalFree(record);
         return false;
@@ -48,8 +49,13 @@ bool AdoptControl(HWND window, LbxKind kind) {
     // The host's own window objects of the list classes (CMtkListBox,
     // CMtkComboBox) exist only inside a framework host; this runtime keeps
     // none, so there is nothing to detach before subclassing.
-    WNDPROC proc = kind == LbxKind::Combo ? &LbxComboBoxWndProc : &LbxListBoxWndProc;
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(proc));
+    const WNDPROC former = LbxSitOn<LbxAdoptedControl>(window, kind);
+    if (!former) {
+        zk::PropRemove(window, kLbxChildProp);
+        LocalFree(record);
+        return false;
+    }
+    zk::LocalWith<LbxChild>(record, [&](LbxChild &c) { c.childProc = reinterpret_cast<std::uintptr_t>(former); });
     return true;
 }
 
@@ -105,9 +111,7 @@ int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
             if (parentWasPlain) {
                 // Undo this call's parent record; the parent saw no message meanwhile.
                 HLOCAL record = LbxParentHandle(parent);
-                LbxParent p{};
-                zk::LocalCopy(record, &p);
-                SetWindowLongPtrW(parent, GWLP_WNDPROC, static_cast<LONG_PTR>(p.parentProc));
+                LbxStandDown<LbxAdoptedParent>(parent);
                 zk::PropRemove(parent, kLbxParentProp);
                 LocalFree(record);
             }

@@ -39,7 +39,8 @@ void LbxReleaseControl(HWND window, const LbxChild &child, bool combo) {
     if (child.tabStops) {
         LocalFree(static_cast<HLOCAL>(child.tabStops));
     }
-    SetWindowLongPtrW(window, GWLP_WNDPROC, static_cast<LONG_PTR>(child.childProc));
+    // The window object stays until the window goes, passing what comes
+    // after this to the base procedure.
     LocalFree(LbxChildHandle(window));
     zk::PropRemove(window, kLbxChildProp);
     zk::LbxPicFreeAll(window);

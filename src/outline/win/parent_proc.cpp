@@ -8,8 +8,8 @@
 
 namespace {
 
-// The children of the parent learn that it goes; then the parent's own
-// procedure comes back and the record goes.
+// The children of the parent learn that it goes; then the record goes,
+// and the parent's messages pass to its own procedure from here on.
 LRESULT ParentDestroy(HWND window, const LbxParent &record, WPARAM wParam, LPARAM lParam) {
     for (HWND child = GetTopWindow(window); child; child = GetWindow(child, GW_HWNDNEXT)) {
         if (LbxChildHandle(child)) {
@@ -17,7 +17,6 @@ LRESULT ParentDestroy(HWND window, const LbxParent &record, WPARAM wParam, LPARA
         }
     }
     const WNDPROC former = reinterpret_cast<WNDPROC>(record.parentProc);
-    SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(former));
     LocalFree(LbxParentHandle(window));
     zk::PropRemove(window, kLbxParentProp);
     return CallWindowProcW(former, window, WM_DESTROY, wParam, lParam);

@@ -1,0 +1,64 @@
+// What the calendar window tests share: a form with a calendar made by the
+// host's class, the pointer the control announced and its paint read back
+// from a memory context.
+#pragma once
+
+#include <gtest/gtest.h>
+#include <windows.h>
+
+#include <vector>
+
+#include "calendar/win/calendar_window.h"
+#include "zkharness.h"
+#include "zkhost.h"
+#include "zkhostctl.h"
+#include "zklib.h"
+
+namespace ctltest {
+
+inline HostDateTime Date(int year, int month, int day) {
+    HostDateTime d{};
+    HostDateConstruct(&d, year, month, day, 0, 0, 0);
+    return d;
+}
+
+struct Ymd {
+    int year, month, day;
+    bool operator==(const Ymd &) const = default;
+};
+std::ostream &operator<<(std::ostream &out, const Ymd &d);
+
+// The form's calendar: "ZK:cCalendar:10" on a test window, its announced
+// pointer taken from the queue. The clock stands at 15 March 2024.
+class FormCalendar {
+public:
+    explicit FormCalendar(zkt::Box box = {10, 10, 240, 180}, void *parameter = nullptr);
+    ~FormCalendar();
+
+    HWND hwnd() const { return hwnd_; }
+    ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_); }
+    zk::cal::CCalendar &object() const { return *object_; }
+    const zk::cal::CalLayout &layout() const { return object_->Layout(); }
+    Ymd Focus() const;
+    int FocusCell() const { return object_->Model().FocusCell(); }
+    // The client area as the control paints it.
+    zkt::Bitmap Paint() const;
+    // A message to the control at a client point.
+    void Mouse(UINT message, int x, int y, WPARAM keys = 0) const;
+    void MouseAtCell(UINT message, int cell, WPARAM keys = 0) const;
+
+    zkt::TestWindow form{420, 320};
+    HBRUSH listBrush = nullptr; // the form's answer to WM_CTLCOLORLISTBOX, when set
+    COLORREF listText = 0;
+
+private:
+    HWND hwnd_ = nullptr;
+    zk::cal::CCalendar *object_ = nullptr;
+};
+
+// Pixels of a colour in a row or a column of a picture, between two bounds.
+int RowCount(const zkt::Bitmap &b, COLORREF colour, int y, int x0, int x1);
+int ColumnCount(const zkt::Bitmap &b, COLORREF colour, int x, int y0, int y1);
+inline RECT Win(const zk::Rect &r) { return RECT{r.left, r.top, r.right, r.bottom}; }
+
+} // namespace ctltest

@@ -1,3 +1,0 @@
-# The form's calendar is driven through the library as the host drives it;
-# the drop-down's pop-up has no class of the host's: it is made here from the
-# calendar's own code.

@@ -1,1 +1,0 @@
-# The shared file routines are not exported: the program links them.

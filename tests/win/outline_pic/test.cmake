@@ -1,1 +1,0 @@
-# The registries are not exported: the program links the outline's code.
