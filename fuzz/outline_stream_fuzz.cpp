@@ -1,6 +1,6 @@
 // Bytes of any shape into the outline stream reader. Beyond not crashing:
 // a stream that reads must describe a tree the loader can build (each
-// record's parent read before it, one level up), and must come back equal
+// record's parent read before it, at a level above it), and must come back equal
 // through the writer, whose bytes read again to the same records.
 #include <cstddef>
 #include <cstdint>
@@ -24,12 +24,14 @@ void CheckShape(const OBLOB &blob, const std::vector<int32_t> &parents) {
         const int32_t parent = parents[i];
         if (parent == kIsRoot) {
             check(i == 0 && level == -1);
-        } else if (parent == kUnderRoot) {
-            check(level == 0);
-        } else {
+            continue;
+        }
+        check(level >= 0 && level <= kMaxLevel);
+        // A jump deeper than one level loads under the record before it, so
+        // a parent is any earlier record above this one, or the root itself.
+        if (parent != kUnderRoot) {
             check(parent >= 0 && static_cast<size_t>(parent) < i);
-            check(blob.items[static_cast<size_t>(parent)].level == level - 1);
-            check(level <= kMaxLevel);
+            check(blob.items[static_cast<size_t>(parent)].level < level);
         }
     }
 }
