@@ -1,0 +1,3 @@
+# The form's palette is driven through the library as the host drives it;
+# the pop-up has no class of the host's: it is made here from the palette's
+# own code.
