@@ -21,6 +21,8 @@ void CColorPalette::TakePaintColours(HDC dc) {
 
 void CColorPalette::Paint(HDC dc, const Rect &clip) {
     const SavedDC saved(dc);
+    // Only the clip box is copied to the screen: drawing is held to it.
+    IntersectClipRect(dc, clip.left, clip.top, clip.right, clip.bottom);
     TakePaintColours(dc);
     const RoleTools tools = PaintTools(model_);
     const RECT client = ToRECT(ClientArea());
