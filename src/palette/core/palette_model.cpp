@@ -5,6 +5,8 @@
 
 #include <algorithm>
 
+#include "frame/core/block_io.h"
+
 namespace zk::pal {
 
 PaletteModel::PaletteModel() : roles_(RoleTable()) {}
@@ -53,6 +55,8 @@ void PaletteModel::LayoutChanged(int update) {
 }
 
 // ---- block and style ------------------------------------------------------------
+
+void PaletteModel::SerializeBlock(CArchive &ar) { SerializeHeldBlock(ar, block_); }
 
 int PaletteModel::ApplyProperties(const SPropPalette &block) {
     block_ = block;

@@ -63,6 +63,10 @@ public:
 
     // ---- block, style ---------------------------------------------------------
     const SPropPalette &Block() const { return block_; }
+    // The Serialize of the window class that holds the block: the block,
+    // then a u32 version 1 that a reader reads and ignores. Reading
+    // replaces the block and does nothing more.
+    void SerializeBlock(CArchive &ar);
     bool DropDown() const { return block_.dropDown == 1; }
     bool KeepSelection() const { return block_.keepSelection == 1; }
     bool RecentEnabled() const { return block_.enableRecent == 1; }

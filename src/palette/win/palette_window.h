@@ -41,6 +41,8 @@ public:
     bool Create(const RECT &rect, HWND parent, HWND notify);
     // The block to the model, recent colours as it says, an update. 1.
     int ApplyProperties(const SPropPalette &block);
+    // The block, then a u32 version 1 (ignored on reading).
+    void Serialize(CArchive &ar) { model_.SerializeBlock(ar); }
     // Frame extents; -1 until created.
     int GetFrameWidth() const { return FrameWidth(); }
     int GetFrameHeight() const { return FrameHeight(); }
