@@ -31,16 +31,7 @@ COLORREF MainColour(int i) { return RGB(40 + 5 * i, 255 - 6 * i, (97 * i) & 0xFF
 
 // The baseline: a fill, 48 cells each with a brush of its colour, five texts.
 HFONT baselineFont = nullptr;
-LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ERASEBKGND)
-        return 1;
-    if (message != WM_PAINT)
-        return DefWindowProcW(window, message, wParam, lParam);
-    PAINTSTRUCT ps{};
-    HDC dc = BeginPaint(window, &ps);
-    RECT client{};
-    GetClientRect(window, &client);
-    FillRect(dc, &client, GetSysColorBrush(COLOR_WINDOW));
+void PlainCells(HDC dc) {
     const int cw = (kWidth - 7) / 7 - 1, ch = 17;
     for (int cell = 0; cell < kMain + kRecent; ++cell) {
         const int top = cell < kMain ? 3 + (cell / 7) * (ch + 1) : 150 + ((cell - kMain) / 7) * (ch + 1);
@@ -57,8 +48,10 @@ LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         DrawTextW(dc, kTexts[i], -1, &r, DT_VCENTER | DT_SINGLELINE);
     }
     SelectObject(dc, old);
-    EndPaint(window, &ps);
-    return 0;
+}
+
+LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return PlainPaint(window, message, wParam, lParam, &PlainCells);
 }
 
 // The region each paint of the palette covered, summed, and the last one.
@@ -77,31 +70,6 @@ LRESULT CALLBACK Watcher(HWND window, UINT message, WPARAM wParam, LPARAM lParam
         }
     }
     return CallWindowProcW(paletteProc, window, message, wParam, lParam);
-}
-
-HWND MakeForm() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = DefWindowProcW;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"ZkPaletteBenchForm";
-    RegisterClassW(&wc);
-    WNDCLASSW plain{};
-    plain.style = CS_PARENTDC | CS_BYTEALIGNWINDOW; // as the palette's class: the same paint route
-    plain.lpfnWndProc = PlainProc;
-    plain.hInstance = wc.hInstance;
-    plain.lpszClassName = L"ZkPaletteBenchPlain";
-    RegisterClassW(&plain);
-    return CreateWindowW(wc.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 2 * kWidth + 40,
-                         kHeight + 60, nullptr, nullptr, wc.hInstance, nullptr);
-}
-
-double PaintTimes(HWND window, int count) {
-    const double start = Seconds();
-    for (int i = 0; i < count; ++i) {
-        InvalidateRect(window, nullptr, FALSE);
-        UpdateWindow(window);
-    }
-    return Seconds() - start;
 }
 
 // The colour dialog of the other-colour entry, answered with OK as soon as
@@ -150,7 +118,9 @@ struct Capture {
 int main(int argc, char **argv) {
     Run run("bench_palette", argc, argv);
     const int paints = run.Size(20, 200), rounds = run.Size(1, 7);
-    HWND form = MakeForm();
+    // The baseline window has the palette's class style: the same paint route.
+    HWND form = MakeForm(L"ZkPaletteBenchForm", L"ZkPaletteBenchPlain", &PlainProc, CS_PARENTDC | CS_BYTEALIGNWINDOW,
+                         2 * kWidth + 40, kHeight + 60);
     HWND palette = CreateWindowExW(0, L"ZK:cPalette:10", L"", WS_CHILD | WS_VISIBLE, 10, 10, kWidth, kHeight, form,
                                    reinterpret_cast<HMENU>(INT_PTR{1}), GetModuleHandleW(nullptr), nullptr);
     HWND plain = CreateWindowW(L"ZkPaletteBenchPlain", L"", WS_CHILD | WS_VISIBLE, kWidth + 20, 10, kWidth, kHeight,

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "capture.h"
+#include "holder.h"
 #include "pictures.h"
 #include "report.h"
 #include "steps.h"
@@ -22,37 +23,10 @@ namespace {
 
 constexpr int kWidth = 200, kHeight = 150;
 
-LRESULT CALLBACK HolderProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcW(window, message, wParam, lParam);
-}
-
-// A window to hold the form palettes while they are shown.
-HWND MakeHolder() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = HolderProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    wc.lpszClassName = L"ZkGalleryPalettes";
-    RegisterClassW(&wc);
-    return CreateWindowExW(0, wc.lpszClassName, L"Palettes", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40,
-                           2 * (kWidth + 10) + 30, 2 * (kHeight + 10) + 60, nullptr, nullptr, wc.hInstance, nullptr);
-}
-
-// A palette as the host makes it: the window of the host's class, and the
-// pointer it announced.
-struct Palette {
-    HWND window = nullptr;
-    ZelPalControl control = 0;
-};
+using Palette = HostControl;
 
 Palette MakePalette(HWND parent, int x, int y) {
-    Palette p;
-    p.window = CreateWindowExW(0, L"ZK:cPalette:10", L"", WS_CHILD | WS_VISIBLE, x, y, kWidth, kHeight, parent,
-                               reinterpret_cast<HMENU>(INT_PTR{200}), GetModuleHandleW(nullptr), nullptr);
-    MSG m{};
-    if (p.window && PeekMessageW(&m, p.window, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
-        p.control = static_cast<ZelPalControl>(m.lParam);
-    return p;
+    return MakeHostControl(L"ZK:cPalette:10", parent, x, y, kWidth, kHeight, WS_CHILD | WS_VISIBLE, 200);
 }
 
 // The colour the next dialog is to answer with; the thread timer that
@@ -82,17 +56,15 @@ void ChooseOtherColour(const Palette &p, COLORREF colour) {
     KillTimer(nullptr, timer);
 }
 
-void Show(Report &report, Pictures &pictures, const Palette &p, const std::wstring &name) {
-    RedrawWindow(p.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    pictures.Save(name, CaptureControl(p.window));
-    report.Check(L"palette shown: " + name, p.window ? L"yes" : L"no window", p.window != nullptr);
+void Show(Report &report, Pictures &pictures, const Palette &c, const std::wstring &name) {
+    ShowControl(report, pictures, c, L"palette", name);
 }
 
 } // namespace
 
 void RunPaletteSteps(Report &report, Pictures &pictures) {
     report.Section(L"Colour palette");
-    HWND holder = MakeHolder();
+    HWND holder = MakeHolder(L"ZkGalleryPalettes", L"Palettes", 2 * (kWidth + 10) + 30, 2 * (kHeight + 10) + 60);
 
     Palette plain = MakePalette(holder, 10, 10);
     report.Check(L"ZK:cPalette:10 announced its control", plain.control ? L"a pointer" : L"nothing",

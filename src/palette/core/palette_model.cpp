@@ -110,13 +110,8 @@ const SPaletteColor *PaletteModel::GetColorItem(int32_t palette, int32_t index) 
 std::unique_ptr<SPaletteColor> PaletteModel::SetMainColor(int32_t index, std::unique_ptr<SPaletteColor> colour) {
     if (index < 0)
         return nullptr;
-    auto &items = block_.mainColors.items;
     const int32_t at = std::min(index, MainCount());
-    std::unique_ptr<SPaletteColor> old;
-    if (at < MainCount())
-        old = std::exchange(items[static_cast<size_t>(at)], std::move(colour));
-    else
-        items.push_back(std::move(colour));
+    std::unique_ptr<SPaletteColor> old = block_.mainColors.StoreAt(static_cast<size_t>(at), std::move(colour));
     if (Created() && layout_) {
         Invalidate(layout_->GetColorCellRect(kZoneMain, at, MainCount()));
         Update();

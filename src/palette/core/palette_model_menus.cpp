@@ -26,13 +26,8 @@ void PaletteModel::InsertMenu(int32_t index, std::unique_ptr<SPaletteMenu> entry
 std::unique_ptr<SPaletteMenu> PaletteModel::SetMenu(int32_t index, std::unique_ptr<SPaletteMenu> entry) {
     if (index < 0)
         return nullptr;
-    auto &items = block_.menus.items;
-    const int32_t at = std::min(index, MenuCount());
-    std::unique_ptr<SPaletteMenu> old;
-    if (at < MenuCount())
-        old = std::exchange(items[static_cast<size_t>(at)], std::move(entry));
-    else
-        items.push_back(std::move(entry));
+    std::unique_ptr<SPaletteMenu> old =
+        block_.menus.StoreAt(static_cast<size_t>(std::min(index, MenuCount())), std::move(entry));
     LayoutChanged(1);
     return old;
 }

@@ -1,8 +1,6 @@
 // The three painters of the palette.
 #include "palette/win/palette_paint.h"
 
-#include <vector>
-
 namespace zk::pal {
 
 namespace {
@@ -44,10 +42,7 @@ int LineRole(const PalLook &look) { return look.disabled ? PALR_DisabledText : P
 } // namespace
 
 RoleTools PaintTools(const PaletteModel &model) {
-    std::vector<COLORREF> colours;
-    for (int role = 0; role < kRoleCount; ++role)
-        colours.push_back(model.GetRoleColor(role));
-    return RoleTools(std::move(colours));
+    return RoleTools::ForRoles(kRoleCount, [&](int role) { return model.GetRoleColor(role); });
 }
 
 void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model, int32_t zone,

@@ -1,3 +1,5 @@
 # The form's calendar is driven through the library as the host drives it;
 # the drop-down's pop-up has no class of the host's: it is made here from the
 # calendar's own code.
+target_sources(${test_target} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support/win_control.cpp)
+target_include_directories(${test_target} PRIVATE ${CMAKE_SOURCE_DIR}/tests/support)

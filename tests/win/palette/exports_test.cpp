@@ -1,7 +1,6 @@
 // The exports as the host calls them: every one with a null control, host
 // arrays in and out, the menu's index rules and words, and no host value
 // left behind.
-#include <functional>
 #include <string>
 
 #include "palette_support.h"
@@ -10,14 +9,7 @@ namespace {
 
 using paltest::FormPalette;
 
-struct Row {
-    const wchar_t *name;
-    int32_t failure;
-    const wchar_t *words;
-    std::function<int32_t()> call;
-};
-
-std::vector<Row> Rows() {
+std::vector<zkt::NullControlCall> Rows() {
     const ZelPalControl none = 0;
     return {
         {L"ZelPalColorGet()", -1, L"Unable to retrieve color for specified role.",
@@ -55,18 +47,9 @@ std::vector<Row> Rows() {
 }
 
 TEST(PaletteNullControl, EveryExportShowsStringFortyEightAndFails) {
-    const std::vector<Row> rows = Rows();
+    const auto rows = Rows();
     ASSERT_EQ(rows.size(), 21u);
-    for (const Row &row : rows) {
-        zkt::DebugOutputCapture capture;
-        zkt::DialogAnswerer answerer(IDOK);
-        EXPECT_EQ(row.call(), row.failure) << row.name;
-        ASSERT_EQ(answerer.answered(), 1) << row.name;
-        const auto texts = answerer.dialogs()[0].staticTexts();
-        ASSERT_FALSE(texts.empty());
-        EXPECT_NE(texts.back().find(std::wstring(L"Function '") + row.name + L"' unable to act"), std::wstring::npos);
-        EXPECT_EQ(capture.text(), std::wstring(row.name) + L" - " + row.words + L"\n");
-    }
+    zkt::ExpectNullControlFailures(rows);
 }
 
 // Every test gets a form palette and must leave no host string or array behind.

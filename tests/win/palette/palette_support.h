@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "palette/win/palette_window.h"
+#include "win_control.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
@@ -16,21 +17,14 @@
 
 namespace paltest {
 
-struct Posted {
-    HWND hwnd;
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-};
-
 // The form's palette: "ZK:cPalette:10" on a test window, its announced
 // pointer taken from the queue, the default font of the library.
-class FormPalette {
+class FormPalette : public zkt::ControlForm {
 public:
-    explicit FormPalette(zkt::Box box = {10, 10, 200, 160}, void *parameter = nullptr);
-    ~FormPalette();
+    explicit FormPalette(zkt::Box box = {10, 10, 200, 160}, void *parameter = nullptr)
+        : ControlForm(L"ZK:cPalette:10", box, parameter),
+          object_(reinterpret_cast<zk::pal::CColorPalette *>(announced())) {}
 
-    HWND hwnd() const { return hwnd_; }
     ZelPalControl control() const { return reinterpret_cast<ZelPalControl>(object_); }
     zk::pal::CColorPalette &object() const { return *object_; }
     const zk::pal::PalLayout &layout() const { return object_->Layout(); }
@@ -41,17 +35,12 @@ public:
     zk::Rect Cell(int zone, int index) const;
     void Mouse(UINT message, int x, int y) const;
     void MouseAt(UINT message, int zone, int index) const;
-    // Takes what is queued on this thread, in order, and dispatches it.
-    static std::vector<Posted> Drain();
     // WM_COMMAND codes posted to the form by the control.
-    std::vector<int> Notifications(const std::vector<Posted> &posted) const;
-
-    zkt::TestWindow form{420, 320};
-    HBRUSH listBrush = nullptr; // the form's answer to WM_CTLCOLORLISTBOX, when set
-    COLORREF listText = 0;
+    std::vector<int> Notifications(const std::vector<zkt::Posted> &posted) const {
+        return zkt::NotificationCodes(posted, form.hwnd(), hwnd());
+    }
 
 private:
-    HWND hwnd_ = nullptr;
     zk::pal::CColorPalette *object_ = nullptr;
 };
 

@@ -10,8 +10,8 @@
 namespace {
 
 using paltest::FormPalette;
-using paltest::Posted;
 using zk::pal::PalHit;
+using zkt::Posted;
 
 // The frame objects linked into this program read the library's strings.
 class Library : public testing::Environment {
@@ -104,42 +104,18 @@ TEST(PaletteCreation, EnableAndShowKeepTheirStateBits) {
     EXPECT_EQ(p.object().State(), 0);
 }
 
-// A form whose design item holds a palette block: new windows are bound to
-// the item before their first message, and the creation parameter says
-// that the host stored properties.
+// A form whose design item holds a palette block.
 class StoredBlock : public testing::Test {
 protected:
-    void SetUp() override {
-        outline = ZkHostDesignNewOutline();
-        item = ZkHostDesignAddItem(outline, 0, 1);
-        self = this;
-        hook = SetWindowsHookExW(WH_CBT, &Bind, nullptr, GetCurrentThreadId());
-    }
-    void TearDown() override {
-        UnhookWindowsHookEx(hook);
-        ZkHostDesignFreeOutline(outline);
-    }
-    void Store(std::vector<uint8_t> bytes) {
-        bytes.push_back(0); // the host hands back one byte less than it was given, then the terminator
-        bytes.push_back(0);
-        ASSERT_EQ(HostPropSet(outline, item, L"ZK:ColorPalette", bytes.data(), static_cast<int32_t>(bytes.size())), 1);
-    }
+    void Store(const std::vector<uint8_t> &bytes) { ASSERT_TRUE(design.Store(L"ZK:ColorPalette", bytes)); }
     static std::vector<uint8_t> Image(zk::pal::SPropPalette &block) {
         zk::CMemFile file;
         zk::StoreBlock(file, block);
         return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
     }
-    static LRESULT CALLBACK Bind(int code, WPARAM wParam, LPARAM lParam) {
-        if (code == HCBT_CREATEWND)
-            ZkHostDesignBindWindow(self->outline, self->item, reinterpret_cast<HWND>(wParam));
-        return CallNextHookEx(nullptr, code, wParam, lParam);
-    }
 
-    HostOutline outline = 0;
-    HostItem item = 0;
-    HHOOK hook = nullptr;
-    uint8_t parameter[8] = {0, 0, 0, 0, 1, 0, 0, 0}; // bit 0 of byte 4: stored properties
-    static inline StoredBlock *self = nullptr;
+    zkt::StoredBlockItem design;
+    uint8_t *parameter = design.parameter;
 };
 
 TEST_F(StoredBlock, IsAppliedAtCreation) {
@@ -180,14 +156,14 @@ TEST_F(StoredBlock, AShortBlockOrNoStoredFlagKeepTheDefaults) {
 TEST(PaletteMouse, AReleaseOnACellPostsSelectToItselfAndTheFocusChangeToTheForm) {
     FormPalette p;
     SetFocus(p.form);
-    FormPalette::Drain();
+    zkt::DrainQueue();
     p.MouseAt(WM_LBUTTONDOWN, 0, 5);
     EXPECT_EQ(GetFocus(), p.hwnd()) << "a press takes the focus";
     EXPECT_EQ(GetCapture(), p.hwnd());
     p.MouseAt(WM_MOUSEMOVE, 0, 6);
     p.MouseAt(WM_LBUTTONUP, 0, 6);
     EXPECT_EQ(GetCapture(), nullptr);
-    const auto posted = FormPalette::Drain();
+    const auto posted = zkt::DrainQueue();
     const long select = Find(posted, p.hwnd(), HostMsgSelect);
     ASSERT_NE(select, -1);
     EXPECT_EQ(posted[static_cast<size_t>(select)].wParam, 0u);
@@ -201,10 +177,10 @@ TEST(PaletteMouse, AReleaseOnACellPostsSelectToItselfAndTheFocusChangeToTheForm)
 TEST(PaletteMouse, DraggingOutOfTheFrameAndReleasingPostsNothing) {
     FormPalette p;
     p.MouseAt(WM_LBUTTONDOWN, 0, 2);
-    FormPalette::Drain();
+    zkt::DrainQueue();
     p.Mouse(WM_MOUSEMOVE, 190, 150);
     p.Mouse(WM_LBUTTONUP, 190, 150);
-    EXPECT_EQ(Find(FormPalette::Drain(), p.hwnd(), HostMsgSelect), -1);
+    EXPECT_EQ(Find(zkt::DrainQueue(), p.hwnd(), HostMsgSelect), -1);
     EXPECT_EQ(GetCapture(), nullptr);
     EXPECT_EQ(p.object().State(), 0);
 }
@@ -220,7 +196,7 @@ TEST(PaletteMouse, TheOtherColourLinePostsSelectThenCommandZeroWhichOpensTheDial
     p.MouseAt(WM_LBUTTONUP, 1, 0);
     {
         zkt::DialogAnswerer answerer(IDOK);
-        FormPalette::Drain();
+        zkt::DrainQueue();
         EXPECT_EQ(answerer.answered(), 1);
     }
     EXPECT_TRUE(zkt::matchNamed(recorder.messages(), {{HostMsgSelect, zkt::posted | zkt::wparam | zkt::lparam, 1, 0},
@@ -246,13 +222,13 @@ TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
     FormPalette p;
     ZelPalMenuAdd(p.control(), L"Automatic", 100);
     ZelPalFocusSet(p.control(), PALZ_Menu, 0);
-    FormPalette::Drain();
+    zkt::DrainQueue();
     zkt::MessageRecorder recorder;
     recorder.watch(p.hwnd());
     recorder.watch(p.form);
     SendMessageW(p.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
     SendMessageW(p.hwnd(), WM_KEYDOWN, VK_LEFT, 0);
-    FormPalette::Drain();
+    zkt::DrainQueue();
     EXPECT_TRUE(zkt::matchNamed(recorder.messages(),
                                 {{WM_KEYDOWN, zkt::sent},
                                  {WM_KEYDOWN, zkt::sent},
@@ -297,13 +273,13 @@ TEST_F(Popup, InDropDownModeAReleaseSelectsThenClosesAndLosingTheFocusHides) {
     ShowWindow(window, SW_SHOW);
     SetFocus(window);
     ASSERT_EQ(GetFocus(), window);
-    FormPalette::Drain();
+    zkt::DrainQueue();
     const zk::Rect cell = popup->Layout().GetCellRect(0, 4, popup->Model().Counts());
     const LPARAM at = MAKELPARAM((cell.left + cell.right) / 2, (cell.top + cell.bottom) / 2);
     SendMessageW(window, WM_LBUTTONDOWN, 0, at);
     EXPECT_EQ(GetCapture(), nullptr) << "a pop-up does not capture";
     SendMessageW(window, WM_LBUTTONUP, 0, at);
-    auto posted = FormPalette::Drain();
+    auto posted = zkt::DrainQueue();
     const long select = Find(posted, window, HostMsgSelect);
     long close = -1;
     for (size_t i = 0; i < posted.size(); ++i)
@@ -315,12 +291,8 @@ TEST_F(Popup, InDropDownModeAReleaseSelectsThenClosesAndLosingTheFocusHides) {
     EXPECT_TRUE(IsWindowVisible(window)) << "it closes by notification, not by itself";
     SetFocus(edit);
     EXPECT_FALSE(IsWindowVisible(window));
-    posted = FormPalette::Drain();
-    std::vector<int> codes;
-    for (const Posted &p : posted)
-        if (p.hwnd == notify.hwnd() && p.message == WM_COMMAND && reinterpret_cast<HWND>(p.lParam) == window)
-            codes.push_back(HIWORD(p.wParam));
-    EXPECT_EQ(codes, (std::vector<int>{PALN_CloseUp, PALN_KillFocus}));
+    posted = zkt::DrainQueue();
+    EXPECT_EQ(zkt::NotificationCodes(posted, notify, window), (std::vector<int>{PALN_CloseUp, PALN_KillFocus}));
     EXPECT_TRUE(IsWindow(window));
 }
 
