@@ -171,24 +171,6 @@ TEST(PaletteStyle, BitsAreFlagsOfOneAndSetStyleAssignsInOrder) {
     EXPECT_EQ(p.model.Counts().lines, 0);
 }
 
-TEST(PaletteApply, TheHeldBlockIsFollowedByVersionOneAndReadBackAsIs) {
-    Palette p;
-    p.model.SetRecentMax(3);
-    zk::CMemFile file;
-    zk::CArchive out(file, zk::CArchive::store);
-    p.model.SerializeBlock(out);
-    const std::vector<uint8_t> bytes(file.Data(), file.Data() + file.GetLength());
-    ASSERT_GE(bytes.size(), 8u);
-    EXPECT_EQ(std::vector<uint8_t>(bytes.end() - 8, bytes.end()), (std::vector<uint8_t>{3, 0, 0, 0, 1, 0, 0, 0}))
-        << "the maximum, then the window's version word";
-    Palette other;
-    file.SeekToBegin();
-    zk::CArchive in(file, zk::CArchive::load);
-    other.model.SerializeBlock(in);
-    EXPECT_EQ(other.model.RecentMax(), 3);
-    EXPECT_EQ(file.Remaining(), 0u);
-}
-
 // The dialog is handed the first recent entry's reference as its colour:
 // a number with no meaning as a colour, and 0 for an empty list.
 TEST(PaletteApply, TheDialogsInitialColourIsTheFirstEntrysReference) {
@@ -201,19 +183,6 @@ TEST(PaletteApply, TheDialogsInitialColourIsTheFirstEntrysReference) {
     p.model.OtherColorChosen(0x00FF00);
     EXPECT_EQ(Recent(p.model), (std::vector<uint32_t>{0x00FF00, 0x123456}));
     EXPECT_EQ(p.Focus(), (zk::pal::PalHit{2, 0}));
-}
-
-TEST(PaletteApply, ABlockReplacesTheModelAndEnablesRecentColoursAsItSays) {
-    Palette p;
-    p.AddRecent(1);
-    zk::pal::SPropPalette block;
-    block.enableRecent = 0;
-    block.menus.Add(Menu(u"None", 3));
-    EXPECT_EQ(p.model.ApplyProperties(block), 1);
-    EXPECT_EQ(p.model.Counts().lines, 1);
-    EXPECT_EQ(p.model.RecentCount(), 0);
-    block.menus.at(0)->text = u"changed";
-    EXPECT_EQ(p.model.GetMenu(0)->text, u"None") << "the model holds its own copy";
 }
 
 } // namespace

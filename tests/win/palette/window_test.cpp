@@ -52,19 +52,6 @@ TEST(PaletteCreation, TheAnnouncedPointerIsTheDefaultPalette) {
     EXPECT_EQ(SendMessageW(p.hwnd(), WM_GETDLGCODE, 0, 0), 0x81);
 }
 
-TEST(PaletteCreation, TheAnnouncementIsSentWhenTheHostSaysTheParentIsAlone) {
-    zkt::TestWindow form;
-    ZkHostSetParentWindowOnly(form, 1);
-    zkt::MessageRecorder recorder;
-    recorder.watchAll();
-    HWND w = CreateWindowExW(0, L"ZK:cPalette:10", L"", WS_CHILD | WS_VISIBLE, 0, 0, 150, 100, form, nullptr,
-                             GetModuleHandleW(nullptr), nullptr);
-    zkt::pumpMessages();
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(), {{ZKM_ControlCreate, zkt::sent}}));
-    ZkHostSetParentWindowOnly(form, 0);
-    DestroyWindow(w);
-}
-
 TEST(PaletteCreation, SettingTheFontCopiesItAndZeroTakesTheSystemFont) {
     FormPalette p;
     const int32_t before = p.layout().LineHeight();
@@ -91,17 +78,6 @@ TEST(PaletteCreation, AutoSizeGivesABorderedWindowTheFramesSize) {
     EXPECT_EQ(window.right - window.left, p.layout().FitWidth());
     EXPECT_EQ(window.bottom - window.top, p.layout().FitHeight());
     EXPECT_EQ(p.layout().ZoneWidth(), 8 * (p.layout().ZoneWidth() / 8)) << "eight base widths: narrower than that";
-}
-
-TEST(PaletteCreation, EnableAndShowKeepTheirStateBits) {
-    FormPalette p;
-    EnableWindow(p.hwnd(), FALSE);
-    EXPECT_EQ(p.object().State() & zk::kStateDisabled, zk::kStateDisabled);
-    EnableWindow(p.hwnd(), TRUE);
-    ShowWindow(p.hwnd(), SW_HIDE);
-    EXPECT_EQ(p.object().State(), zk::kStateHidden);
-    ShowWindow(p.hwnd(), SW_SHOW);
-    EXPECT_EQ(p.object().State(), 0);
 }
 
 // A form whose design item holds a palette block.
@@ -172,17 +148,6 @@ TEST(PaletteMouse, AReleaseOnACellPostsSelectToItselfAndTheFocusChangeToTheForm)
     EXPECT_EQ(std::count(codes.begin(), codes.end(), PALN_FocusChange), 3)
         << "the focus taken shows the focus cell again, then 5, then 6";
     EXPECT_EQ(p.Focus(), (PalHit{0, 6}));
-}
-
-TEST(PaletteMouse, DraggingOutOfTheFrameAndReleasingPostsNothing) {
-    FormPalette p;
-    p.MouseAt(WM_LBUTTONDOWN, 0, 2);
-    zkt::DrainQueue();
-    p.Mouse(WM_MOUSEMOVE, 190, 150);
-    p.Mouse(WM_LBUTTONUP, 190, 150);
-    EXPECT_EQ(Find(zkt::DrainQueue(), p.hwnd(), HostMsgSelect), -1);
-    EXPECT_EQ(GetCapture(), nullptr);
-    EXPECT_EQ(p.object().State(), 0);
 }
 
 // The other-colour line: the selection, then the command with id 0, both
