@@ -75,6 +75,55 @@ inline Growth MeasureGrowth(int rounds, int repeat, const std::function<double()
     return {Median(smallTimes), Median(largeTimes)};
 }
 
+// Paints a window `count` times by the route of an application's repaint
+// (invalidate, update); the seconds it took.
+inline double PaintTimes(HWND window, int count) {
+    const double start = Seconds();
+    for (int i = 0; i < count; ++i) {
+        InvalidateRect(window, nullptr, FALSE);
+        UpdateWindow(window);
+    }
+    return Seconds() - start;
+}
+
+// The window procedure of a baseline window: no erasing, and a paint that
+// fills the client area in the window colour before paint(dc) draws.
+template <class Paint>
+LRESULT PlainPaint(HWND window, UINT message, WPARAM wParam, LPARAM lParam, Paint &&paint) {
+    if (message == WM_ERASEBKGND)
+        return 1;
+    if (message != WM_PAINT)
+        return DefWindowProcW(window, message, wParam, lParam);
+    PAINTSTRUCT ps{};
+    HDC dc = BeginPaint(window, &ps);
+    RECT client{};
+    GetClientRect(window, &client);
+    FillRect(dc, &client, GetSysColorBrush(COLOR_WINDOW));
+    paint(dc);
+    EndPaint(window, &ps);
+    return 0;
+}
+
+// A visible top-level window of width x height for a paint benchmark, and
+// the class `plainClass` of its baseline window, painted by `plainProc`
+// under the class style `plainStyle`.
+inline HWND MakeForm(const wchar_t *formClass, const wchar_t *plainClass, WNDPROC plainProc, UINT plainStyle,
+                     int width, int height) {
+    WNDCLASSW wc{};
+    wc.lpfnWndProc = DefWindowProcW;
+    wc.hInstance = GetModuleHandleW(nullptr);
+    wc.lpszClassName = formClass;
+    RegisterClassW(&wc);
+    WNDCLASSW plain{};
+    plain.style = plainStyle;
+    plain.lpfnWndProc = plainProc;
+    plain.hInstance = wc.hInstance;
+    plain.lpszClassName = plainClass;
+    RegisterClassW(&plain);
+    return CreateWindowW(formClass, L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, width, height, nullptr, nullptr,
+                         wc.hInstance, nullptr);
+}
+
 // Which side of its bound a figure must lie on.
 enum class Want { AtMost, AtLeast };
 

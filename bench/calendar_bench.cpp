@@ -23,16 +23,7 @@ constexpr int kWidth = 280, kHeight = 210;
 constexpr COLORREF kMarkColour = RGB(200, 30, 40);
 
 // The baseline: a fill and the 42 days, in the calendar's cell places.
-LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_ERASEBKGND)
-        return 1;
-    if (message != WM_PAINT)
-        return DefWindowProcW(window, message, wParam, lParam);
-    PAINTSTRUCT ps{};
-    HDC dc = BeginPaint(window, &ps);
-    RECT client{};
-    GetClientRect(window, &client);
-    FillRect(dc, &client, GetSysColorBrush(COLOR_WINDOW));
+void PlainDays(HDC dc) {
     const HGDIOBJ old = SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
     const int cw = kWidth / 7 - 1, ch = kHeight / 8 - 1;
     for (int cell = 0; cell < 42; ++cell) {
@@ -43,38 +34,16 @@ LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lPar
         DrawTextW(dc, day.c_str(), static_cast<int>(day.size()), &r, DT_CENTER | DT_VCENTER | DT_SINGLELINE);
     }
     SelectObject(dc, old);
-    EndPaint(window, &ps);
-    return 0;
 }
 
-HWND MakeForm() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = DefWindowProcW;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.lpszClassName = L"ZkCalendarBenchForm";
-    RegisterClassW(&wc);
-    WNDCLASSW plain{};
-    plain.lpfnWndProc = PlainProc;
-    plain.hInstance = wc.hInstance;
-    plain.lpszClassName = L"ZkCalendarBenchPlain";
-    RegisterClassW(&plain);
-    return CreateWindowW(wc.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 2 * kWidth + 40,
-                         kHeight + 60, nullptr, nullptr, wc.hInstance, nullptr);
+LRESULT CALLBACK PlainProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+    return PlainPaint(window, message, wParam, lParam, &PlainDays);
 }
 
 HostDateTime Date(int year, int month, int day) {
     HostDateTime d{};
     HostDateConstruct(&d, year, month, day, 0, 0, 0);
     return d;
-}
-
-double PaintTimes(HWND window, int count) {
-    const double start = Seconds();
-    for (int i = 0; i < count; ++i) {
-        InvalidateRect(window, nullptr, FALSE);
-        UpdateWindow(window);
-    }
-    return Seconds() - start;
 }
 
 // 100 marks (every day of the month on display, and 69 days of the year
@@ -101,11 +70,11 @@ int main(int argc, char **argv) {
     const int paints = run.Size(20, 200), rounds = run.Size(1, 7);
     const HostDateTime today = Date(2024, 3, 15);
     ZkHostSetClock(&today);
-    HWND form = MakeForm();
+    HWND form = MakeForm(L"ZkCalendarBenchForm", L"ZkCalendarBenchPlain", &PlainProc, 0, 2 * kWidth + 40, kHeight + 60);
     HWND calendar = CreateWindowExW(0, L"ZK:cCalendar:10", L"", WS_CHILD | WS_VISIBLE, 10, 10, kWidth, kHeight, form,
                                     reinterpret_cast<HMENU>(INT_PTR{1}), GetModuleHandleW(nullptr), nullptr);
-    HWND plain = CreateWindowW(L"ZkCalendarBenchPlain", L"", WS_CHILD | WS_VISIBLE, kWidth + 20, 10, kWidth,
-                               kHeight, form, nullptr, GetModuleHandleW(nullptr), nullptr);
+    HWND plain = CreateWindowW(L"ZkCalendarBenchPlain", L"", WS_CHILD | WS_VISIBLE, kWidth + 20, 10, kWidth, kHeight,
+                               form, nullptr, GetModuleHandleW(nullptr), nullptr);
     MSG m{};
     ZelCalControl control = 0;
     if (calendar && PeekMessageW(&m, calendar, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))

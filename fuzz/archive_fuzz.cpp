@@ -1,6 +1,6 @@
 // Bytes of any shape into the archive reader and every block reader: the
-// generic block, the spin record, texts, counts, tagged objects and object
-// arrays. Beyond not crashing, nothing but the archive's own exceptions may
+// generic block, the spin record, the palette block, texts, counts, tagged
+// objects and object arrays. Beyond not crashing, nothing but the archive's own exceptions may
 // come out, and whatever was read whole must come back through its writer.
 #include <cstddef>
 #include <cstdint>
@@ -12,6 +12,7 @@
 #include "frame/core/obarray.h"
 #include "frame/core/generic_block.h"
 #include "controls/core/spin_block.h"
+#include "palette/core/palette_block.h"
 
 namespace {
 
@@ -127,6 +128,45 @@ void Rich(const uint8_t *data, size_t size) {
         RoundTrip<FuzzBlock>(block, &SameBlock);
 }
 
+template <class Element>
+bool SameElements(const zk::ObArray<Element> &a, const zk::ObArray<Element> &b,
+                  bool (*same)(const Element &, const Element &)) {
+    if (a.size() != b.size())
+        return false;
+    for (size_t i = 0; i < a.size(); ++i) {
+        const Element *x = a.at(i), *y = b.at(i);
+        if (!x != !y || (x && !same(*x, *y)))
+            return false;
+    }
+    return true;
+}
+
+bool SamePalette(const zk::pal::SPropPalette &a, const zk::pal::SPropPalette &b) {
+    return a.autoSize == b.autoSize && a.dropDown == b.dropDown && a.enableRecent == b.enableRecent &&
+           a.keepSelection == b.keepSelection && a.recentMax == b.recentMax &&
+           SameElements<zk::pal::SPaletteColor>(
+               a.mainColors, b.mainColors,
+               [](const zk::pal::SPaletteColor &x, const zk::pal::SPaletteColor &y) { return x.colour == y.colour; }) &&
+           SameElements<zk::pal::SPaletteMenu>(a.menus, b.menus,
+                                               [](const zk::pal::SPaletteMenu &x, const zk::pal::SPaletteMenu &y) {
+                                                   return x.text == y.text && x.id == y.id;
+                                               });
+}
+
+// The palette block, and its copy, which must equal it without sharing.
+void Palette(const uint8_t *data, size_t size) {
+    zk::pal::SPropPalette block;
+    if (!zk::LoadBlockBytes(data, size, block))
+        return;
+    for (int32_t flag : {block.autoSize, block.dropDown, block.enableRecent, block.keepSelection})
+        check(flag >= 0 && flag <= 255);
+    RoundTrip<zk::pal::SPropPalette>(block, &SamePalette);
+    const zk::pal::SPropPalette copy(block);
+    check(SamePalette(copy, block));
+    for (size_t i = 0; i < copy.mainColors.size(); ++i)
+        check(!copy.mainColors.at(i) || copy.mainColors.at(i) != block.mainColors.at(i));
+}
+
 // Single reads from the start: each either gives a value or an ArchiveException.
 void Pieces(const uint8_t *data, size_t size) {
     zk::CMemFile file;
@@ -162,6 +202,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     Generic(data, size);
     Spin(data, size);
     Rich(data, size);
+    Palette(data, size);
     Pieces(data, size);
     return 0;
 }

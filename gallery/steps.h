@@ -28,6 +28,10 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures);
 // The calendar control in its looks (default, etched, marked dates,
 // special-day rules, disabled, pop-up), a picture of each.
 void RunCalendarSteps(Report &report, Pictures &pictures);
+// The colour palette: default, with menu entries and recent colours chosen
+// through its colour dialog, disabled, and keeping its focus frame after
+// losing the focus, a picture of each.
+void RunPaletteSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "capture.h"
+#include "holder.h"
 #include "pictures.h"
 #include "report.h"
 #include "steps.h"
@@ -28,45 +29,14 @@ HostDateTime Date(int year, int month, int day) {
     return d;
 }
 
-LRESULT CALLBACK HolderProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return DefWindowProcW(window, message, wParam, lParam);
-}
-
-// A window to hold the form calendars while they are shown.
-HWND MakeHolder() {
-    WNDCLASSW wc{};
-    wc.lpfnWndProc = HolderProc;
-    wc.hInstance = GetModuleHandleW(nullptr);
-    wc.hbrBackground = GetSysColorBrush(COLOR_BTNFACE);
-    wc.lpszClassName = L"ZkGalleryCalendars";
-    RegisterClassW(&wc);
-    return CreateWindowExW(0, wc.lpszClassName, L"Calendars", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 40, 40,
-                           3 * (kWidth + 10) + 30, 2 * (kHeight + 10) + 60, nullptr, nullptr, wc.hInstance,
-                           nullptr);
-}
-
-// A calendar as the host makes it: the window of the host's class, and the
-// pointer it announced.
-struct Calendar {
-    HWND window = nullptr;
-    ZelCalControl control = 0;
-};
+using Calendar = HostControl;
 
 Calendar MakeCalendar(HWND parent, int x, int y, DWORD style) {
-    Calendar c;
-    c.window = CreateWindowExW(0, L"ZK:cCalendar:10", L"", style, x, y, kWidth, kHeight, parent,
-                               parent ? reinterpret_cast<HMENU>(INT_PTR{100}) : nullptr, GetModuleHandleW(nullptr),
-                               nullptr);
-    MSG m{};
-    if (c.window && PeekMessageW(&m, c.window, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
-        c.control = static_cast<ZelCalControl>(m.lParam);
-    return c;
+    return MakeHostControl(L"ZK:cCalendar:10", parent, x, y, kWidth, kHeight, style, 100);
 }
 
 void Show(Report &report, Pictures &pictures, const Calendar &c, const std::wstring &name) {
-    RedrawWindow(c.window, nullptr, nullptr, RDW_INVALIDATE | RDW_UPDATENOW);
-    pictures.Save(name, CaptureControl(c.window));
-    report.Check(L"calendar shown: " + name, c.window ? L"yes" : L"no window", c.window != nullptr);
+    ShowControl(report, pictures, c, L"calendar", name);
 }
 
 } // namespace
@@ -79,7 +49,7 @@ void RunCalendarSteps(Report &report, Pictures &pictures) {
         return d;
     }();
     ZkHostSetClock(&today);
-    HWND holder = MakeHolder();
+    HWND holder = MakeHolder(L"ZkGalleryCalendars", L"Calendars", 3 * (kWidth + 10) + 30, 2 * (kHeight + 10) + 60);
     const DWORD child = WS_CHILD | WS_VISIBLE;
 
     Calendar plain = MakeCalendar(holder, 10, 10, child);

@@ -23,10 +23,7 @@ void FrameEdges(HDC dc, HPEN pen, const RECT &r) {
 } // namespace
 
 RoleTools PaintTools(const CalendarModel &model) {
-    std::vector<COLORREF> colours;
-    for (int role = 0; role < kRoleCount; ++role)
-        colours.push_back(model.GetRoleColor(role));
-    return RoleTools(std::move(colours));
+    return RoleTools::ForRoles(kRoleCount, [&](int role) { return model.GetRoleColor(role); });
 }
 
 void PaintBackground(HDC dc, const RoleTools &kit, const CalLayout &layout) {

@@ -18,6 +18,14 @@ public:
     size_t size() const { return items.size(); }
     T *at(size_t index) const { return index < items.size() ? items[index].get() : nullptr; }
     void Add(std::unique_ptr<T> item) { items.push_back(std::move(item)); }
+    // Stores item at index, or appends it when index is the size; gives
+    // back the element it replaced (null when appended).
+    std::unique_ptr<T> StoreAt(size_t index, std::unique_ptr<T> item) {
+        if (index < items.size())
+            return std::exchange(items[index], std::move(item));
+        items.push_back(std::move(item));
+        return nullptr;
+    }
     void RemoveAll() { items.clear(); }
 
     // On reading, the array is replaced only by a whole array: a read that

@@ -74,7 +74,9 @@ protected:
     // WM_GETDLGCODE, WM_SYSKEYDOWN, WM_WINDOWPOSCHANGED, WM_ERASEBKGND;
     // everything else goes to Default().
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
-
+    // WM_SETFONT's first step: the private font replaced by a copy of the
+    // given one (SYSTEM_FONT for 0), made through its LOGFONT.
+    void ReplaceFont(HFONT given);
 
     int32_t autoSize = 0;   // 1: resized to fit whenever the metrics change
     int32_t popUp = 0;      // 1: inside a drop-down; Alt+Up asks to close

@@ -34,7 +34,7 @@ LRESULT CGenericControl::OnCreate() {
     return 0;
 }
 
-LRESULT CGenericControl::OnSetFont(HFONT given) {
+void CGenericControl::ReplaceFont(HFONT given) {
     LOGFONTW description{};
     if (!given || !GetObjectW(given, sizeof description, &description))
         GetObjectW(GetStockObject(SYSTEM_FONT), sizeof description, &description);
@@ -44,6 +44,10 @@ LRESULT CGenericControl::OnSetFont(HFONT given) {
             DeleteObject(font);
         font = copy;
     }
+}
+
+LRESULT CGenericControl::OnSetFont(HFONT given) {
+    ReplaceFont(given);
     RecalcMetrics();
     if (created == 1) {
         SizeToFit(autoSize);

@@ -36,15 +36,21 @@ int PropBlockLoad(HostOutline outline, HostItem item, const wchar_t *propertyNam
 int PropBlockStore(HostOutline outline, HostItem item, const wchar_t *propertyName, CMemFile &file) noexcept;
 
 // Reads the block stored under the name over block. False when there is no
-// such property; when there is one, whatever could be read has been.
+// such property; when there is one, whatever could be read has been, and
+// *complete (when given) says whether the block was read to its end.
 template <class Block>
-bool LoadItemBlock(HostOutline outline, HostItem item, const wchar_t *propertyName, Block &block) noexcept {
+bool LoadItemBlock(HostOutline outline, HostItem item, const wchar_t *propertyName, Block &block,
+                   bool *complete = nullptr) noexcept {
+    if (complete)
+        *complete = false;
     try {
         CMemFile file;
         if (PropBlockLoad(outline, item, propertyName, file) != 1)
             return false;
         file.SeekToBegin();
-        LoadBlock(file, block);
+        const bool whole = LoadBlock(file, block);
+        if (complete)
+            *complete = whole;
         return true;
     } catch (...) {
         return false;
@@ -71,17 +77,20 @@ bool HasStoredProperties(const CREATESTRUCTW *create) noexcept;
 
 // The block a wrapper loads at WM_CREATE: with stored properties marked and
 // a design item known for the window, the block under the name is read over
-// block. False when nothing was read (block untouched).
+// block. False when nothing was read (block untouched); *complete as for
+// LoadItemBlock.
 template <class Block>
-bool LoadCreationBlock(HWND window, const CREATESTRUCTW *create, const wchar_t *propertyName,
-                       Block &block) noexcept {
+bool LoadCreationBlock(HWND window, const CREATESTRUCTW *create, const wchar_t *propertyName, Block &block,
+                       bool *complete = nullptr) noexcept {
+    if (complete)
+        *complete = false;
     if (!HasStoredProperties(create))
         return false;
     const HostOutline outline = HostDesignGetOutline(window);
     const HostItem item = HostDesignGetItem(window);
     if (!item)
         return false;
-    return LoadItemBlock(outline, item, propertyName, block);
+    return LoadItemBlock(outline, item, propertyName, block, complete);
 }
 
 // The spin field's record under "ZK:SpinField". Reading: false when the

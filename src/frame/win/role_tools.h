@@ -17,6 +17,14 @@ public:
     // The colours in force, by role.
     explicit RoleTools(std::vector<COLORREF> colours)
         : colours_(std::move(colours)), pens_(colours_.size()), brushes_(colours_.size()) {}
+    // The tools of roles 0 to count - 1, each in colourOf(role).
+    template <class ColourOf>
+    static RoleTools ForRoles(int count, ColourOf &&colourOf) {
+        std::vector<COLORREF> colours;
+        for (int role = 0; role < count; ++role)
+            colours.push_back(colourOf(role));
+        return RoleTools(std::move(colours));
+    }
 
     COLORREF Colour(int role) const { return colours_[static_cast<size_t>(role)]; }
     // Null only when the platform has no pen or brush to give.

@@ -11,6 +11,7 @@
 #include "frame/win/host.h"
 #include "frame/win/registry.h"
 #include "frame/win/window.h"
+#include "palette/win/palette_bootstrap.h"
 
 namespace zk {
 
@@ -38,7 +39,7 @@ struct WindowClass {
 WindowClass classes[] = {
     {L"ZK:cCalendar:10", 0x6880, 0, true, &cal::DlgCalendarBootstrap, When::StartUp},
     {L"ZK:cComboCal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
-    {L"ZK:cPalette:10", 0x6080, 0, true, &DefWindowProcW, When::StartUp},
+    {L"ZK:cPalette:10", 0x6080, 0, true, &pal::DlgPaletteBootstrap, When::StartUp},
     {L"ZK:cComboPal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cSplitter:10", 0x400B, 0, false, &DefWindowProcW, When::StartUp},
     {L"ZK:cListView:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
@@ -46,6 +47,7 @@ WindowClass classes[] = {
     {L"ZK:cSpinField:10", 0x4008, 4, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cMeter:10", 0x4000, 4, true, &DefWindowProcW, When::StartUp},
     {L"ZK:Calendar:10", 0x6880, 0, true, &Window::FrameProcedure, When::FirstWindow},
+    {L"ZK:ColorPalette:10", 0x6080, 0, true, &Window::FrameProcedure, When::FirstWindow},
 };
 
 // The module this code is in: the library, or a test program that links

@@ -47,21 +47,9 @@ TEST(CalendarCreation, AutoSizeFitsTheWindowToTheMonthWhenTheFontChanges) {
     EXPECT_EQ(l.Client().right, window.right - window.left) << "the layout follows the new size";
 }
 
-// A form whose design item holds a calendar block: new windows are bound to
-// the item before their first message, and the creation parameter says
-// that the host stored properties.
+// A form whose design item holds a calendar block.
 class StoredBlock : public testing::Test {
 protected:
-    void SetUp() override {
-        outline = ZkHostDesignNewOutline();
-        item = ZkHostDesignAddItem(outline, 0, 1);
-        self = this;
-        hook = SetWindowsHookExW(WH_CBT, &Bind, nullptr, GetCurrentThreadId());
-    }
-    void TearDown() override {
-        UnhookWindowsHookEx(hook);
-        ZkHostDesignFreeOutline(outline);
-    }
     void Store(zk::SPropCalendar &block, uint32_t calendarVersion = 2) {
         zk::CMemFile file;
         zk::StoreBlock(file, block);
@@ -69,21 +57,13 @@ protected:
         std::memcpy(bytes.data() + 10, &calendarVersion, 4); // after the generic part
         if (calendarVersion == 1)
             bytes.pop_back(); // a version 1 writer had no alternateButtons
-        bytes.push_back(0);
-        bytes.push_back(0);
-        ASSERT_EQ(HostPropSet(outline, item, L"ZK:Calendar", bytes.data(), static_cast<int32_t>(bytes.size())), 1);
-    }
-    static LRESULT CALLBACK Bind(int code, WPARAM wParam, LPARAM lParam) {
-        if (code == HCBT_CREATEWND)
-            ZkHostDesignBindWindow(self->outline, self->item, reinterpret_cast<HWND>(wParam));
-        return CallNextHookEx(nullptr, code, wParam, lParam);
+        ASSERT_TRUE(design.Store(L"ZK:Calendar", bytes));
     }
 
-    HostOutline outline = 0;
-    HostItem item = 0;
-    HHOOK hook = nullptr;
-    uint8_t parameter[8] = {0, 0, 0, 0, 1, 0, 0, 0}; // bit 0 of byte 4: stored properties
-    static inline StoredBlock *self = nullptr;
+    zkt::StoredBlockItem design;
+    const HostOutline outline = design.outline;
+    const HostItem item = design.item;
+    uint8_t *parameter = design.parameter;
 };
 
 TEST_F(StoredBlock, VersionTwoAppliesEveryField) {

@@ -25,31 +25,6 @@ std::ostream &operator<<(std::ostream &out, const Ymd &d) {
     return out << d.year << '-' << d.month << '-' << d.day;
 }
 
-FormCalendar::FormCalendar(zkt::Box box, void *parameter) {
-    form.onMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
-        if (message != WM_CTLCOLORLISTBOX || !listBrush)
-            return false;
-        SetTextColor(reinterpret_cast<HDC>(wParam), listText);
-        result = reinterpret_cast<LRESULT>(listBrush);
-        return true;
-    });
-    hwnd_ = CreateWindowExW(0, L"ZK:cCalendar:10", L"", WS_CHILD | WS_VISIBLE, box.x, box.y, box.width,
-                            box.height, form, reinterpret_cast<HMENU>(INT_PTR{7}), GetModuleHandleW(nullptr),
-                            parameter);
-    MSG m{};
-    if (hwnd_ && PeekMessageW(&m, hwnd_, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
-        object_ = reinterpret_cast<zk::cal::CCalendar *>(m.lParam);
-    zkt::pumpMessages();
-}
-
-FormCalendar::~FormCalendar() {
-    if (IsWindow(hwnd_))
-        DestroyWindow(hwnd_);
-    if (listBrush)
-        DeleteObject(listBrush);
-    zkt::pumpMessages();
-}
-
 Ymd FormCalendar::Focus() const {
     HostDateTime d{};
     ZelCalGetFocusDate(control(), &d);
@@ -58,14 +33,14 @@ Ymd FormCalendar::Focus() const {
 
 zkt::Bitmap FormCalendar::Paint() const {
     RECT client{};
-    GetClientRect(hwnd_, &client);
+    GetClientRect(hwnd(), &client);
     zkt::Bitmap picture(client.right, client.bottom);
-    SendMessageW(hwnd_, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
+    SendMessageW(hwnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
     return picture;
 }
 
 void FormCalendar::Mouse(UINT message, int x, int y, WPARAM keys) const {
-    SendMessageW(hwnd_, message, keys, MAKELPARAM(static_cast<WORD>(static_cast<short>(x)),
+    SendMessageW(hwnd(), message, keys, MAKELPARAM(static_cast<WORD>(static_cast<short>(x)),
                                                   static_cast<WORD>(static_cast<short>(y))));
 }
 

@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "calendar/win/calendar_window.h"
+#include "win_control.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
@@ -30,12 +31,12 @@ std::ostream &operator<<(std::ostream &out, const Ymd &d);
 
 // The form's calendar: "ZK:cCalendar:10" on a test window, its announced
 // pointer taken from the queue. The clock stands at 15 March 2024.
-class FormCalendar {
+class FormCalendar : public zkt::ControlForm {
 public:
-    explicit FormCalendar(zkt::Box box = {10, 10, 240, 180}, void *parameter = nullptr);
-    ~FormCalendar();
+    explicit FormCalendar(zkt::Box box = {10, 10, 240, 180}, void *parameter = nullptr)
+        : ControlForm(L"ZK:cCalendar:10", box, parameter),
+          object_(reinterpret_cast<zk::cal::CCalendar *>(announced())) {}
 
-    HWND hwnd() const { return hwnd_; }
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_); }
     zk::cal::CCalendar &object() const { return *object_; }
     const zk::cal::CalLayout &layout() const { return object_->Layout(); }
@@ -47,12 +48,7 @@ public:
     void Mouse(UINT message, int x, int y, WPARAM keys = 0) const;
     void MouseAtCell(UINT message, int cell, WPARAM keys = 0) const;
 
-    zkt::TestWindow form{420, 320};
-    HBRUSH listBrush = nullptr; // the form's answer to WM_CTLCOLORLISTBOX, when set
-    COLORREF listText = 0;
-
 private:
-    HWND hwnd_ = nullptr;
     zk::cal::CCalendar *object_ = nullptr;
 };
 

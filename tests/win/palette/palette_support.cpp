@@ -1,0 +1,33 @@
+#include "palette_support.h"
+
+namespace paltest {
+
+zk::pal::PalHit FormPalette::Focus() const {
+    int32_t zone = -9, index = -9;
+    ZelPalFocusGet(control(), &zone, &index);
+    return {zone, index};
+}
+
+zkt::Bitmap FormPalette::Paint() const {
+    RECT client{};
+    GetClientRect(hwnd(), &client);
+    zkt::Bitmap picture(client.right, client.bottom);
+    SendMessageW(hwnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
+    return picture;
+}
+
+zk::Rect FormPalette::Cell(int zone, int index) const {
+    return layout().GetCellRect(zone, index, object_->Model().Counts());
+}
+
+void FormPalette::Mouse(UINT message, int x, int y) const {
+    SendMessageW(hwnd(), message, message == WM_MOUSEMOVE ? MK_LBUTTON : 0,
+                 MAKELPARAM(static_cast<WORD>(static_cast<short>(x)), static_cast<WORD>(static_cast<short>(y))));
+}
+
+void FormPalette::MouseAt(UINT message, int zone, int index) const {
+    const zk::Rect r = Cell(zone, index);
+    Mouse(message, (r.left + r.right) / 2, (r.top + r.bottom) / 2);
+}
+
+} // namespace paltest
