@@ -159,9 +159,11 @@ HBITMAP MakeBackgroundlessBitmap(const PIC &picture) {
     const int width = picture.width, height = picture.height;
     if (width <= 0 || height <= 0)
         return nullptr;
-    ClientDC screen(nullptr);
+    HDC screen = GetDC(nullptr);
     MemoryDC dc(screen);
-    Bitmap combined(CreateCompatibleBitmap(screen, width, height));
+    Bitmap combined(screen ? CreateCompatibleBitmap(screen, width, height) : nullptr);
+    if (screen)
+        ReleaseDC(nullptr, screen);
     if (!dc || !combined)
         return nullptr;
     {
@@ -181,7 +183,7 @@ HBITMAP MakeBackgroundlessBitmap(const PIC &picture) {
     info.bmiHeader.biBitCount = 32;
     info.bmiHeader.biCompression = BI_RGB;
     void *bits = nullptr;
-    Bitmap result(CreateDIBSection(screen, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
+    Bitmap result(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
     if (!result || !bits ||
         GetDIBits(dc, combined, 0, static_cast<UINT>(height), bits, &info, DIB_RGB_COLORS) != height)
         return nullptr;
