@@ -69,9 +69,11 @@ void RemoveRecord(MenuRecord *records, int32_t count, int32_t index) {
 
 std::vector<int32_t> CommandTargets(const MenuRecord *records, int32_t count, uint16_t low) {
     std::vector<int32_t> ids;
-    for (int32_t i = 0; i < count; ++i)
-        if (static_cast<uint16_t>(records[i].id) == low && (records[i].flags & kRecordReported))
-            ids.push_back(records[i].id);
+    for (int32_t i = 0; i < count; ++i) {
+        const int32_t id = records[i].id; // a packed field: copied, never bound
+        if (static_cast<uint16_t>(id) == low && (records[i].flags & kRecordReported))
+            ids.push_back(id);
+    }
     return ids;
 }
 

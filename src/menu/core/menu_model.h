@@ -39,6 +39,7 @@ struct MenuRecord {
     void *font;             // HFONT; not owned
 };
 #pragma pack(pop)
+static_assert(sizeof(void *) != 4 || sizeof(MenuRecord) == 26, "the record is packed: 26 bytes on 32 bits");
 
 class CMenuStack;
 
@@ -50,6 +51,7 @@ struct MenuBlock {
     int32_t capacity;      // records allocated
     CMenuStack *freeIds;   // ids given back by deletion
 };
+static_assert(sizeof(void *) != 4 || sizeof(MenuBlock) == 24, "the block is 24 bytes on 32 bits");
 
 // One id given back by deletion.
 class CMenuIDData {
