@@ -28,7 +28,7 @@ bool Locate(const MenuSource &source, uint64_t menu, int32_t id, uint64_t &where
     const int count = source.Count(menu);
     PlatformItem item;
     for (int i = 0; i < count; ++i) {
-        if (!source.Read(menu, i, item))
+        if (!source.Read(menu, i, item, false))
             continue;
         if (item.submenu == 0 && item.id == id) {
             where = menu;

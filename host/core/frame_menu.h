@@ -32,7 +32,8 @@ public:
     virtual ~MenuSource() = default;
     // Items in a menu; -1 when it is no menu.
     virtual int Count(uint64_t menu) const = 0;
-    virtual bool Read(uint64_t menu, int position, PlatformItem &item) const = 0;
+    // The item at a position; its text only when `withText`.
+    virtual bool Read(uint64_t menu, int position, PlatformItem &item, bool withText = true) const = 0;
 };
 
 enum class PictureKind : uint8_t { None = 0, Bitmap = 1, Icon = 2 };

@@ -213,18 +213,18 @@ public:
         HMENU m = reinterpret_cast<HMENU>(static_cast<uintptr_t>(menu));
         return IsMenu(m) ? GetMenuItemCount(m) : -1;
     }
-    bool Read(uint64_t menu, int position, zkh::PlatformItem &item) const override {
+    bool Read(uint64_t menu, int position, zkh::PlatformItem &item, bool withText) const override {
         HMENU m = reinterpret_cast<HMENU>(static_cast<uintptr_t>(menu));
         MENUITEMINFOW info{};
         info.cbSize = sizeof(info);
-        info.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_STATE | MIIM_FTYPE | MIIM_STRING;
+        info.fMask = MIIM_ID | MIIM_SUBMENU | MIIM_STATE | MIIM_FTYPE | (withText ? MIIM_STRING : 0);
         if (!GetMenuItemInfoW(m, static_cast<UINT>(position), TRUE, &info))
             return false;
         item.submenu = reinterpret_cast<uintptr_t>(info.hSubMenu);
         item.id = info.hSubMenu ? -1 : static_cast<int32_t>(info.wID);
         item.state = (info.fState & (MFS_CHECKED | MFS_GRAYED)) | (info.fType & MFT_SEPARATOR);
         item.text.clear();
-        if (!(info.fType & (MFT_OWNERDRAW | MFT_BITMAP | MFT_SEPARATOR)) && info.cch > 0) {
+        if (withText && !(info.fType & (MFT_OWNERDRAW | MFT_BITMAP | MFT_SEPARATOR)) && info.cch > 0) {
             std::wstring text(info.cch + 1, L'\0');
             info.fMask = MIIM_STRING;
             info.dwTypeData = text.data();

@@ -8,8 +8,13 @@
 namespace zk {
 
 // Draws `height` rows of the picture from row `sourceTop` on, at (x, y).
-// The destination's text and background colours are black and white for
-// the mask's way in, and are put back afterwards.
+// The bitmaps are read, never selected, so they may be in use elsewhere;
+// their bits pass through scratch DCs kept for the next call, and those of
+// the bitmap drawn last are kept there: a bitmap drawn here must not change
+// while it lives (pictures do not).
 void MaskedBlit(HDC dc, int x, int y, int width, int height, HBITMAP image, HBITMAP mask, int sourceTop = 0);
+// Frees the scratch DCs (4 GDI objects) until the next call, and forgets
+// what they held.
+void MaskedBlitRelease();
 
 } // namespace zk

@@ -118,25 +118,33 @@ bool DrawMenuItem(HLOCAL block, const DRAWITEMSTRUCT &item) {
     if (!picture)
         return false;
 
-    SavedDC saved(dc);
     DrawMetrics m;
     m.item = FromRECT(item.rcItem);
     m.pictureWidth = picture->width;
     m.pictureHeight = picture->height;
     m.centrePicture = IsBitmap(*picture);
-    m.checkWidth = CheckWidth();
+    // The DC is the menu's: what is changed on it goes back (SaveDC would
+    // cost more than the whole drawing).
+    COLORREF oldText = CLR_INVALID;
+    int oldMode = 0;
+    HGDIOBJ oldFont = nullptr;
     const std::u16string text = ReadText(static_cast<HLOCAL>(record.text));
     if (!text.empty()) {
         if (record.font)
-            SelectObject(dc, static_cast<HFONT>(record.font));
+            oldFont = SelectObject(dc, static_cast<HFONT>(record.font));
         const bool greyed = (item.itemState & (ODS_DISABLED | ODS_GRAYED)) != 0;
-        SetTextColor(dc, greyed      ? GetSysColor(COLOR_GRAYTEXT)
-                         : selected ? GetSysColor(COLOR_HIGHLIGHTTEXT)
-                                    : RGB(0, 0, 0));
-        SetBkMode(dc, TRANSPARENT);
+        oldText = SetTextColor(dc, greyed      ? GetSysColor(COLOR_GRAYTEXT)
+                                   : selected ? GetSysColor(COLOR_HIGHLIGHTTEXT)
+                                              : RGB(0, 0, 0));
+        oldMode = SetBkMode(dc, TRANSPARENT);
         const TabParts parts = SplitAtTab(text);
-        m.afterTabWidth = Extent(dc, parts.after).cx;
-        m.twoSpacesWidth = Extent(dc, u"  ").cx;
+        if (parts.hasTab) {
+            // Only the text after a tab needs the check width, which the
+            // platform works out afresh on every call (slowly under Wine).
+            m.afterTabWidth = Extent(dc, parts.after).cx;
+            m.twoSpacesWidth = Extent(dc, u"  ").cx;
+            m.checkWidth = CheckWidth();
+        }
         const ItemLayout at = LayoutItem(m);
         const UINT format = DT_SINGLELINE | DT_VCENTER;
         RECT box = ToRECT(at.text);
@@ -152,6 +160,12 @@ bool DrawMenuItem(HLOCAL block, const DRAWITEMSTRUCT &item) {
     const UINT state = GetMenuState(menu, static_cast<UINT>(id), MF_BYCOMMAND);
     if (state != static_cast<UINT>(-1) && (state & MF_CHECKED))
         DrawCheck(dc, item.rcItem, selected, m);
+    if (oldFont)
+        SelectObject(dc, oldFont);
+    if (oldMode)
+        SetBkMode(dc, oldMode);
+    if (oldText != CLR_INVALID)
+        SetTextColor(dc, oldText);
     return true;
 }
 

@@ -3,6 +3,7 @@
 #include <cstring>
 #include <new>
 
+#include "frame/win/masked_blit.h"
 #include "frame/win/propcache.h"
 #include "frame/win/window.h"
 #include "menu/core/menu_tree.h"
@@ -15,6 +16,7 @@ namespace {
 
 int failuresDue = 0;
 int liveBlocks = 0;
+int menuBlocks = 0; // windows that carry a menu block
 
 bool AllocationRefused() {
     if (failuresDue <= 0)
@@ -115,6 +117,7 @@ HLOCAL EnsureBlock(HWND frame) {
     pin->count = 0;
     pin->freeIds = freeIds;
     pin->lastId = HighestId(PlatformTree(), FrameMenuOf(frame), 0);
+    ++menuBlocks;
     return block;
 }
 
@@ -131,6 +134,9 @@ void DestroyBlock(HWND window, HLOCAL block) {
     LocalRelease(block);
     PropRemove(window, kMenuProperty);
     ForgetCheckBitmaps(window);
+    // The drawing's scratch DCs live as long as some window has menu items.
+    if (--menuBlocks == 0)
+        MaskedBlitRelease();
 }
 
 bool MakeRoom(HLOCAL block) {

@@ -17,7 +17,7 @@ struct Platform final : MenuSource {
         auto it = menus.find(m);
         return it == menus.end() ? -1 : static_cast<int>(it->second.size());
     }
-    bool Read(uint64_t m, int p, PlatformItem &item) const override {
+    bool Read(uint64_t m, int p, PlatformItem &item, bool) const override {
         auto it = menus.find(m);
         if (it == menus.end() || p < 0 || p >= static_cast<int>(it->second.size()))
             return false;
