@@ -105,11 +105,24 @@ bool MeasureMenuItem(HWND window, HLOCAL block, MEASUREITEMSTRUCT &item) {
 }
 
 bool DrawMenuItem(HLOCAL block, const DRAWITEMSTRUCT &item) {
-    HMENU menu = reinterpret_cast<HMENU>(item.itemData);
+    // The item data is the menu, as the library inserted the item; a text
+    // set on an owner-drawn item since has made the data that text's
+    // pointer, and the id alone finds the record then, as in measuring.
     const int32_t id = static_cast<int32_t>(item.itemID);
     MenuRecord record{};
-    if (!ReadRecord(block, menu, id, record))
+    bool found = false;
+    WithTable(block, [&](MenuBlock &b, MenuRecord *records) {
+        int32_t at = FindRecord(records, b.count, reinterpret_cast<void *>(item.itemData), id);
+        if (at < 0)
+            at = FindRecordById(records, b.count, id);
+        if (at >= 0) {
+            record = records[at];
+            found = true;
+        }
+    });
+    if (!found)
         return false;
+    HMENU menu = static_cast<HMENU>(record.menu);
     HDC dc = item.hDC;
     const bool selectAction = (item.itemAction & ODA_SELECT) != 0;
     const bool selected = selectAction && (item.itemState & ODS_SELECTED);

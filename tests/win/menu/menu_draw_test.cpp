@@ -24,7 +24,7 @@ protected:
         MenuTest::TearDown();
     }
 
-    LRESULT Draw(zkt::Bitmap &canvas, UINT action, UINT state, int32_t id = 0) {
+    LRESULT Draw(zkt::Bitmap &canvas, UINT action, UINT state, int32_t id = 0, ULONG_PTR data = 0) {
         DRAWITEMSTRUCT item{};
         item.CtlType = ODT_MENU;
         item.itemID = static_cast<UINT>(id ? id : id_);
@@ -33,7 +33,7 @@ protected:
         item.hwndItem = reinterpret_cast<HWND>(popup_);
         item.hDC = canvas.dc();
         item.rcItem = {0, 0, canvas.width(), canvas.height()};
-        item.itemData = reinterpret_cast<ULONG_PTR>(popup_);
+        item.itemData = data ? data : reinterpret_cast<ULONG_PTR>(popup_);
         return SendMessageW(frame_, WM_DRAWITEM, 0, reinterpret_cast<LPARAM>(&item));
     }
 
@@ -145,6 +145,26 @@ TEST_F(MenuDraw, AnItemWithAFontAloneIsLeftToTheOldProcedure) {
     zkt::Bitmap bare(60, 20);
     EXPECT_EQ(Draw(bare, ODA_DRAWENTIRE, 0, id_ + 1), TRUE);
     EXPECT_EQ(bare.pixel(8, 10), kRed);
+    DestroyWindow(frame_);
+    ZelFontFree(font);
+}
+
+TEST_F(MenuDraw, AFontOnAPictureItemDrawsItsText) {
+    zkt::Bitmap plain(240, 24);
+    Draw(plain, ODA_DRAWENTIRE, 0);
+    HFONT font = ZelFontLoad(L"Tahoma", 16, FONT_Bold);
+    // The text set with the font leaves the item's data a text pointer: the
+    // record is found by the id.
+    ASSERT_EQ(ZelMenuSetFont(frame_, popup_, 0, font, L""), 1);
+    MENUITEMINFOW info{};
+    info.cbSize = sizeof(info);
+    info.fMask = MIIM_DATA;
+    GetMenuItemInfoW(popup_, static_cast<UINT>(id_), FALSE, &info);
+    EXPECT_NE(info.dwItemData, reinterpret_cast<ULONG_PTR>(popup_));
+    zkt::Bitmap bold(240, 24);
+    EXPECT_EQ(Draw(bold, ODA_DRAWENTIRE, 0, id_, info.dwItemData), TRUE);
+    EXPECT_EQ(bold.pixel(8, 12), kRed);
+    EXPECT_GT(bold.count(RGB(0, 0, 0)), plain.count(RGB(0, 0, 0)) * 3 / 2);
     DestroyWindow(frame_);
     ZelFontFree(font);
 }
