@@ -191,3 +191,51 @@ TEST_F(MenuFrames, EachWindowFindsTheFrameThatCarriesItsBlock) {
 }
 
 } // namespace
+
+namespace {
+
+TEST_F(MenuFrames, StaleMenusAndWindowsGiveTheFailureValues) {
+    const FrameMenu m = MakeFrameMenu();
+    HWND frame = Frame(HOST_FRAME_Frame, m.bar);
+    HWND gone = CreateWindowExW(0, L"Static", L"", 0, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
+    DestroyWindow(gone);
+    HMENU dead = CreatePopupMenu();
+    DestroyMenu(dead);
+    const ZelPicHandle pic = Picture(RGB(0, 0, 0));
+    for (HMENU menu : {dead, static_cast<HMENU>(nullptr)}) {
+        EXPECT_EQ(ZelMenuGetCount(menu), -1);
+        EXPECT_EQ(ZelMenuGetPosition(menu, kNew), -1);
+        EXPECT_EQ(ZelMenuGetPopupHandle(menu, 0), nullptr);
+        EXPECT_EQ(ZelMenuCheck(menu, 0), 0);
+        EXPECT_EQ(ZelMenuUncheck(menu, 0), 0);
+        EXPECT_EQ(ZelMenuEnable(menu, 0), 0);
+        EXPECT_EQ(ZelMenuDisable(menu, 0), 0);
+        EXPECT_EQ(ZelMenuIsChecked(menu, 0), 0);
+        EXPECT_EQ(ZelMenuIsEnabled(menu, 0), 0);
+    }
+    struct Pair {
+        HWND window;
+        HMENU menu;
+    } pairs[] = {{gone, m.file}, {nullptr, m.file}, {frame, dead}, {frame, nullptr}};
+    for (const Pair &p : pairs) {
+        EXPECT_EQ(Take(ZelMenuGetText(p.window, p.menu, 0)), L"");
+        EXPECT_EQ(ZelMenuSetText(p.window, p.menu, 0, L"x"), 0);
+        EXPECT_EQ(ZelMenuInsert(p.window, p.menu, -1, L"x", 0), 0);
+        EXPECT_EQ(ZelMenuInsertFont(p.window, p.menu, -1, nullptr, L"x"), 0);
+        EXPECT_EQ(ZelMenuInsertPicture(p.window, p.menu, -1, pic, pic, L"x"), 0);
+        EXPECT_EQ(ZelMenuSetFont(p.window, p.menu, 0, nullptr, L"x"), 0);
+        EXPECT_EQ(ZelMenuSetPicture(p.window, p.menu, 0, pic, pic, L"x"), 0);
+        EXPECT_EQ(ZelMenuDelete(p.window, p.menu, 0), 0);
+    }
+    EXPECT_EQ(ZelMenuGetHandle(gone), nullptr);
+    EXPECT_EQ(ZelMenuGetSystemHandle(gone), nullptr);
+    EXPECT_EQ(ZelMenuGetCount(m.file), 4); // nothing reached the live menu
+    // Host operations on windows that are no frames answer 0.
+    EXPECT_EQ(HostFrameKind(gone), HOST_FRAME_None);
+    EXPECT_EQ(HostFrameAttachMenu(gone, m.bar), 0);
+    EXPECT_EQ(HostFrameSetMenuCheck(nullptr, m.file, 0, kNew, 1), 0);
+    EXPECT_EQ(HostFrameGetRibbonBar(frame), nullptr);
+    EXPECT_EQ(HostFrameIsWindowsMenu(frame, m.window), 0); // a frame has no Windows menu
+}
+
+} // namespace
