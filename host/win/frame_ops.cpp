@@ -46,6 +46,27 @@ zkh::FrameItem *ItemFor(HostFrame &frame, HMENU menu, int32_t selector, int32_t 
     return item;
 }
 
+// GetMenuCheck and GetMenuEnable: 0 for an item the structure lacks.
+int32_t GetFlag(HWND window, int32_t id, bool zkh::FrameItem::*member) {
+    return OnFrame(window, [&](HostFrame &frame) -> int32_t {
+        const zkh::FrameItem *item = frame.structure.FindId(id);
+        return item && item->*member ? 1 : 0;
+    });
+}
+
+// SetMenuCheck and SetMenuEnable: one flag of an item.
+int32_t SetFlag(HWND window, HMENU menu, int32_t selector, int32_t id, int32_t flag, const wchar_t *what,
+                bool zkh::FrameItem::*member) {
+    return OnFrame(window, [&](HostFrame &frame) -> int32_t {
+        Log(frame, std::wstring(what) + L"(" + Number(id) + L"," + Number(flag) + L")");
+        zkh::FrameItem *item = ItemFor(frame, menu, selector, id);
+        if (!item)
+            return 0;
+        item->*member = flag != 0;
+        return 1;
+    });
+}
+
 int32_t SetPicture(HWND window, int32_t id, const wchar_t *text, const zkh::FramePicture &picture,
                    const wchar_t *what) {
     return OnFrame(window, [&](HostFrame &frame) -> int32_t {
@@ -138,39 +159,19 @@ int32_t ZKAPI HostFrameSetMenuText(HWND frame, int32_t id, const wchar_t *text) 
 }
 
 int32_t ZKAPI HostFrameGetMenuCheck(HWND frame, int32_t id) {
-    return OnFrame(frame, [&](HostFrame &f) -> int32_t {
-        const zkh::FrameItem *item = f.structure.FindId(id);
-        return item && item->checked ? 1 : 0;
-    });
+    return GetFlag(frame, id, &zkh::FrameItem::checked);
 }
 
 int32_t ZKAPI HostFrameSetMenuCheck(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag) {
-    return OnFrame(frame, [&](HostFrame &f) -> int32_t {
-        Log(f, L"SetMenuCheck(" + Number(id) + L"," + Number(flag) + L")");
-        zkh::FrameItem *item = ItemFor(f, menu, selector, id);
-        if (!item)
-            return 0;
-        item->checked = flag != 0;
-        return 1;
-    });
+    return SetFlag(frame, menu, selector, id, flag, L"SetMenuCheck", &zkh::FrameItem::checked);
 }
 
 int32_t ZKAPI HostFrameGetMenuEnable(HWND frame, int32_t id) {
-    return OnFrame(frame, [&](HostFrame &f) -> int32_t {
-        const zkh::FrameItem *item = f.structure.FindId(id);
-        return item && item->enabled ? 1 : 0;
-    });
+    return GetFlag(frame, id, &zkh::FrameItem::enabled);
 }
 
 int32_t ZKAPI HostFrameSetMenuEnable(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag) {
-    return OnFrame(frame, [&](HostFrame &f) -> int32_t {
-        Log(f, L"SetMenuEnable(" + Number(id) + L"," + Number(flag) + L")");
-        zkh::FrameItem *item = ItemFor(f, menu, selector, id);
-        if (!item)
-            return 0;
-        item->enabled = flag != 0;
-        return 1;
-    });
+    return SetFlag(frame, menu, selector, id, flag, L"SetMenuEnable", &zkh::FrameItem::enabled);
 }
 
 int32_t ZKAPI HostFrameSetMenuPictureIcon(HWND frame, int32_t id, const wchar_t *text, HICON icon) {

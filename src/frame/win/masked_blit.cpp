@@ -2,7 +2,7 @@
 
 #include <cstdint>
 
-#include "frame/win/gdi.h"
+#include "frame/win/dib32.h"
 
 namespace zk {
 namespace {
@@ -27,7 +27,7 @@ public:
         loaded_ = nullptr;
         if (!Fit(like, width, height))
             return nullptr;
-        BITMAPINFO info = Info(width, height);
+        BITMAPINFO info = Dib32Info(width, height);
         GdiFlush();
         if (GetDIBits(dc_, bitmap, 0, static_cast<UINT>(height), bits_, &info, DIB_RGB_COLORS) != height)
             return nullptr;
@@ -51,17 +51,6 @@ public:
     }
 
 private:
-    static BITMAPINFO Info(int width, int height) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
-        return info;
-    }
-
     // The section is exactly the picture's width (GetDIBits fills rows of
     // the section's stride) and at least its height.
     bool Fit(HDC like, int width, int height) {
@@ -69,9 +58,8 @@ private:
             return true;
         Release();
         dc_ = CreateCompatibleDC(like);
-        BITMAPINFO info = Info(width, height);
-        bitmap_ = dc_ ? CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits_, nullptr, 0) : nullptr;
-        if (!bitmap_ || !bits_) {
+        bitmap_ = dc_ ? CreateDib32(dc_, width, height, &bits_) : nullptr;
+        if (!bitmap_) {
             Release();
             return false;
         }

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <string>
 
+#include "frame/win/dib32.h"
 #include "frame/win/gdi.h"
 #include "frame/win/masked_blit.h"
 #include "menu/core/menu_layout.h"
@@ -202,17 +203,10 @@ HBITMAP MakeBackgroundlessBitmap(const PIC &picture) {
             DrawIconEx(dc, 0, 0, picture.icon, width, height, 0, nullptr, DI_NORMAL);
     }
     // To 32 bits, black made transparent.
-    BITMAPINFO info{};
-    info.bmiHeader.biSize = sizeof(info.bmiHeader);
-    info.bmiHeader.biWidth = width;
-    info.bmiHeader.biHeight = -height;
-    info.bmiHeader.biPlanes = 1;
-    info.bmiHeader.biBitCount = 32;
-    info.bmiHeader.biCompression = BI_RGB;
+    BITMAPINFO info = Dib32Info(width, height);
     void *bits = nullptr;
-    Bitmap result(CreateDIBSection(dc, &info, DIB_RGB_COLORS, &bits, nullptr, 0));
-    if (!result || !bits ||
-        GetDIBits(dc, combined, 0, static_cast<UINT>(height), bits, &info, DIB_RGB_COLORS) != height)
+    Bitmap result(CreateDib32(dc, width, height, &bits));
+    if (!result || GetDIBits(dc, combined, 0, static_cast<UINT>(height), bits, &info, DIB_RGB_COLORS) != height)
         return nullptr;
     auto *pixel = static_cast<uint32_t *>(bits);
     for (int i = 0; i < width * height; ++i)

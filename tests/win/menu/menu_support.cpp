@@ -4,6 +4,8 @@
 
 #include <cstdint>
 
+#include "zkt_bitmap.h"
+
 namespace menutest {
 
 FrameMenu MakeFrameMenu() {
@@ -106,33 +108,15 @@ HWND MenuTest::Frame(int32_t kind, HMENU menu, uint32_t options, HWND parent) {
 }
 
 ZelPicHandle MenuTest::Picture(COLORREF ink, int size) {
-    // A 24-bit bottom-up BMP in memory: white ground, a square of ink inside.
-    const int stride = (size * 3 + 3) & ~3;
-    std::vector<uint8_t> b(54 + static_cast<size_t>(stride) * size, 0);
-    auto put32 = [&](size_t at, uint32_t v) {
-        for (int i = 0; i < 4; ++i)
-            b[at + i] = static_cast<uint8_t>(v >> (8 * i));
-    };
-    b[0] = 'B';
-    b[1] = 'M';
-    put32(2, static_cast<uint32_t>(b.size()));
-    put32(10, 54);
-    put32(14, 40);
-    put32(18, static_cast<uint32_t>(size));
-    put32(22, static_cast<uint32_t>(size));
-    b[26] = 1;
-    b[28] = 24;
-    for (int y = 0; y < size; ++y)
-        for (int x = 0; x < size; ++x) {
-            const bool inked = x >= 2 && y >= 2 && x < size - 2 && y < size - 2;
-            const COLORREF c = inked ? ink : RGB(255, 255, 255);
-            uint8_t *p = &b[54 + static_cast<size_t>(size - 1 - y) * stride + x * 3];
-            p[0] = GetBValue(c);
-            p[1] = GetGValue(c);
-            p[2] = GetRValue(c);
-        }
+    zkt::Bitmap image(size, size);
+    image.fill(RGB(255, 255, 255));
+    HBRUSH brush = CreateSolidBrush(ink);
+    const RECT square{2, 2, size - 2, size - 2};
+    FillRect(image.dc(), &square, brush);
+    DeleteObject(brush);
+    const std::vector<unsigned char> bytes = image.bmpBytes();
     const ZelPicHandle picture =
-        ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap, reinterpret_cast<const wchar_t *>(b.data()), L"");
+        ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap, reinterpret_cast<const wchar_t *>(bytes.data()), L"");
     EXPECT_NE(picture, 0);
     pictures_.push_back(picture);
     return picture;
