@@ -58,12 +58,15 @@ private:
 
 } // namespace
 
-Picture CaptureTopLevel(HWND window) {
+Picture CaptureTopLevel(HWND window, bool repaint) {
     RECT area{};
     if (!IsWindow(window) || !GetWindowRect(window, &area))
         return {};
-    RedrawWindow(window, nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    if (repaint)
+        RedrawWindow(window, nullptr, nullptr,
+                     RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    else
+        UpdateWindow(window);
     const int width = area.right - area.left;
     const int height = area.bottom - area.top;
     if (width <= 0 || height <= 0)

@@ -135,6 +135,9 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
     // Page 6: the colour palette; the steps photograph each palette.
     form.NextPage();
     RunPaletteSteps(report, pictures);
+    // Page 7: menus on a host frame; the step photographs its open popup.
+    form.NextPage();
+    RunMenuSteps(report, pictures);
     form.Show();
     PumpPending();
 

@@ -32,6 +32,9 @@ void RunCalendarSteps(Report &report, Pictures &pictures);
 // through its colour dialog, disabled, and keeping its focus frame after
 // losing the focus, a picture of each.
 void RunPaletteSteps(Report &report, Pictures &pictures);
+// A host frame with owner-drawn menu items (pictures, fonts, a check mark),
+// photographed with one popup open and an item selected.
+void RunMenuSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

@@ -229,6 +229,59 @@ int32_t ZKAPI HostByteFree(void *block);
 /* Copies at most limit bytes; nonzero when a double-byte character had to be left out. */
 int32_t ZKAPI HostMbcsCopy(char *destination, const char *source, int32_t limit);
 
+/* ---- host frames ----------------------------------------------------------- *
+ * The host's frame windows: a frame ("Marlo:AccFrame") and an MDI frame
+ * ("Marlo:MDIFrame") keep a menu of their own ("our menu", not attached to
+ * the window, so GetMenu gives 0) and a structure read from it that their
+ * bar shows; changes reach that structure only through these operations.
+ * MDI children and host dialogs are host windows without one. Every
+ * operation on a window that is not a frame of the two frame classes (or,
+ * where noted, an MDI frame) answers 0 and does nothing. */
+#define HOST_FRAME_None     0 /* no host frame window */
+#define HOST_FRAME_Frame    1 /* "Marlo:AccFrame" */
+#define HOST_FRAME_MDIFrame 2 /* "Marlo:MDIFrame" */
+#define HOST_FRAME_MDIChild 3 /* an MDI child of an MDI frame */
+#define HOST_FRAME_Dialog   4 /* a host dialog */
+
+/* The kind of a host window, in place of a run-time class test. */
+int32_t ZKAPI HostFrameKind(HWND window);
+HMENU   ZKAPI HostFrameGetOurMenuHandle(HWND frame);
+/* Takes `menu` as the frame's menu and reads the structure again from it. */
+int32_t ZKAPI HostFrameAttachMenu(HWND frame, HMENU menu);
+/* The bar shows the structure again. */
+int32_t ZKAPI HostFrameUpdateMenuBar(HWND frame);
+int32_t ZKAPI HostFrameUpdateMenuState(HWND frame, int32_t flag);
+/* Adds the platform's item `id` (already in the frame's menu) to the
+ * structure at its place: 1, or 0 when the menu has no such item. */
+int32_t ZKAPI HostFrameInsertMenu(HWND frame, int32_t id, uint32_t flags);
+int32_t ZKAPI HostFrameMenuHasItem(HWND frame, int32_t id);
+/* The structure's text of an item, the key being a popup's submenu or a
+ * command id: copied into `buffer` (`size` characters with the terminator,
+ * cut to fit); the length of the whole text, 0 for no item. */
+int32_t ZKAPI HostFrameGetMenuText(HWND frame, INT_PTR key, wchar_t *buffer, int32_t size);
+/* 1, or 0 when the structure has no such item. */
+int32_t ZKAPI HostFrameSetMenuText(HWND frame, int32_t id, const wchar_t *text);
+int32_t ZKAPI HostFrameGetMenuCheck(HWND frame, int32_t id);
+/* The item of `id`, or (id -1) the one at `selector` in `menu`: 1, or 0. */
+int32_t ZKAPI HostFrameSetMenuCheck(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag);
+int32_t ZKAPI HostFrameGetMenuEnable(HWND frame, int32_t id);
+int32_t ZKAPI HostFrameSetMenuEnable(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag);
+/* The two forms of SetMenuPicture: the item's picture, and its text when
+ * one is given. Pictures stay the caller's. 1, or 0 for no such item. */
+int32_t ZKAPI HostFrameSetMenuPictureIcon(HWND frame, int32_t id, const wchar_t *text, HICON icon);
+int32_t ZKAPI HostFrameSetMenuPictureBitmap(HWND frame, int32_t id, const wchar_t *text, HBITMAP bitmap,
+                                            HBITMAP mask, int32_t width, int32_t height);
+/* MDI frames only: whether a menu is the Windows menu (the popup holding
+ * a window command, 0xE130 to 0xE13F), and the text it lists for an MDI
+ * child's command id (from 0xFF00), as HostFrameGetMenuText. */
+int32_t ZKAPI HostFrameIsWindowsMenu(HWND frame, HMENU menu);
+int32_t ZKAPI HostFrameGetWindowsMenuText(HWND frame, int32_t id, wchar_t *buffer, int32_t size);
+/* MDI frames only: the ribbon bar, and the flag that says it is in use in
+ * place of the menu bar; the ribbon bar's refresh from the structure. */
+HWND    ZKAPI HostFrameGetRibbonBar(HWND frame);
+int32_t ZKAPI HostFrameRibbonInUse(HWND frame);
+int32_t ZKAPI HostRibbonRefresh(HWND ribbon);
+
 /* ---- named host functions ------------------------------------------------ */
 /* Nonzero when the window is made on its own under a parent that exists,
  * so a control may announce itself at once; 0 while the host is still

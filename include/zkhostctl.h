@@ -66,6 +66,23 @@ int32_t  ZKAPI ZkHostDesignLiveItems(void);
 /* What OrlParentWindowOnly answers for the children of `parent` (0 until set). */
 void     ZKAPI ZkHostSetParentWindowOnly(HWND parent, int32_t answer);
 
+/* Host frames (HOST_FRAME_* of zkhost.h). A frame or MDI frame takes
+ * `menu` as its own and destroys it with itself; a dialog shows it as its
+ * platform menu; an MDI child is made in the MDI frame `parent`. */
+#define ZKHOST_FRAME_Ribbon 0x0001 /* an MDI frame shows a ribbon bar */
+HWND    ZKAPI ZkHostFrameCreate(int32_t kind, HWND parent, const wchar_t *title, HMENU menu, uint32_t options);
+/* The frame operations done on a host window and the ZKM_MenuCommand it
+ * got, one line each ("AttachMenu", "InsertMenu(1025)", "MenuCommand(-5)"),
+ * copied into `buffer` (then emptied); the length, -1 for no host window. */
+int32_t ZKAPI ZkHostFrameTakeLog(HWND window, wchar_t *buffer, int32_t size);
+/* The kind of picture the structure holds for an item: 0 none, 1 bitmap,
+ * 2 icon; -1 for no such item. */
+int32_t ZKAPI ZkHostFrameMenuPicture(HWND frame, int32_t id);
+/* Opens the popup of a top-level item from the bar, as a click does
+ * (modal until the popup closes): 1, or 0 for no such item. */
+int32_t ZKAPI ZkHostFrameOpenMenu(HWND frame, int32_t position);
+HWND    ZKAPI ZkHostFrameMdiClient(HWND frame);
+
 #ifdef __cplusplus
 }
 #endif

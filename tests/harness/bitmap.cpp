@@ -125,9 +125,9 @@ int Bitmap::count(COLORREF color, RECT area) const {
 
 int Bitmap::count(COLORREF color) const { return count(color, RECT{0, 0, width_, height_}); }
 
-bool Bitmap::saveBmp(const std::wstring &path) const {
+std::vector<unsigned char> Bitmap::bmpBytes() const {
     if (!bits_) {
-        return false;
+        return {};
     }
     GdiFlush();
     // 24 bits and no alpha: a 32-bit file with alpha 0 converts to a
@@ -160,6 +160,14 @@ bool Bitmap::saveBmp(const std::wstring &path) const {
             out.push_back(static_cast<unsigned char>(row[x] >> 16));
         }
         out.resize(out.size() + (stride - static_cast<std::uint32_t>(width_) * 3), 0);
+    }
+    return out;
+}
+
+bool Bitmap::saveBmp(const std::wstring &path) const {
+    const std::vector<unsigned char> out = bmpBytes();
+    if (out.empty()) {
+        return false;
     }
     HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
                               FILE_ATTRIBUTE_NORMAL, nullptr);

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <string>
+#include <vector>
 
 namespace zkt {
 
@@ -33,6 +34,8 @@ public:
     int count(COLORREF color, RECT area) const;
     int count(COLORREF color) const;
 
+    // The bytes of a 24-bit BMP file of the picture (empty if it has none).
+    std::vector<unsigned char> bmpBytes() const;
     // Writes a 24-bit BMP file; false if the file cannot be written.
     bool saveBmp(const std::wstring &path) const;
 
