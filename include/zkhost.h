@@ -52,6 +52,13 @@ typedef uint32_t HostItem;     /* item of a designer outline */
 #define HOST_WC_FRAMECHILD    576u
 #define HOST_WC_CONTAINER     0x40000u
 
+/* Run-time classes of the host's framework windows (HostWinGetFrameKind). */
+#define HOST_FK_NONE      0 /* no framework window of the host's */
+#define HOST_FK_FRAME     1 /* CMtkFrameWnd */
+#define HOST_FK_MDIFRAME  2 /* CMtkMDIFrameWnd */
+#define HOST_FK_MDICHILD  3 /* CMtkMDIChildWnd */
+#define HOST_FK_DIALOG    4 /* CMtkDialog */
+
 /* Host notifications. */
 #define HostMsgAnyEdit      0x2004
 #define HostMsgSelect       0x2006
@@ -131,6 +138,8 @@ HostStr ZKAPI HostDateToStr(HostDateTime value, const wchar_t *picture, HostStr 
 /* ---- windows and fields ------------------------------------------------ */
 uint32_t ZKAPI HostWinType(HWND window);
 uint32_t ZKAPI HostWinClass(HWND window);
+/* The run-time class of a host framework window, in place of a class test. */
+int32_t  ZKAPI HostWinGetFrameKind(HWND window);
 int32_t  ZKAPI HostWinGetName(HWND window, HostStr *name);
 HWND     ZKAPI HostWinFirstChild(HWND form, uint32_t typeMask);
 HWND     ZKAPI HostWinNextChild(HWND child, uint32_t typeMask);

@@ -34,6 +34,8 @@ int32_t ZKAPI ZkHostHaltCount(void);
 void    ZKAPI ZkHostSetClock(const HostDateTime *now);
 /* Marks a window as a host window of the given type and class codes; type 0 forgets it. */
 void    ZKAPI ZkHostSetWinType(HWND window, uint32_t type, uint32_t cls);
+/* Makes a window a host framework window of a kind (HOST_FK_...); 0 forgets it. */
+void    ZKAPI ZkHostSetFrameKind(HWND window, int32_t kind);
 /* The name of a window in the application's source (HostWinGetName). */
 void    ZKAPI ZkHostSetWinName(HWND window, const wchar_t *name);
 /* Live arrays, and a dimension count for tests of multi-dimensional arrays. */

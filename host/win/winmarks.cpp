@@ -25,7 +25,7 @@ void SweepIfDue() {
 }
 
 void DropIfEmpty(std::unordered_map<HWND, WinMark>::iterator it) {
-    if (!it->second.typed && !it->second.named)
+    if (!it->second.typed && !it->second.named && it->second.frameKind == 0)
         Marks().erase(it);
 }
 
@@ -61,6 +61,15 @@ void MarkName(HWND window, const wchar_t *name) {
     auto it = Marks().try_emplace(window).first;
     it->second.named = name != nullptr;
     it->second.name = name ? name : L"";
+    DropIfEmpty(it);
+}
+
+void MarkFrameKind(HWND window, int32_t kind) {
+    if (!IsWindow(window))
+        return;
+    SweepIfDue();
+    auto it = Marks().try_emplace(window).first;
+    it->second.frameKind = kind;
     DropIfEmpty(it);
 }
 

@@ -17,6 +17,7 @@ struct WinMark {
     uint32_t cls = 0;
     bool named = false;
     std::wstring name;
+    int32_t frameKind = 0;
 };
 
 // The mark of a live window, or null.
@@ -24,5 +25,6 @@ const WinMark *FindMark(HWND window);
 // Type 0 forgets the type and class. Can throw std::bad_alloc.
 void MarkType(HWND window, uint32_t type, uint32_t cls);
 void MarkName(HWND window, const wchar_t *name);
+void MarkFrameKind(HWND window, int32_t kind);
 
 } // namespace hostwin

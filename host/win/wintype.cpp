@@ -89,6 +89,12 @@ uint32_t ZKAPI HostWinClass(HWND window) {
     return mark && mark->typed ? mark->cls : 0;
 }
 
+// The reference host's frames are plain windows marked by kind.
+int32_t ZKAPI HostWinGetFrameKind(HWND window) {
+    const WinMark *mark = FindMark(window);
+    return mark ? mark->frameKind : HOST_FK_NONE;
+}
+
 // The name set for the window, else the empty string; 0 when the window is
 // none (the slot still gets the empty string) or no string can be made.
 int32_t ZKAPI HostWinGetName(HWND window, HostStr *name) {
@@ -106,6 +112,10 @@ int32_t ZKAPI HostWinGetName(HWND window, HostStr *name) {
 
 void ZKAPI ZkHostSetWinType(HWND window, uint32_t type, uint32_t cls) {
     GuardVoid([&] { MarkType(window, type, cls); });
+}
+
+void ZKAPI ZkHostSetFrameKind(HWND window, int32_t kind) {
+    GuardVoid([&] { MarkFrameKind(window, kind); });
 }
 
 void ZKAPI ZkHostSetWinName(HWND window, const wchar_t *name) {
