@@ -30,8 +30,12 @@ Rect ScreenRect(HWND window) {
 int32_t CSplitter::TileToParent() {
     if (!GetParent(GetSafeHwnd()))
         return 1;
-    const Rect tiled = TileRect(BarInParent(), ParentClient(), Vertical());
-    SetWindowPos(GetSafeHwnd(), nullptr, tiled.left, tiled.top, tiled.Width(), tiled.Height(), SWP_NOZORDER);
+    const Rect bar = BarInParent();
+    const Rect tiled = TileRect(bar, ParentClient(), Vertical());
+    // After a drop the bar is tiled already; a move to where it is would
+    // only cost a round of position messages.
+    if (tiled != bar)
+        SetWindowPos(GetSafeHwnd(), nullptr, tiled.left, tiled.top, tiled.Width(), tiled.Height(), SWP_NOZORDER);
     return 1;
 }
 
