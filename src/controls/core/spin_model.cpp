@@ -69,24 +69,32 @@ int32_t ParseValue(std::u16string_view text, int32_t adjust, const NumberReader 
     return value;
 }
 
-void StepUp(SpinValues &v, std::u16string_view editText, const NumberReader &reader) {
+namespace {
+
+// The value a step starts from: false for an empty edit, which sets the
+// minimum and ends the step.
+bool StartStep(SpinValues &v, std::u16string_view editText, const NumberReader &reader) {
     if (editText.empty()) {
         v.value = v.minimum;
-        return;
+        return false;
     }
     if (v.increment != 0 && reader.isValidNumber(editText))
         v.value = ParseValue(editText, v.decimalAdjust, reader);
+    return true;
+}
+
+} // namespace
+
+void StepUp(SpinValues &v, std::u16string_view editText, const NumberReader &reader) {
+    if (!StartStep(v, editText, reader))
+        return;
     const int32_t m = std::max(Wrap(int64_t{v.value} + v.increment), v.minimum);
     v.value = m >= v.maximum ? v.maximum : m;
 }
 
 void StepDown(SpinValues &v, std::u16string_view editText, const NumberReader &reader) {
-    if (editText.empty()) {
-        v.value = v.minimum;
+    if (!StartStep(v, editText, reader))
         return;
-    }
-    if (v.increment != 0 && reader.isValidNumber(editText))
-        v.value = ParseValue(editText, v.decimalAdjust, reader);
     const int32_t m = std::min(Wrap(int64_t{v.value} - v.increment), v.maximum);
     v.value = m <= v.minimum ? v.minimum : m;
 }

@@ -99,12 +99,15 @@ void CSplitter::OnLButtonUp(Point at) {
 
 LRESULT CSplitter::OnCancelMode() {
     const LRESULT result = Default();
-    if (state & kSplitterDragging) {
-        StopTracker();
-        state &= static_cast<uint16_t>(~kSplitterDragging);
-        DropCapture();
-    }
+    if (state & kSplitterDragging)
+        EndDrag();
     return result;
+}
+
+void CSplitter::EndDrag() {
+    StopTracker();
+    state &= static_cast<uint16_t>(~kSplitterDragging);
+    DropCapture();
 }
 
 int32_t CSplitter::MoveToDragPos() {

@@ -56,6 +56,11 @@ LRESULT CSplitter::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case ZKM_Refresh:
         FindChildren();
         return 0;
+    case WM_DESTROY:
+        // A bar that goes in the middle of a drag takes its band off the screen.
+        if (state & kSplitterDragging)
+            EndDrag();
+        return ControlWindow::WindowProc(message, wParam, lParam);
     default:
         return ControlWindow::WindowProc(message, wParam, lParam);
     }
@@ -101,13 +106,9 @@ LRESULT CDlgSplitter::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     if (CSplitter::WindowProc(message, wParam, lParam) == -1)
         return -1;
     // The block lives on the form's item, not on the bar's.
-    const auto *create = reinterpret_cast<const CREATESTRUCTW *>(lParam);
-    HWND parent = GetParent(GetSafeHwnd());
-    if (!HasStoredProperties(create) || !parent)
-        return 0;
-    const HostItem item = HostDesignGetItem(parent);
     SPropSplitter block;
-    if (item && LoadItemBlock(HostDesignGetOutline(parent), item, kPropSplitter, block))
+    HWND parent = GetParent(GetSafeHwnd());
+    if (parent && LoadCreationBlock(parent, reinterpret_cast<const CREATESTRUCTW *>(lParam), kPropSplitter, block))
         props = block;
     return 0;
 }

@@ -78,6 +78,8 @@ private:
     void OnMouseMove(Point at);
     void OnLButtonUp(Point at);
     LRESULT OnCancelMode();
+    // The band off the screen, idle, the capture let go.
+    void EndDrag();
 
     bool Vertical() const { return props.orientation == kVerticalBar; }
     int32_t Axis(Point p) const { return Vertical() ? p.x : p.y; }

@@ -221,10 +221,7 @@ TEST_F(WithBlock, TheWrapperReadsItsBlockFromTheFormsItem) {
     block.bevelLines = 0;
     Store(block);
     zkt::TestWindow form(400, 300);
-    form.onMessage([](HWND, UINT message, WPARAM, LPARAM, LRESULT &result) {
-        result = 0; // the form leaves the cursor to its children
-        return message == WM_SETCURSOR;
-    });
+
     Bind(form);
     HWND top = form.addChild(L"Static", 1, {0, 0, 400, 100}, SS_WHITERECT);
     HWND bottom = form.addChild(L"Static", 2, {0, 106, 400, 194}, SS_WHITERECT);
