@@ -64,6 +64,8 @@ LRESULT CSplitter::OnSetCursor() {
 }
 
 void CSplitter::OnLButtonDown(Point at) {
+    // A press that no release ended leaves no band behind.
+    StopTracker();
     RECT bar{};
     GetWindowRect(GetSafeHwnd(), &bar);
     MapWindowPoints(nullptr, GetSafeHwnd(), reinterpret_cast<POINT *>(&bar), 2);
