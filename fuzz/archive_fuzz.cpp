@@ -1,7 +1,8 @@
 // Bytes of any shape into the archive reader and every block reader: the
-// generic block, the spin record, the palette block, texts, counts, tagged
-// objects and object arrays. Beyond not crashing, nothing but the archive's own exceptions may
-// come out, and whatever was read whole must come back through its writer.
+// generic block, the splitter's block, the spin record, the palette block,
+// texts, counts, tagged objects and object arrays. Beyond not crashing,
+// nothing but the archive's own exceptions may come out, and whatever was
+// read whole must come back through its writer.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
@@ -13,6 +14,7 @@
 #include "frame/core/generic_block.h"
 #include "controls/core/spin_block.h"
 #include "palette/core/palette_block.h"
+#include "controls/core/splitter_block.h"
 
 namespace {
 
@@ -111,6 +113,20 @@ void Generic(const uint8_t *data, size_t size) {
         check(style >= 0 && style <= 255);
 }
 
+bool SameSplitter(const zk::ctl::SPropSplitter &a, const zk::ctl::SPropSplitter &b) {
+    return a.frameColor == b.frameColor && a.faceColor == b.faceColor && a.lightColor == b.lightColor &&
+           a.shadowColor == b.shadowColor && a.metricA == b.metricA && a.metricB == b.metricB &&
+           a.metricC == b.metricC && a.bevelLines == b.bevelLines && a.orientation == b.orientation &&
+           a.displayHandle == b.displayHandle && a.invertWhenDragging == b.invertWhenDragging;
+}
+
+void Splitter(const uint8_t *data, size_t size) {
+    zk::ctl::SPropSplitter block;
+    if (zk::LoadBlockBytes(data, size, block))
+        RoundTrip<zk::ctl::SPropSplitter>(block, &SameSplitter);
+    check(block.displayHandle >= 0 && block.displayHandle <= 255);
+}
+
 void Spin(const uint8_t *data, size_t size) {
     zk::SpinBlock block;
     const bool copied = zk::SpinBlockApply(data, static_cast<int64_t>(size), block);
@@ -200,6 +216,7 @@ void Pieces(const uint8_t *data, size_t size) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     Generic(data, size);
+    Splitter(data, size);
     Spin(data, size);
     Rich(data, size);
     Palette(data, size);

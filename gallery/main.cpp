@@ -138,6 +138,9 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
     // Page 7: menus on a host frame; the step photographs its open popup.
     form.NextPage();
     RunMenuSteps(report, pictures);
+    // Page 8: the splitter, spin fields and meters.
+    form.NextPage();
+    RunControlsSteps(report, pictures);
     form.Show();
     PumpPending();
 

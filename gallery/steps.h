@@ -35,6 +35,9 @@ void RunPaletteSteps(Report &report, Pictures &pictures);
 // A host frame with owner-drawn menu items (pictures, fonts, a check mark),
 // photographed with one popup open and an item selected.
 void RunMenuSteps(Report &report, Pictures &pictures);
+// The splitter before and after a drag, spin fields and meters, on one
+// window photographed twice.
+void RunControlsSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

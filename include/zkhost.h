@@ -131,6 +131,7 @@ HostStr ZKAPI HostDateToStr(HostDateTime value, const wchar_t *picture, HostStr 
 /* ---- windows and fields ------------------------------------------------ */
 uint32_t ZKAPI HostWinType(HWND window);
 uint32_t ZKAPI HostWinClass(HWND window);
+/* The run-time class of a host framework window, in place of a class test. */
 int32_t  ZKAPI HostWinGetName(HWND window, HostStr *name);
 HWND     ZKAPI HostWinFirstChild(HWND form, uint32_t typeMask);
 HWND     ZKAPI HostWinNextChild(HWND child, uint32_t typeMask);

@@ -8,6 +8,7 @@
 #include "frame/win/startup.h"
 
 #include "calendar/win/calendar_bootstrap.h"
+#include "controls/win/controls_bootstrap.h"
 #include "frame/win/host.h"
 #include "frame/win/registry.h"
 #include "frame/win/window.h"
@@ -22,6 +23,7 @@ namespace {
 using Binding = void (*)();
 const Binding kBindings[] = {
     &cal::BindDatesToHost,
+    &ctl::BindControlsToHost,
 };
 
 enum class When { StartUp, FirstWindow };
@@ -41,13 +43,14 @@ WindowClass classes[] = {
     {L"ZK:cComboCal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cPalette:10", 0x6080, 0, true, &pal::DlgPaletteBootstrap, When::StartUp},
     {L"ZK:cComboPal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
-    {L"ZK:cSplitter:10", 0x400B, 0, false, &DefWindowProcW, When::StartUp},
+    {L"ZK:cSplitter:10", 0x400B, 0, false, &ctl::DlgSplitterBootstrap, When::StartUp},
     {L"ZK:cListView:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cListViewDropDown:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
-    {L"ZK:cSpinField:10", 0x4008, 4, true, &DefWindowProcW, When::StartUp},
-    {L"ZK:cMeter:10", 0x4000, 4, true, &DefWindowProcW, When::StartUp},
+    {L"ZK:cSpinField:10", 0x4008, 4, true, &ctl::SpinFieldProc, When::StartUp},
+    {L"ZK:cMeter:10", 0x4000, 4, true, &ctl::MeterProc, When::StartUp},
     {L"ZK:Calendar:10", 0x6880, 0, true, &Window::FrameProcedure, When::FirstWindow},
     {L"ZK:ColorPalette:10", 0x6080, 0, true, &Window::FrameProcedure, When::FirstWindow},
+    {L"ZK:Splitter:10", 0x400B, 0, false, &Window::FrameProcedure, When::FirstWindow},
 };
 
 // The module this code is in: the library, or a test program that links
