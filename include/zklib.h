@@ -72,6 +72,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/diag.h"
 #include "zklib/designer.h"
 #include "zklib/calendar.h"
+#include "zklib/headerlist.h"
 #include "zklib/dos.h"
 #include "zklib/stream.h"
 #include "zklib/netprofile.h"

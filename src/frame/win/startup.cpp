@@ -9,6 +9,7 @@
 
 #include "calendar/win/calendar_bootstrap.h"
 #include "frame/win/host.h"
+#include "headerlist/win/headerlist_bootstrap.h"
 #include "frame/win/registry.h"
 #include "frame/win/window.h"
 
@@ -21,6 +22,7 @@ namespace {
 using Binding = void (*)();
 const Binding kBindings[] = {
     &cal::BindDatesToHost,
+    &hdr::BindImageListsToPlatform,
 };
 
 enum class When { StartUp, FirstWindow };
@@ -41,7 +43,7 @@ WindowClass classes[] = {
     {L"ZK:cPalette:10", 0x6080, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cComboPal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cSplitter:10", 0x400B, 0, false, &DefWindowProcW, When::StartUp},
-    {L"ZK:cListView:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
+    {L"ZK:cListView:10", 0x4088, 0, true, &hdr::DlgHeaderLBBootstrap, When::StartUp},
     {L"ZK:cListViewDropDown:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cSpinField:10", 0x4008, 4, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cMeter:10", 0x4000, 4, true, &DefWindowProcW, When::StartUp},
