@@ -1,17 +1,20 @@
 // Bytes of any shape into the archive reader and every block reader: the
-// generic block, the spin record, texts, counts, tagged objects and object
-// arrays. Beyond not crashing, nothing but the archive's own exceptions may
-// come out, and whatever was read whole must come back through its writer.
+// generic block, the spin record, texts, counts, tagged objects, object
+// arrays and the header list's block with its image streams. Beyond not
+// crashing, nothing but the archive's own exceptions may come out, and
+// whatever was read whole must come back through its writer.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "frame/core/archive.h"
 #include "frame/core/block_io.h"
 #include "frame/core/obarray.h"
 #include "frame/core/generic_block.h"
 #include "controls/core/spin_block.h"
+#include "headerlist/core/headerlist_block.h"
 
 namespace {
 
@@ -127,6 +130,25 @@ void Rich(const uint8_t *data, size_t size) {
         RoundTrip<FuzzBlock>(block, &SameBlock);
 }
 
+// The header list's block: columns, colours, image list streams.
+std::vector<uint8_t> Bytes(zk::hdr::SPropHeaderListBox &block) {
+    zk::CMemFile file;
+    zk::StoreBlock(file, block);
+    return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
+}
+
+void HeaderList(const uint8_t *data, size_t size) {
+    zk::hdr::SPropHeaderListBox block;
+    // A block read without its lists (version 0) writes none back, as the
+    // platform writes nothing for no list: only whole blocks come back.
+    if (!zk::LoadBlockBytes(data, size, block) || !block.largeImages.Handle() || !block.smallImages.Handle())
+        return;
+    const std::vector<uint8_t> once = Bytes(block);
+    zk::hdr::SPropHeaderListBox back;
+    check(zk::LoadBlockBytes(once.data(), once.size(), back));
+    check(Bytes(back) == once);
+}
+
 // Single reads from the start: each either gives a value or an ArchiveException.
 void Pieces(const uint8_t *data, size_t size) {
     zk::CMemFile file;
@@ -162,6 +184,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     Generic(data, size);
     Spin(data, size);
     Rich(data, size);
+    HeaderList(data, size);
     Pieces(data, size);
     return 0;
 }
