@@ -28,6 +28,9 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures);
 // The calendar control in its looks (default, etched, marked dates,
 // special-day rules, disabled, pop-up), a picture of each.
 void RunCalendarSteps(Report &report, Pictures &pictures);
+// A header list of four columns with images in its rows, sorted by a header
+// click, photographed.
+void RunHeaderListSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

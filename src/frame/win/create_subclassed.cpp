@@ -23,9 +23,8 @@ LRESULT CALLBACK CreationHook(int code, WPARAM wParam, LPARAM lParam) {
 
 } // namespace
 
-HWND CreateSubclassed(Window &object, DWORD exStyle, const wchar_t *className, const wchar_t *title,
-                      DWORD style, int x, int y, int width, int height, HWND parent, HMENU menuOrId,
-                      void *param) {
+HWND CreateSubclassed(Window &object, DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, int x,
+                      int y, int width, int height, HWND parent, HMENU menuOrId, void *param) {
     if (object.GetSafeHwnd() || pendingObject)
         return nullptr;
     creationHook = SetWindowsHookExW(WH_CBT, &CreationHook, nullptr, GetCurrentThreadId());

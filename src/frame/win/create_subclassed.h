@@ -14,8 +14,7 @@ namespace zk {
 // when the platform announces the new window to the thread's CBT hook. Null
 // when the window was not made; PostNcDestroy has then run if the object
 // had been attached.
-HWND CreateSubclassed(Window &object, DWORD exStyle, const wchar_t *className, const wchar_t *title,
-                      DWORD style, int x, int y, int width, int height, HWND parent, HMENU menuOrId,
-                      void *param = nullptr);
+HWND CreateSubclassed(Window &object, DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, int x,
+                      int y, int width, int height, HWND parent, HMENU menuOrId, void *param = nullptr);
 
 } // namespace zk

@@ -18,8 +18,8 @@ namespace zk::hdr {
 inline constexpr uint32_t kNmClick = 0xFFFFFFFE, kNmDblClk = 0xFFFFFFFD, kNmRClick = 0xFFFFFFFB,
                           kNmRDblClk = 0xFFFFFFFA;
 inline constexpr uint32_t kLvnItemChanged = 0xFFFFFF9B, kLvnInsertItem = 0xFFFFFF9A, kLvnDeleteItem = 0xFFFFFF99,
-                          kLvnDeleteAllItems = 0xFFFFFF98, kLvnColumnClick = 0xFFFFFF94,
-                          kLvnBeginDrag = 0xFFFFFF93, kLvnBeginRDrag = 0xFFFFFF91;
+                          kLvnDeleteAllItems = 0xFFFFFF98, kLvnColumnClick = 0xFFFFFF94, kLvnBeginDrag = 0xFFFFFF93,
+                          kLvnBeginRDrag = 0xFFFFFF91;
 inline constexpr uint32_t kItemText = 0x1, kItemImage = 0x2, kItemParam = 0x4, kItemState = 0x8;
 inline constexpr uint32_t kStateFocused = 0x1, kStateSelected = 0x2;
 // Codes the list sends its owner.

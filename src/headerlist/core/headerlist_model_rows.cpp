@@ -71,8 +71,8 @@ int32_t HeaderListModel::SetItemText(int32_t index, int32_t column, const char16
     return view_.SetTextCallback(index, column);
 }
 
-int32_t HeaderListModel::SetItem(int32_t index, int32_t column, uint32_t mask, const char16_t *text,
-                                 uint32_t itemData, int32_t image) {
+int32_t HeaderListModel::SetItem(int32_t index, int32_t column, uint32_t mask, const char16_t *text, uint32_t itemData,
+                                 int32_t image) {
     if (index < 0 || column < 0 || image < 0 || !text)
         return 0;
     if (mask & kItemText) {
@@ -116,8 +116,7 @@ void HeaderListModel::TakeBlock(const SPropHeaderListBox &block) {
     model = block;
 }
 
-bool HeaderListModel::DisplayText(intptr_t param, int32_t subItem, int32_t capacity,
-                                  std::u16string_view &text) const {
+bool HeaderListModel::DisplayText(intptr_t param, int32_t subItem, int32_t capacity, std::u16string_view &text) const {
     const SHdrLBItem *row = rows.Row(param);
     if (!row || subItem < 0 || static_cast<size_t>(subItem) >= row->texts.size() || capacity < 1)
         return false;

@@ -55,7 +55,7 @@ public:
     // The text of a column; empty past the row's last text.
     std::u16string_view Text(int32_t column) const {
         return column >= 0 && static_cast<size_t>(column) < texts.size() ? std::u16string_view(texts[column])
-                                                                          : std::u16string_view();
+                                                                         : std::u16string_view();
     }
     // Stores a text, growing the row with empty texts up to the column.
     void SetAtGrow(int32_t column, std::u16string text);

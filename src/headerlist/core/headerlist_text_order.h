@@ -23,6 +23,8 @@ inline int CompareNoCase(std::u16string_view a, std::u16string_view b) {
     return a.size() == b.size() ? 0 : (a.size() < b.size() ? -1 : 1);
 }
 
-inline int CompareCase(std::u16string_view a, std::u16string_view b) { return a.compare(b) < 0 ? -1 : a.compare(b) > 0; }
+inline int CompareCase(std::u16string_view a, std::u16string_view b) {
+    return a.compare(b) < 0 ? -1 : a.compare(b) > 0;
+}
 
 } // namespace zk::hdr

@@ -20,7 +20,9 @@ void Put(std::vector<uint8_t> &out, uint32_t value, int bytes) {
 
 constexpr size_t kFileHead = 14, kInfoHead = 40;
 
-uint64_t Stride(int64_t width, uint32_t bitCount) { return ((static_cast<uint64_t>(width) * bitCount + 31) >> 3) & ~3ull; }
+uint64_t Stride(int64_t width, uint32_t bitCount) {
+    return ((static_cast<uint64_t>(width) * bitCount + 31) >> 3) & ~3ull;
+}
 
 // One bitmap of the stream, appended to bytes.
 void ReadBitmap(CArchive &ar, std::vector<uint8_t> &bytes) {
@@ -84,9 +86,7 @@ bool BytesWrite(void *list, std::vector<uint8_t> &bytes) {
     return true;
 }
 void *BytesRead(const uint8_t *bytes, size_t count) { return new std::vector<uint8_t>(bytes, bytes + count); }
-void *BytesCopy(void *source, bool) {
-    return new std::vector<uint8_t>(*static_cast<std::vector<uint8_t> *>(source));
-}
+void *BytesCopy(void *source, bool) { return new std::vector<uint8_t>(*static_cast<std::vector<uint8_t> *>(source)); }
 void *BytesDefault(bool large) {
     const int32_t side = large ? 32 : 16;
     return new std::vector<uint8_t>(MakeImageStream(side, side, 1));

@@ -41,10 +41,9 @@ int32_t ZKAPI ZelLVImageRemoveAll(ZelLVControl list) {
 }
 
 int32_t ZKAPI ZelLVImageReplace(ZelLVControl list, int32_t index, INT_PTR large, INT_PTR small) {
-    return GuardedControlText(L"ZelLVImageReplace()", L"Unable to replace image in control.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return l.ReplaceImage(index, &PictureArg(large), &PictureArg(small));
-                              });
+    return GuardedControlText(
+        L"ZelLVImageReplace()", L"Unable to replace image in control.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return l.ReplaceImage(index, &PictureArg(large), &PictureArg(small)); });
 }
 
 } // extern "C"

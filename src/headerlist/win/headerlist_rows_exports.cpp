@@ -1,7 +1,7 @@
 // Exports of columns, rows, their states and the sort: the row store
 // behind the view's rows.
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 
 #include <algorithm>
 
@@ -48,70 +48,71 @@ int32_t UpperBound(HostArray array) {
 extern "C" {
 
 int32_t ZKAPI ZelLVGetColumn(ZelLVControl list, int32_t column, HostStr *text, int32_t *format, int32_t *width) {
-    return GuardedControlText(L"ZelLVGetColumn()", L"Unable to retrieve column.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  HostStr &textOut = Required(text);
-                                  int32_t &formatOut = Required(format);
-                                  int32_t &widthOut = Required(width);
-                                  wchar_t buffer[kColumnText] = {};
-                                  LVCOLUMNW got{};
-                                  got.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
-                                  got.pszText = buffer;
-                                  got.cchTextMax = static_cast<int>(kColumnText);
-                                  const auto answer = static_cast<int32_t>(Send(
-                                      l, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&got)));
-                                  if (answer != 1)
-                                      return answer;
-                                  formatOut = got.fmt & LVCFMT_JUSTIFYMASK;
-                                  widthOut = got.cx;
-                                  return zk::hdr::FillHostString(&textOut, buffer);
-                              });
+    return GuardedControlText(
+        L"ZelLVGetColumn()", L"Unable to retrieve column.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            HostStr &textOut = Required(text);
+            int32_t &formatOut = Required(format);
+            int32_t &widthOut = Required(width);
+            wchar_t buffer[kColumnText] = {};
+            LVCOLUMNW got{};
+            got.mask = LVCF_FMT | LVCF_WIDTH | LVCF_TEXT;
+            got.pszText = buffer;
+            got.cchTextMax = static_cast<int>(kColumnText);
+            const auto answer = static_cast<int32_t>(
+                Send(l, LVM_GETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&got)));
+            if (answer != 1)
+                return answer;
+            formatOut = got.fmt & LVCFMT_JUSTIFYMASK;
+            widthOut = got.cx;
+            return zk::hdr::FillHostString(&textOut, buffer);
+        });
 }
 
 int32_t ZKAPI ZelLVSetColumn(ZelLVControl list, int32_t column, uint32_t mask, const wchar_t *text, int32_t format,
                              int32_t width) {
-    return GuardedControlText(L"ZelLVSetColumn()", L"Unable to assign column.", 0, ListOf(list), [&](CHeaderListBox &l) {
-        std::wstring heading = text ? text : L"";
-        LVCOLUMNW set{};
-        set.mask = text ? mask : mask & ~static_cast<uint32_t>(LVCF_TEXT);
-        set.fmt = format;
-        set.cx = width;
-        set.pszText = heading.data();
-        const auto answer = static_cast<int32_t>(
-            Send(l, LVM_SETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&set)));
-        InvalidateRect(l.GetSafeHwnd(), nullptr, TRUE);
-        return answer;
-    });
+    return GuardedControlText(
+        L"ZelLVSetColumn()", L"Unable to assign column.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            std::wstring heading = text ? text : L"";
+            LVCOLUMNW set{};
+            set.mask = text ? mask : mask & ~static_cast<uint32_t>(LVCF_TEXT);
+            set.fmt = format;
+            set.cx = width;
+            set.pszText = heading.data();
+            const auto answer = static_cast<int32_t>(
+                Send(l, LVM_SETCOLUMNW, static_cast<WPARAM>(column), reinterpret_cast<LPARAM>(&set)));
+            InvalidateRect(l.GetSafeHwnd(), nullptr, TRUE);
+            return answer;
+        });
 }
 
 int32_t ZKAPI ZelLVColumnsAssign(ZelLVControl list, HostArray texts, HostArray formats, HostArray widths,
                                  int32_t count) {
-    return GuardedControlText(L"ZelLVColumnsAssign()", L"Unable to assign columns.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  if (!texts || !formats || !widths)
-                                      throw zk::UserException();
-                                  for (HostArray array : {texts, formats, widths})
-                                      count = std::min(count, UpperBound(array) + 1);
-                                  zk::hdr::CHdrLBColumnArray columns;
-                                  for (int32_t i = 0; i < count; ++i)
-                                      columns.Add(std::make_unique<zk::hdr::SHdrLBColumn>(
-                                          TextAt(texts, i), ShortAt(formats, i), ShortAt(widths, i)));
-                                  l.Logic().AssignColumns(columns);
-                                  return 1;
-                              });
+    return GuardedControlText(
+        L"ZelLVColumnsAssign()", L"Unable to assign columns.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            if (!texts || !formats || !widths)
+                throw zk::UserException();
+            for (HostArray array : {texts, formats, widths})
+                count = std::min(count, UpperBound(array) + 1);
+            zk::hdr::CHdrLBColumnArray columns;
+            for (int32_t i = 0; i < count; ++i)
+                columns.Add(
+                    std::make_unique<zk::hdr::SHdrLBColumn>(TextAt(texts, i), ShortAt(formats, i), ShortAt(widths, i)));
+            l.Logic().AssignColumns(columns);
+            return 1;
+        });
 }
 
 int32_t ZKAPI ZelLVGetItemState(ZelLVControl list, int32_t index, uint32_t mask) {
-    return GuardedControlText(L"ZelLVGetItemState()", L"Unable to retrieve item state.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return static_cast<int32_t>(
-                                      Send(l, LVM_GETITEMSTATE, static_cast<WPARAM>(index), mask));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetItemState()", L"Unable to retrieve item state.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            return static_cast<int32_t>(Send(l, LVM_GETITEMSTATE, static_cast<WPARAM>(index), mask));
+        });
 }
 
 int32_t ZKAPI ZelLVSetItemState(ZelLVControl list, int32_t index, uint32_t state, uint32_t mask) {
-    return GuardedControlText(L"ZelLVSetItemState()", L"Unable to assign item state.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) { return static_cast<int32_t>(l.SetItemState(index, state, mask)); });
+    return GuardedControlText(
+        L"ZelLVSetItemState()", L"Unable to assign item state.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return static_cast<int32_t>(l.SetItemState(index, state, mask)); });
 }
 
 int32_t ZKAPI ZelLVGetItem(ZelLVControl list, int32_t index, int32_t column, HostStr *text, uint32_t *itemData,
@@ -145,10 +146,10 @@ int32_t ZKAPI ZelLVGetSelectedCount(ZelLVControl list) {
                               [](CHeaderListBox &l) { return static_cast<int32_t>(Send(l, LVM_GETSELECTEDCOUNT)); });
 }
 
-int32_t ZKAPI ZelLVInsertItem(ZelLVControl list, int32_t index, const wchar_t *text, uint32_t itemData,
-                              int32_t image) {
-    return GuardedControlText(L"ZelLVInsertItem()", L"Unable to insert item.", -1, ListOf(list),
-                              [&](CHeaderListBox &l) { return l.Logic().InsertItem(index, TextArg(text), itemData, image); });
+int32_t ZKAPI ZelLVInsertItem(ZelLVControl list, int32_t index, const wchar_t *text, uint32_t itemData, int32_t image) {
+    return GuardedControlText(
+        L"ZelLVInsertItem()", L"Unable to insert item.", -1, ListOf(list),
+        [&](CHeaderListBox &l) { return l.Logic().InsertItem(index, TextArg(text), itemData, image); });
 }
 
 // The view's refusal of a negative index is not the answer: the count is.

@@ -1,8 +1,8 @@
 // The list's side of the view: rows and columns through the view's
 // messages, the copy of the rows' places, the rearranged rows of a sort, and
 // the notifications posted to the host and the owner.
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 
 #include <algorithm>
 
@@ -252,8 +252,7 @@ void CHeaderListBox::OwnerNotify(uint32_t code) {
     if (!owner_)
         return;
     const auto id = static_cast<WORD>(GetDlgCtrlID(GetSafeHwnd()));
-    PostMessageW(owner_, WM_COMMAND, MAKEWPARAM(id, static_cast<WORD>(code)),
-                 reinterpret_cast<LPARAM>(GetSafeHwnd()));
+    PostMessageW(owner_, WM_COMMAND, MAKEWPARAM(id, static_cast<WORD>(code)), reinterpret_cast<LPARAM>(GetSafeHwnd()));
 }
 
 void CHeaderListBox::PostColumnSorted(int32_t descending, int32_t column) {

@@ -1,7 +1,7 @@
 // Exports of the view itself: the list pointer, colours, places, geometry,
 // scrolling and style. What they set reaches the view only, never the block.
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 
 #include "headerlist/core/headerlist_ids.h"
 #include "headerlist/win/headerlist_exports.h"
@@ -31,9 +31,8 @@ extern "C" {
 
 ZelLVControl ZKAPI ZelLVGetListView(ZelLVWrapper wrapper) {
     return GuardedControlText(L"ZelLVGetListView()", L"Unable to retrieve child ListView pointer.", ZelLVControl{0},
-                              zk::hdr::WrapperOf(wrapper), [](zk::hdr::CDlgHeaderLB &w) {
-                                  return reinterpret_cast<ZelLVControl>(w.List());
-                              });
+                              zk::hdr::WrapperOf(wrapper),
+                              [](zk::hdr::CDlgHeaderLB &w) { return reinterpret_cast<ZelLVControl>(w.List()); });
 }
 
 int32_t ZKAPI ZelLVGetBkColor(ZelLVControl list) {
@@ -57,8 +56,8 @@ int32_t ZKAPI ZelLVSetTextColor(ZelLVControl list, COLORREF color) {
 }
 
 int32_t ZKAPI ZelLVGetTextBkColor(ZelLVControl list) {
-    return GuardedControlText(L"ZelLVGetTextBkColor()", L"Unable to retrieve text background color.", -1,
-                              ListOf(list), [](CHeaderListBox &l) { return Ask(l, LVM_GETTEXTBKCOLOR); });
+    return GuardedControlText(L"ZelLVGetTextBkColor()", L"Unable to retrieve text background color.", -1, ListOf(list),
+                              [](CHeaderListBox &l) { return Ask(l, LVM_GETTEXTBKCOLOR); });
 }
 
 int32_t ZKAPI ZelLVSetTextBkColor(ZelLVControl list, COLORREF color) {
@@ -72,50 +71,44 @@ int32_t ZKAPI ZelLVGetItemCount(ZelLVControl list) {
 }
 
 int32_t ZKAPI ZelLVGetNextItem(ZelLVControl list, int32_t start, uint16_t flags) {
-    return GuardedControlText(L"ZelLVGetNextItem()", L"Unable to retrieve next item.", -1, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_GETNEXTITEM, static_cast<WPARAM>(start), MAKELPARAM(flags, 0));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetNextItem()", L"Unable to retrieve next item.", -1, ListOf(list),
+        [&](CHeaderListBox &l) { return Ask(l, LVM_GETNEXTITEM, static_cast<WPARAM>(start), MAKELPARAM(flags, 0)); });
 }
 
 int32_t ZKAPI ZelLVGetItemRect(ZelLVControl list, int32_t index, RECT *rect, int32_t code) {
-    return GuardedControlText(L"ZelLVGetItemRect()", L"Unable to retrieve item rectangle.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  Required(rect).left = code;
-                                  return Ask(l, LVM_GETITEMRECT, static_cast<WPARAM>(index),
-                                             reinterpret_cast<LPARAM>(rect));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetItemRect()", L"Unable to retrieve item rectangle.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            Required(rect).left = code;
+            return Ask(l, LVM_GETITEMRECT, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(rect));
+        });
 }
 
 int32_t ZKAPI ZelLVSetItemPosition(ZelLVControl list, int32_t index, int32_t x, int32_t y) {
-    return GuardedControlText(L"ZelLVSetItemPosition()", L"Unable to assign item position.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  POINT point{x, y};
-                                  return Ask(l, LVM_SETITEMPOSITION32, static_cast<WPARAM>(index),
-                                             reinterpret_cast<LPARAM>(&point));
-                              });
+    return GuardedControlText(
+        L"ZelLVSetItemPosition()", L"Unable to assign item position.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            POINT point{x, y};
+            return Ask(l, LVM_SETITEMPOSITION32, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&point));
+        });
 }
 
 int32_t ZKAPI ZelLVGetItemPosition(ZelLVControl list, int32_t index, POINT *point) {
-    return GuardedControlText(L"ZelLVGetItemPosition()", L"Unable to retrieve item position.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_GETITEMPOSITION, static_cast<WPARAM>(index),
-                                             reinterpret_cast<LPARAM>(&Required(point)));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetItemPosition()", L"Unable to retrieve item position.", 0, ListOf(list), [&](CHeaderListBox &l) {
+            return Ask(l, LVM_GETITEMPOSITION, static_cast<WPARAM>(index), reinterpret_cast<LPARAM>(&Required(point)));
+        });
 }
 
 int32_t ZKAPI ZelLVGetStringWidth(ZelLVControl list, const wchar_t *text) {
-    return GuardedControlText(L"ZelLVGetStringWidth()", L"Unable to retrieve string width.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text ? text : L""));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetStringWidth()", L"Unable to retrieve string width.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return Ask(l, LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(text ? text : L"")); });
 }
 
 int32_t ZKAPI ZelLVGetViewRect(ZelLVControl list, RECT *rect) {
-    return GuardedControlText(L"ZelLVGetViewRect()", L"Unable to retrieve view rectangle.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_GETVIEWRECT, 0, reinterpret_cast<LPARAM>(&Required(rect)));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetViewRect()", L"Unable to retrieve view rectangle.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return Ask(l, LVM_GETVIEWRECT, 0, reinterpret_cast<LPARAM>(&Required(rect))); });
 }
 
 int32_t ZKAPI ZelLVGetTopIndex(ZelLVControl list) {
@@ -129,10 +122,9 @@ int32_t ZKAPI ZelLVGetCountPerPage(ZelLVControl list) {
 }
 
 int32_t ZKAPI ZelLVGetOrigin(ZelLVControl list, POINT *point) {
-    return GuardedControlText(L"ZelLVGetOrigin()", L"Unable to retrieve origin.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_GETORIGIN, 0, reinterpret_cast<LPARAM>(&Required(point)));
-                              });
+    return GuardedControlText(
+        L"ZelLVGetOrigin()", L"Unable to retrieve origin.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return Ask(l, LVM_GETORIGIN, 0, reinterpret_cast<LPARAM>(&Required(point))); });
 }
 
 int32_t ZKAPI ZelLVFindItem(ZelLVControl list, uint32_t flags, const wchar_t *text, int32_t start) {
@@ -156,16 +148,14 @@ int32_t ZKAPI ZelLVHitTest(ZelLVControl list, int32_t x, int32_t y, uint32_t *fl
 }
 
 int32_t ZKAPI ZelLVEnsureVisible(ZelLVControl list, int32_t index, uint16_t partial) {
-    return GuardedControlText(L"ZelLVEnsureVisible()", L"Unable to ensure visible.", 0, ListOf(list),
-                              [&](CHeaderListBox &l) {
-                                  return Ask(l, LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), partial);
-                              });
+    return GuardedControlText(
+        L"ZelLVEnsureVisible()", L"Unable to ensure visible.", 0, ListOf(list),
+        [&](CHeaderListBox &l) { return Ask(l, LVM_ENSUREVISIBLE, static_cast<WPARAM>(index), partial); });
 }
 
 int32_t ZKAPI ZelLVScroll(ZelLVControl list, int32_t dx, int32_t dy) {
-    return GuardedControlText(L"ZelLVScroll()", L"Unable to scroll.", 0, ListOf(list), [&](CHeaderListBox &l) {
-        return Ask(l, LVM_SCROLL, static_cast<WPARAM>(dx), dy);
-    });
+    return GuardedControlText(L"ZelLVScroll()", L"Unable to scroll.", 0, ListOf(list),
+                              [&](CHeaderListBox &l) { return Ask(l, LVM_SCROLL, static_cast<WPARAM>(dx), dy); });
 }
 
 int32_t ZKAPI ZelLVArrange(ZelLVControl list, int32_t code) {

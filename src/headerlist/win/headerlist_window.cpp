@@ -1,8 +1,8 @@
 // Creation, blocks, keys, mouse and the reflected notifications of the list.
 #include "headerlist/win/headerlist_window.h"
 
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 
 #include "frame/win/create_subclassed.h"
 #include "zkhost.h"
@@ -20,8 +20,8 @@ bool CHeaderListBox::Create(DWORD style, const RECT &area, HWND parent, UINT id,
     hostNotify_ = hostNotify;
     owner_ = owner;
     return CreateSubclassed(*this, 0, kListViewClass, L"", style, area.left, area.top, area.right - area.left,
-                            area.bottom - area.top, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id))) !=
-           nullptr;
+                            area.bottom - area.top, parent,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id))) != nullptr;
 }
 
 void CHeaderListBox::DetachImageLists() {
@@ -44,7 +44,8 @@ void CHeaderListBox::ShowModel() {
         return;
     const SPropHeaderListBox &model = logic_.model;
     const LONG style = GetWindowLongW(self, GWL_STYLE);
-    SetWindowLongW(self, GWL_STYLE, static_cast<LONG>((static_cast<DWORD>(style) & 0xFFFF0000u) | (model.style & 0xFFFFu)));
+    SetWindowLongW(self, GWL_STYLE,
+                   static_cast<LONG>((static_cast<DWORD>(style) & 0xFFFF0000u) | (model.style & 0xFFFFu)));
     if (model.backColour != kViewColour)
         Send(LVM_SETBKCOLOR, 0, static_cast<LPARAM>(model.backColour));
     if (model.textColour != kViewColour)
@@ -63,8 +64,8 @@ std::wstring CHeaderListBox::ItemText(int32_t row, int32_t column) const {
         item.iSubItem = column;
         item.pszText = text.data();
         item.cchTextMax = static_cast<int>(text.size());
-        const auto length = static_cast<size_t>(Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row),
-                                                     reinterpret_cast<LPARAM>(&item)));
+        const auto length =
+            static_cast<size_t>(Send(LVM_GETITEMTEXTW, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
         if (length + 1 < text.size()) {
             text.resize(length);
             return text;
@@ -91,7 +92,8 @@ BOOL CHeaderListBox::SetItemState(int32_t row, UINT state, UINT mask) {
     LVITEMW item{};
     item.stateMask = mask;
     item.state = state;
-    const BOOL done = static_cast<BOOL>(Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
+    const BOOL done =
+        static_cast<BOOL>(Send(LVM_SETITEMSTATE, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&item)));
     if ((state & LVIS_SELECTED) && (mask & LVIS_SELECTED) && selectionEcho_ && logic_.model.dropDown)
         selectionEcho_(owner_, *this);
     logic_.notificationsEnabled = 1;
@@ -202,8 +204,7 @@ bool CHeaderListBox::OnReflectedNotify(NMHDR &header, LRESULT &result) {
     }
     case LVN_ENDLABELEDITW: {
         const auto &info = reinterpret_cast<const NMLVDISPINFOW &>(header);
-        logic_.EndLabelEdit(info.item.iItem, info.item.iSubItem,
-                            reinterpret_cast<const char16_t *>(info.item.pszText));
+        logic_.EndLabelEdit(info.item.iItem, info.item.iSubItem, reinterpret_cast<const char16_t *>(info.item.pszText));
         result = 1; // the edit is accepted
         return true;
     }

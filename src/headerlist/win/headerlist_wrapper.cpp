@@ -1,12 +1,12 @@
 #include "headerlist/win/headerlist_wrapper.h"
 
-#include <windows.h>
 #include <commctrl.h>
+#include <windows.h>
 
 #include <algorithm>
 
-#include "frame/core/errors.h"
 #include "frame/core/effects.h"
+#include "frame/core/errors.h"
 #include "frame/win/prop_block.h"
 #include "frame/win/reflect.h"
 #include "zklib.h"

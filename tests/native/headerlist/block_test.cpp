@@ -24,9 +24,7 @@ std::vector<uint8_t> Cat(std::initializer_list<std::vector<uint8_t>> parts) {
     return all;
 }
 
-std::vector<uint8_t> U32(uint32_t v) {
-    return {uint8_t(v), uint8_t(v >> 8), uint8_t(v >> 16), uint8_t(v >> 24)};
-}
+std::vector<uint8_t> U32(uint32_t v) { return {uint8_t(v), uint8_t(v >> 8), uint8_t(v >> 16), uint8_t(v >> 24)}; }
 
 // The two columns of the sample: a count, the first with its class, the second by index.
 constexpr size_t kColumnsBytes = 2 + 18 + 20 + 2 + 20;
@@ -50,15 +48,15 @@ TEST(HeaderListBlock, GoldenBytes) {
     const std::vector<uint8_t> images = zk::hdr::MakeImageStream(32, 32, 1);
     const std::vector<uint8_t> small = zk::hdr::MakeImageStream(16, 16, 1);
     const std::vector<uint8_t> columns = {
-        0x02, 0x00,                                                                  // two columns
-        0xFF, 0xFF, 0x01, 0x00, 0x0C, 0x00, 'S', 'H', 'd', 'r', 'L', 'B', 'C', 'o', 'l', 'u', 'm', 'n', // new class
-        0x01, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x02, 'I', 0, 'd', 0, 0x01, 0, 0, 0, 0x28, 0, 0, 0,
+        0x02, 0x00, // two columns
+        0xFF, 0xFF, 0x01, 0x00, 0x0C, 0x00, 'S',  'H',  'd', 'r', 'L', 'B', 'C',  'o', 'l', 'u', 'm',  'n', // new class
+        0x01, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x02, 'I', 0,   'd', 0,   0x01, 0,   0,   0,   0x28, 0,    0,    0,
         0x01, 0x80, // the class again (index 1)
-        0x01, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x02, 'N', 0, 'm', 0, 0x02, 0, 0, 0, 0xFF, 0xFF, 0xFF, 0xFF,
+        0x01, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x02, 'N', 0,   'm', 0,   0x02, 0,   0,   0,   0xFF, 0xFF, 0xFF, 0xFF,
     };
     ASSERT_EQ(columns.size(), kColumnsBytes);
-    const std::vector<uint8_t> want = Cat({columns, U32(2), U32(0x00112233), U32(0xFFFFFFFF), U32(0xFFFFFFFF),
-                                           U32(1), U32(64), U32(1), images, small, U32(1)});
+    const std::vector<uint8_t> want = Cat({columns, U32(2), U32(0x00112233), U32(0xFFFFFFFF), U32(0xFFFFFFFF), U32(1),
+                                           U32(64), U32(1), images, small, U32(1)});
     EXPECT_EQ(Stored(block), want);
     // The default lists are the platform's icon sizes: 32 and 16 without it.
     EXPECT_EQ(images.size(), 28u + 2 * 14 + 2 * 40 + 8 + 128 * 3 * 32 + 16 * 32);
@@ -129,9 +127,10 @@ TEST(HeaderListRecords, ColumnAndRowSerialisation) {
     row.SetAtGrow(2, u"c");
     zk::CArchive out(file, zk::CArchive::store);
     row.Serialize(out);
-    const std::vector<uint8_t> want = Cat({{0x03, 0x00, 0xFF, 0xFE, 0xFF, 0x01, 'a', 0, 0xFF, 0xFE, 0xFF, 0x00,
-                                            0xFF, 0xFE, 0xFF, 0x01, 'c', 0},
-                                           U32(1), U32(0xABCD)});
+    const std::vector<uint8_t> want =
+        Cat({{0x03, 0x00, 0xFF, 0xFE, 0xFF, 0x01, 'a', 0, 0xFF, 0xFE, 0xFF, 0x00, 0xFF, 0xFE, 0xFF, 0x01, 'c', 0},
+             U32(1),
+             U32(0xABCD)});
     EXPECT_EQ(std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength()), want);
 
     // A column record of version 0 leaves the column as it was.

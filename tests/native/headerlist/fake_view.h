@@ -70,7 +70,9 @@ public:
         position = std::min(position, static_cast<int32_t>(columns.size()));
         columns.insert(columns.begin() + position, std::u16string(text));
     }
-    void ForwardNotify(uint32_t code) override { log.push_back("forward " + std::to_string(static_cast<int32_t>(code))); }
+    void ForwardNotify(uint32_t code) override {
+        log.push_back("forward " + std::to_string(static_cast<int32_t>(code)));
+    }
     void OwnerNotify(uint32_t code) override { log.push_back("owner " + std::to_string(code)); }
     void PostColumnSorted(int32_t descending, int32_t column) override {
         log.push_back("sorted " + std::to_string(descending) + " " + std::to_string(column));

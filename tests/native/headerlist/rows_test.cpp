@@ -68,7 +68,7 @@ TEST_F(Rows, ItemDataGuards) {
     list.DeleteItem(0); // view row 0 is now store row 1
     EXPECT_EQ(list.SetItemData(0, 42), 1);
     EXPECT_EQ(list.rows.Row(1)->itemData, 42u);
-    view.rows.push_back({0, 0}); // a view row whose store slot is empty
+    view.rows.push_back({0, 0});  // a view row whose store slot is empty
     view.rows.push_back({99, 0}); // and one outside the store
     for (int32_t row : {-1, 1, 2, 3}) {
         EXPECT_EQ(list.SetItemData(row, 1), 0) << row;

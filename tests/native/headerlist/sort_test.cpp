@@ -20,7 +20,8 @@ struct Sorting : testing::Test {
     void Fill(std::initializer_list<const char16_t *> keys) {
         int tag = 0;
         for (const char16_t *key : keys) {
-            const int32_t row = list.InsertItem(view.RowCount(), std::u16string(1, char16_t(u'a' + tag++)).c_str(), 0, 0);
+            const int32_t row =
+                list.InsertItem(view.RowCount(), std::u16string(1, char16_t(u'a' + tag++)).c_str(), 0, 0);
             list.SetItemText(row, 1, key);
         }
     }
@@ -45,8 +46,8 @@ TEST(CompareItems, CaseInsensitiveTextOrder) {
         intptr_t a, b;
         int column, descending, want;
     } cases[] = {
-        {0, 1, 0, 0, 0},  {0, 2, 0, 0, -1}, {2, 0, 0, 0, 1},  {3, 0, 0, 0, -1}, // '_' folds below letters
-        {4, 0, 0, 0, -1}, {5, 2, 0, 0, -1}, {0, 2, 0, 1, 1},  {6, 0, 3, 0, 0},  // past the last text: empty
+        {0, 1, 0, 0, 0},  {0, 2, 0, 0, -1}, {2, 0, 0, 0, 1}, {3, 0, 0, 0, -1}, // '_' folds below letters
+        {4, 0, 0, 0, -1}, {5, 2, 0, 0, -1}, {0, 2, 0, 1, 1}, {6, 0, 3, 0, 0},  // past the last text: empty
     };
     for (const Case &c : cases) {
         record.column = c.column;
@@ -64,7 +65,9 @@ TEST_F(Sorting, EqualKeysKeepTheirOrderBothWays) {
     EXPECT_EQ(Order(), u"bdacef");
     list.model.sortOrder = 1;
     list.SortItems();
-    EXPECT_EQ(Order(), u"face" u"bd") << "descending: the equal keys still in their order of the last pass";
+    EXPECT_EQ(Order(), u"face"
+                       u"bd")
+        << "descending: the equal keys still in their order of the last pass";
 }
 
 TEST_F(Sorting, ShortRowsAndDeletedSlotsSortAsEmpty) {

@@ -3,9 +3,9 @@
 // exports, and what the list posts.
 #pragma once
 
+#include <commctrl.h>
 #include <gtest/gtest.h>
 #include <windows.h>
-#include <commctrl.h>
 
 #include <string>
 #include <vector>

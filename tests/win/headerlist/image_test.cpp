@@ -88,8 +88,7 @@ protected:
         std::vector<uint8_t> bytes = block;
         bytes.push_back(0);
         bytes.push_back(0);
-        ASSERT_EQ(HostPropSet(outline, item, L"ZK:HeaderListBox", bytes.data(), static_cast<int32_t>(bytes.size())),
-                  1);
+        ASSERT_EQ(HostPropSet(outline, item, L"ZK:HeaderListBox", bytes.data(), static_cast<int32_t>(bytes.size())), 1);
     }
     static LRESULT CALLBACK Bind(int code, WPARAM wParam, LPARAM lParam) {
         // Only the form's window: the list inside it has no item of its own.

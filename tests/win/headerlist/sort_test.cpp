@@ -58,17 +58,18 @@ TEST_F(Sorted, AClickPostsTheForwardedCommandThenColumnSorted) {
     for (const auto &p : posted)
         if ((p.message == WM_COMMAND && p.hwnd == l.form.hwnd()) || p.message == ZKM_ColumnSorted)
             seen.push_back({p.message, p.message == ZKM_ColumnSorted ? static_cast<LPARAM>(p.wParam) : p.lParam});
-    const std::vector<std::pair<UINT, LPARAM>> want = {
-        {WM_COMMAND, reinterpret_cast<LPARAM>(l.wrapper())}, {ZKM_ColumnSorted, 0},
-        {WM_COMMAND, reinterpret_cast<LPARAM>(l.wrapper())}, {ZKM_ColumnSorted, 1}};
+    const std::vector<std::pair<UINT, LPARAM>> want = {{WM_COMMAND, reinterpret_cast<LPARAM>(l.wrapper())},
+                                                       {ZKM_ColumnSorted, 0},
+                                                       {WM_COMMAND, reinterpret_cast<LPARAM>(l.wrapper())},
+                                                       {ZKM_ColumnSorted, 1}};
     EXPECT_EQ(seen, want);
     EXPECT_EQ(hdrtest::Commands(posted, l.form.hwnd()), (std::vector<int>{-108, -108}));
 }
 
 TEST_F(Sorted, SelectionAndFocusFollowTheirRows) {
     ZelLVSetItemState(l.list(), 1, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED); // Ann
-    ZelLVSetItemState(l.list(), 3, LVIS_SELECTED, LVIS_SELECTED);                                 // dan
-    l.ClickHeader(1); // dan carl bea Ann
+    ZelLVSetItemState(l.list(), 3, LVIS_SELECTED, LVIS_SELECTED);                               // dan
+    l.ClickHeader(1);                                                                           // dan carl bea Ann
     EXPECT_EQ(ZelLVGetSelectedCount(l.list()), 2);
     EXPECT_EQ(ZelLVGetNextItem(l.list(), -1, LVNI_SELECTED), 0);
     EXPECT_EQ(ZelLVGetNextItem(l.list(), 0, LVNI_SELECTED), 3);
