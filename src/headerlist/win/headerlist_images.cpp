@@ -1,7 +1,8 @@
 // The large and small images of the list, kept in step: an image has the
 // same index in both lists.
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include "headerlist/win/headerlist_window.h"
 

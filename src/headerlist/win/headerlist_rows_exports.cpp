@@ -1,7 +1,8 @@
 // Exports of columns, rows, their states and the sort: the row store
 // behind the view's rows.
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include <algorithm>
 

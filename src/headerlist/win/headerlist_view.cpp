@@ -1,8 +1,9 @@
 // The list's side of the view: rows and columns through the view's
 // messages, the copy of the rows' places, the rearranged rows of a sort, and
 // the notifications posted to the host and the owner.
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include <algorithm>
 

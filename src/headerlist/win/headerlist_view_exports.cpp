@@ -1,7 +1,8 @@
 // Exports of the view itself: the list pointer, colours, places, geometry,
 // scrolling and style. What they set reaches the view only, never the block.
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include "headerlist/core/headerlist_ids.h"
 #include "headerlist/win/headerlist_exports.h"

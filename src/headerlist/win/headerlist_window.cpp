@@ -1,8 +1,9 @@
 // Creation, blocks, keys, mouse and the reflected notifications of the list.
 #include "headerlist/win/headerlist_window.h"
 
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include "frame/win/create_subclassed.h"
 #include "zkhost.h"

@@ -1,7 +1,8 @@
 #include "headerlist/win/headerlist_wrapper.h"
 
-#include <commctrl.h>
 #include <windows.h>
+
+#include <commctrl.h>
 
 #include <algorithm>
 

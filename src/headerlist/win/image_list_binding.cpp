@@ -1,8 +1,9 @@
 // The blocks' image lists on the platform: stream forms through an
 // HGLOBAL stream, copies through icons, the default icon of the system.
-#include <commctrl.h>
-#include <objidl.h>
 #include <windows.h>
+#include <objidl.h>
+
+#include <commctrl.h>
 
 #include <cstring>
 

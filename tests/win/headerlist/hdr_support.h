@@ -3,9 +3,10 @@
 // exports, and what the list posts.
 #pragma once
 
+#include <windows.h>
+
 #include <commctrl.h>
 #include <gtest/gtest.h>
-#include <windows.h>
 
 #include <string>
 #include <vector>
