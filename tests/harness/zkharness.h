@@ -6,5 +6,6 @@
 #include "zkt_debug_output.h"
 #include "zkt_dialog.h"
 #include "zkt_messages.h"
+#include "zkt_null_control.h"
 #include "zkt_pump.h"
 #include "zkt_window.h"
