@@ -188,6 +188,8 @@ double PostsTime(int count) {
     return time;
 }
 
+int CALLBACK CompareParams(LPARAM a, LPARAM b, LPARAM) { return a < b ? -1 : a > b; }
+
 // The floor of rearranging a view's rows one message each (LVM_SETITEMW of
 // a new lParam on every row of a plain view, redraw off), and the
 // platform's own LVM_SORTITEMS of the same rows by integer keys.
@@ -215,8 +217,7 @@ void ViewFloors(Run &run, int count) {
         }
     });
     const double platform = TimeOf([&] {
-        SendMessageW(view, LVM_SORTITEMS, 0,
-                     reinterpret_cast<LPARAM>(+[](LPARAM a, LPARAM b, LPARAM) -> int { return a < b ? -1 : a > b; }));
+        SendMessageW(view, LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareParams));
     });
     Discard(form);
     run.Note("sort floor: LVM_SETITEMW of every row, seconds", rewrite);

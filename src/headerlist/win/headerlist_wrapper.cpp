@@ -94,8 +94,8 @@ LRESULT CDlgHeaderLB::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return Default();
     case WM_NOTIFY: {
         LRESULT result = 0;
-        if (list_ && reinterpret_cast<const NMHDR *>(lParam)->hwndFrom == list_->GetSafeHwnd() &&
-            ReflectNotify(lParam, result))
+        const auto *header = reinterpret_cast<const NMHDR *>(lParam);
+        if (list_ && header && header->hwndFrom == list_->GetSafeHwnd() && ReflectNotify(lParam, result))
             return result;
         return Default();
     }
