@@ -1,12 +1,14 @@
 // Bytes of any shape into the archive reader and every block reader: the
 // generic block, the splitter's block, the spin record, the palette block,
-// texts, counts, tagged objects and object arrays. Beyond not crashing,
-// nothing but the archive's own exceptions may come out, and whatever was
-// read whole must come back through its writer.
+// texts, counts, tagged objects, object arrays and the header list's block
+// with its image streams. Beyond not crashing, nothing but the archive's own
+// exceptions may come out, and whatever was read whole must come back
+// through its writer.
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <string>
+#include <vector>
 
 #include "frame/core/archive.h"
 #include "frame/core/block_io.h"
@@ -15,6 +17,7 @@
 #include "controls/core/spin_block.h"
 #include "palette/core/palette_block.h"
 #include "controls/core/splitter_block.h"
+#include "headerlist/core/headerlist_block.h"
 
 namespace {
 
@@ -181,6 +184,23 @@ void Palette(const uint8_t *data, size_t size) {
     check(SamePalette(copy, block));
     for (size_t i = 0; i < copy.mainColors.size(); ++i)
         check(!copy.mainColors.at(i) || copy.mainColors.at(i) != block.mainColors.at(i));
+// The header list's block: columns, colours, image list streams.
+std::vector<uint8_t> Bytes(zk::hdr::SPropHeaderListBox &block) {
+    zk::CMemFile file;
+    zk::StoreBlock(file, block);
+    return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
+}
+
+void HeaderList(const uint8_t *data, size_t size) {
+    zk::hdr::SPropHeaderListBox block;
+    // A block read without its lists (version 0) writes none back, as the
+    // platform writes nothing for no list: only whole blocks come back.
+    if (!zk::LoadBlockBytes(data, size, block) || !block.largeImages.Handle() || !block.smallImages.Handle())
+        return;
+    const std::vector<uint8_t> once = Bytes(block);
+    zk::hdr::SPropHeaderListBox back;
+    check(zk::LoadBlockBytes(once.data(), once.size(), back));
+    check(Bytes(back) == once);
 }
 
 // Single reads from the start: each either gives a value or an ArchiveException.
@@ -220,6 +240,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     Spin(data, size);
     Rich(data, size);
     Palette(data, size);
+    HeaderList(data, size);
     Pieces(data, size);
     return 0;
 }

@@ -141,6 +141,9 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
     // Page 8: the splitter, spin fields and meters.
     form.NextPage();
     RunControlsSteps(report, pictures);
+    // Page 9: the header list, photographed.
+    form.NextPage();
+    RunHeaderListSteps(report, pictures);
     form.Show();
     PumpPending();
 

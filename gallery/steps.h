@@ -38,6 +38,9 @@ void RunMenuSteps(Report &report, Pictures &pictures);
 // The splitter before and after a drag, spin fields and meters, on one
 // window photographed twice.
 void RunControlsSteps(Report &report, Pictures &pictures);
+// A header list of four columns with images in its rows, sorted by a header
+// click, photographed.
+void RunHeaderListSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

@@ -74,6 +74,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/calendar.h"
 #include "zklib/palette.h"
 #include "zklib/controls.h"
+#include "zklib/headerlist.h"
 #include "zklib/dos.h"
 #include "zklib/stream.h"
 #include "zklib/netprofile.h"

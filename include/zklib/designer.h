@@ -7,4 +7,8 @@
  * lParam the object's pointer, which every exported control function takes. */
 #define ZKM_ControlCreate 0x6008
 
+/* Sent by a control to its own window when it has made its children, so
+ * that a window laying out its neighbours finds them anew; no arguments. */
+#define ZKM_Refresh 0x600A
+
 #endif

@@ -57,7 +57,7 @@ ControlForm::~ControlForm() {
     pumpMessages();
 }
 
-StoredBlockItem::StoredBlockItem() {
+StoredBlockItem::StoredBlockItem(const wchar_t *className) : className_(className) {
     outline = ZkHostDesignNewOutline();
     item = ZkHostDesignAddItem(outline, 0, 1);
     current_ = this;
@@ -77,7 +77,10 @@ bool StoredBlockItem::Store(const wchar_t *property, std::vector<uint8_t> bytes)
 }
 
 LRESULT CALLBACK StoredBlockItem::Bind(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HCBT_CREATEWND && current_)
+    wchar_t name[64] = {};
+    if (code == HCBT_CREATEWND && current_ &&
+        (!current_->className_ || (GetClassNameW(reinterpret_cast<HWND>(wParam), name, 64) &&
+                                   lstrcmpW(name, current_->className_) == 0)))
         ZkHostDesignBindWindow(current_->outline, current_->item, reinterpret_cast<HWND>(wParam));
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }

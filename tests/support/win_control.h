@@ -61,10 +61,12 @@ private:
 };
 
 // A design item for the length of a scope: every window made meanwhile on
-// this thread is bound to it before its first message.
+// this thread (of one class, when named) is bound to it before its first
+// message.
 class StoredBlockItem {
 public:
-    StoredBlockItem();
+    // Binds only windows of the class when one is named.
+    explicit StoredBlockItem(const wchar_t *className = nullptr);
     ~StoredBlockItem();
     StoredBlockItem(const StoredBlockItem &) = delete;
     StoredBlockItem &operator=(const StoredBlockItem &) = delete;
@@ -82,6 +84,7 @@ public:
 
 private:
     static LRESULT CALLBACK Bind(int code, WPARAM wParam, LPARAM lParam);
+    const wchar_t *className_;
     HHOOK hook_ = nullptr;
     static inline StoredBlockItem *current_ = nullptr;
 };
@@ -91,9 +94,9 @@ private:
 // (none when words is null).
 struct NullControlCall {
     const wchar_t *name; // with its parentheses, as the box and the trace name it
-    int32_t failure;
+    int64_t failure;
     const wchar_t *words;
-    std::function<int32_t()> call;
+    std::function<int64_t()> call;
 };
 void ExpectNullControlFailures(const std::vector<NullControlCall> &calls);
 

@@ -10,6 +10,7 @@
 #include "calendar/win/calendar_bootstrap.h"
 #include "controls/win/controls_bootstrap.h"
 #include "frame/win/host.h"
+#include "headerlist/win/headerlist_bootstrap.h"
 #include "frame/win/registry.h"
 #include "frame/win/window.h"
 #include "palette/win/palette_bootstrap.h"
@@ -24,6 +25,7 @@ using Binding = void (*)();
 const Binding kBindings[] = {
     &cal::BindDatesToHost,
     &ctl::BindControlsToHost,
+    &hdr::BindImageListsToPlatform,
 };
 
 enum class When { StartUp, FirstWindow };
@@ -44,7 +46,7 @@ WindowClass classes[] = {
     {L"ZK:cPalette:10", 0x6080, 0, true, &pal::DlgPaletteBootstrap, When::StartUp},
     {L"ZK:cComboPal:10", 0x6888, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cSplitter:10", 0x400B, 0, false, &ctl::DlgSplitterBootstrap, When::StartUp},
-    {L"ZK:cListView:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
+    {L"ZK:cListView:10", 0x4088, 0, true, &hdr::DlgHeaderLBBootstrap, When::StartUp},
     {L"ZK:cListViewDropDown:10", 0x4088, 0, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cSpinField:10", 0x4008, 4, true, &ctl::SpinFieldProc, When::StartUp},
     {L"ZK:cMeter:10", 0x4000, 4, true, &ctl::MeterProc, When::StartUp},
