@@ -132,6 +132,12 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
     form.Show();
     PumpPending();
 
+    // Page 6: the window utilities; the steps photograph the form and the box.
+    form.NextPage();
+    RunWindowSteps(report, pictures);
+    form.Show();
+    PumpPending();
+
     report.Section(L"Host values");
     report.LogCheck(L"HostHalt calls", std::to_wstring(ZkHostHaltCount()), ZkHostHaltCount() == 0, L"0");
     report.LogCheck(L"live host arrays", std::to_wstring(ZkHostLiveArrays()),

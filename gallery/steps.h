@@ -28,6 +28,10 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures);
 // The calendar control in its looks (default, etched, marked dates,
 // special-day rules, disabled, pop-up), a picture of each.
 void RunCalendarSteps(Report &report, Pictures &pictures);
+// An order form whose OK button waits for its required fields, before and
+// after they are filled, and a message box with a picture and three buttons
+// of its own, a picture of each.
+void RunWindowSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

@@ -78,6 +78,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/outline_tree.h"
 #include "zklib/outline_file.h"
 #include "zklib/listfn.h"
+#include "zklib/window.h"
 
 #ifdef __cplusplus
 }

@@ -46,6 +46,8 @@ WindowClass classes[] = {
     {L"ZK:cSpinField:10", 0x4008, 4, true, &DefWindowProcW, When::StartUp},
     {L"ZK:cMeter:10", 0x4000, 4, true, &DefWindowProcW, When::StartUp},
     {L"ZK:Calendar:10", 0x6880, 0, true, &Window::FrameProcedure, When::FirstWindow},
+    // The hidden window that holds the mouse while the wait cursor is on.
+    {L"Zel:MouseCapture", 0, 0, false, &DefWindowProcW, When::FirstWindow},
 };
 
 // The module this code is in: the library, or a test program that links
