@@ -144,6 +144,9 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
     // Page 9: the header list, photographed.
     form.NextPage();
     RunHeaderListSteps(report, pictures);
+    // Page 10: the window utilities; the steps photograph the form and the box.
+    form.NextPage();
+    RunWindowSteps(report, pictures);
     form.Show();
     PumpPending();
 

@@ -41,6 +41,10 @@ void RunControlsSteps(Report &report, Pictures &pictures);
 // A header list of four columns with images in its rows, sorted by a header
 // click, photographed.
 void RunHeaderListSteps(Report &report, Pictures &pictures);
+// An order form whose OK button waits for its required fields, before and
+// after they are filled, and a message box with a picture and three buttons
+// of its own, a picture of each.
+void RunWindowSteps(Report &report, Pictures &pictures);
 // Loads the palette bitmaps and the icon from ZKLIB.dll into a panel on
 // the form.
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel);

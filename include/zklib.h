@@ -82,6 +82,7 @@ uint32_t   ZKAPI ZelNumberMakeLong(uint16_t low, uint16_t high);
 #include "zklib/outline_file.h"
 #include "zklib/listfn.h"
 #include "zklib/menu.h"
+#include "zklib/window.h"
 
 #ifdef __cplusplus
 }

@@ -9,7 +9,7 @@ namespace {
 // all kinds; a freed address that is reused by another kind is re-entered.
 struct Table {
     std::unordered_map<std::uintptr_t, LiveKind> objects;
-    std::size_t counts[4] = {};
+    std::size_t counts[8] = {};
 };
 
 Table &table() {
@@ -17,7 +17,7 @@ Table &table() {
     return *instance;
 }
 
-std::size_t slot(LiveKind kind) { return static_cast<std::size_t>(kind) & 3u; }
+std::size_t slot(LiveKind kind) { return static_cast<std::size_t>(kind) & 7u; }
 
 } // namespace
 

@@ -17,6 +17,8 @@ enum class LiveKind : uint8_t {
     OutlineItem = 1, // LbxItem
     OutlineNode = 2, // LbxNode: the item handle
     Picture = 3,     // PIC: the picture handle
+    Accelerator = 4, // the local block of an accelerator record
+    MessageButton = 5, // a button object of the message box
 };
 
 // Enters an object; throws std::bad_alloc when the table cannot grow.

@@ -123,4 +123,10 @@ HANDLE PropRemove(HWND window, const wchar_t *name) {
     return RemovePropW(window, name);
 }
 
+void PropForget(HWND window, const wchar_t *name) {
+    if (window && name) {
+        Copy().Forget(window, name);
+    }
+}
+
 } // namespace zk

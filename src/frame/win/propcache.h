@@ -17,5 +17,9 @@ HANDLE PropGet(HWND window, const wchar_t *name);
 bool PropSet(HWND window, const wchar_t *name, HANDLE value);
 // RemovePropW; the copy forgets the name on the window.
 HANDLE PropRemove(HWND window, const wchar_t *name);
+// The copy forgets the name on the window, which keeps its property: for a
+// property set under a name the application gives (ZelWinSetProp), whose
+// text the copy must not keep.
+void PropForget(HWND window, const wchar_t *name);
 
 } // namespace zk

@@ -53,6 +53,8 @@ WindowClass classes[] = {
     {L"ZK:Calendar:10", 0x6880, 0, true, &Window::FrameProcedure, When::FirstWindow},
     {L"ZK:ColorPalette:10", 0x6080, 0, true, &Window::FrameProcedure, When::FirstWindow},
     {L"ZK:Splitter:10", 0x400B, 0, false, &Window::FrameProcedure, When::FirstWindow},
+    // The hidden window that holds the mouse while the wait cursor is on.
+    {L"Zel:MouseCapture", 0, 0, false, &DefWindowProcW, When::FirstWindow},
 };
 
 // The module this code is in: the library, or a test program that links

@@ -41,6 +41,11 @@ bool ZelPathIsDir(std::wstring_view path);
 // this machine, else 0.
 int ZelPathDriveNumber(std::wstring_view path);
 
+// The path as it fits in the width of `rectangle` in the font selected into
+// `dc`: folders of the middle give way to "..." first, then the name
+// (zk::os::ShortenPath).
+std::wstring ZelPathShorten(HDC dc, const RECT &rectangle, std::wstring_view path);
+
 // Makes or grows the call's transfer buffer for a file of `size` bytes: a
 // moveable global block in `block` (null the first time), and in `usefulSize`
 // how many bytes to move at a time: min(size + 1, kTransferLimit). 0, or -8 when
