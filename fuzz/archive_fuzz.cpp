@@ -184,6 +184,8 @@ void Palette(const uint8_t *data, size_t size) {
     check(SamePalette(copy, block));
     for (size_t i = 0; i < copy.mainColors.size(); ++i)
         check(!copy.mainColors.at(i) || copy.mainColors.at(i) != block.mainColors.at(i));
+}
+
 // The header list's block: columns, colours, image list streams.
 std::vector<uint8_t> Bytes(zk::hdr::SPropHeaderListBox &block) {
     zk::CMemFile file;

@@ -38,11 +38,12 @@ TEST(ShortenPath, FoldersGiveWayBeforeTheName) {
         {u"C:\\aaa\\bbb\\ccc\\file.txt", 12, u"C:...\\fil..."},
         // Server and share stay whole.
         {u"\\\\server\\share\\dir\\sub\\file.txt", 27, u"\\\\server\\share\\...\\file.txt"},
-        {u"//server/share/dir/file.txt", 20, u"//server/share/...file.txt"},
+        // A middle under four characters stays; the name is cut to its slash and "...".
+        {u"//server/share/dir/file.txt", 20, u"//server/share/dir/..."},
         // Forward slashes when there is no backslash.
-        {u"C:/aaa/bbb/file.txt", 17, u"C:/aaa/.../file.txt"},
+        {u"C:/aaa/bbb/file.txt", 17, u"C:/.../file.txt"},
         // A path ending in a folder is all middle.
-        {u"C:\\aaa\\bbb\\ccc\\", 12, u"C:\\aaa\\bbb\\..."},
+        {u"C:\\aaa\\bbb\\ccc\\", 12, u"C:\\aaa\\..."},
         // No root, no folder: only the name, down to five characters.
         {u"abcdefghij.txt", 5, u"ab..."},
         {u"abcdefghij.txt", 2, u"a..."},
@@ -66,7 +67,7 @@ TEST(ShortenPath, MeasuresEachCandidateOnce) {
     path += u"\\name.txt";
     TenPerCharacter measure;
     const std::u16string shortened = ShortenPath(path, 200, measure);
-    EXPECT_EQ(Narrow(shortened), "C:...\\name.txt");
+    EXPECT_EQ(Narrow(shortened), "C:\\...\\name.txt");
     EXPECT_LE(measure.calls, 2 + 200 + 2);
 }
 
