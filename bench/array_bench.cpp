@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
+#include "bench.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
-#include "bench.h"
 #include "zklib.h"
 
 namespace {

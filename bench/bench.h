@@ -107,8 +107,8 @@ LRESULT PlainPaint(HWND window, UINT message, WPARAM wParam, LPARAM lParam, Pain
 // A visible top-level window of width x height for a paint benchmark, and
 // the class `plainClass` of its baseline window, painted by `plainProc`
 // under the class style `plainStyle`.
-inline HWND MakeForm(const wchar_t *formClass, const wchar_t *plainClass, WNDPROC plainProc, UINT plainStyle,
-                     int width, int height) {
+inline HWND MakeForm(const wchar_t *formClass, const wchar_t *plainClass, WNDPROC plainProc, UINT plainStyle, int width,
+                     int height) {
     WNDCLASSW wc{};
     wc.lpfnWndProc = DefWindowProcW;
     wc.hInstance = GetModuleHandleW(nullptr);
@@ -150,8 +150,8 @@ public:
         std::printf("  %-52s %8.2f  (bound %s %.2f)%s\n", name, value, want == Want::AtMost ? "<=" : ">=", bound,
                     full_ ? (within ? "" : "  MISSED") : "  (small sizes: not the figure)");
         if (full_)
-            std::printf("@figure|%s|%s|%.3f|%s|%.2f\n", program_, name, value, want == Want::AtMost ? "<=" : ">=",
-                        bound);
+            std::printf("@figure|%s|%s|%.3f|%s|%.2f\n", program_, name, value,
+                        want == Want::AtMost ? "<=" : ">=", bound);
     }
     // A figure told for context, with no bound of its own.
     void Note(const char *name, double value) {

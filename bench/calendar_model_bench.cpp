@@ -61,8 +61,9 @@ int main(int argc, char **argv) {
     Run run("bench_calendar_model", argc, argv);
     zk::cal::BindDatesToHost();
     Outcome one, ten;
-    const Growth growth = MeasureGrowth(run.Size(1, 5), run.Size(1, 10), [&] { return TimeOf([&] { one = Walk(1); }); },
-                                        [&] { return TimeOf([&] { ten = Walk(run.Size(2, 10)); }); });
+    const Growth growth = MeasureGrowth(
+        run.Size(1, 5), run.Size(1, 10), [&] { return TimeOf([&] { one = Walk(1); }); },
+        [&] { return TimeOf([&] { ten = Walk(run.Size(2, 10)); }); });
     // Every cell of a month inside the marked years is marked but for the
     // extra cells before January of the first year and after December of
     // the last.

@@ -41,8 +41,7 @@ HWND MakeForm(const wchar_t *title) {
 
 HWND Pane(HWND form, int id, int x, int width, bool gray) {
     return CreateWindowW(L"Static", L"", WS_CHILD | WS_VISIBLE | (gray ? SS_GRAYRECT : SS_WHITERECT), x, 0, width,
-                         kFormHeight, form, reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleW(nullptr),
-                         nullptr);
+                         kFormHeight, form, reinterpret_cast<HMENU>(INT_PTR{id}), GetModuleHandleW(nullptr), nullptr);
 }
 
 RECT InParent(HWND window) {
@@ -172,8 +171,8 @@ int main(int argc, char **argv) {
               "a value above 100 is refused");
     run.Note("ZelWinSetMeter updates per second", updates / Median(meterTimes));
     run.Note("PBM_SETPOS + UpdateWindow per second", updates / Median(progressTimes));
-    run.Figure("ZelWinSetMeter / PBM_SETPOS + UpdateWindow", Median(meterTimes) / Median(progressTimes),
-               Want::AtMost, 1.2);
+    run.Figure("ZelWinSetMeter / PBM_SETPOS + UpdateWindow", Median(meterTimes) / Median(progressTimes), Want::AtMost,
+               1.2);
     DestroyWindow(m.form);
     return run.Finish();
 }

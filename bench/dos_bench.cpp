@@ -30,8 +30,8 @@ constexpr int kFiles = 20000;
 bool OwnName(const wchar_t *name) {
     int number = -1;
     wchar_t tail = 0;
-    return swscanf(name, L"file%05d.da%lc", &number, &tail) == 2 && tail == L't' && number >= 0 &&
-           number < kFiles && std::wcslen(name) == 13;
+    return swscanf(name, L"file%05d.da%lc", &number, &tail) == 2 && tail == L't' && number >= 0 && number < kFiles &&
+           std::wcslen(name) == 13;
 }
 
 // Anything else a kept folder may have gathered goes.

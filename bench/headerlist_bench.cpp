@@ -216,9 +216,8 @@ void ViewFloors(Run &run, int count) {
             SendMessageW(view, LVM_SETITEMW, 0, reinterpret_cast<LPARAM>(&item));
         }
     });
-    const double platform = TimeOf([&] {
-        SendMessageW(view, LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareParams));
-    });
+    const double platform =
+        TimeOf([&] { SendMessageW(view, LVM_SORTITEMS, 0, reinterpret_cast<LPARAM>(&CompareParams)); });
     Discard(form);
     run.Note("sort floor: LVM_SETITEMW of every row, seconds", rewrite);
     run.Note("sort: the platform's LVM_SORTITEMS (integer keys), seconds", platform);

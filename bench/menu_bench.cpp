@@ -85,8 +85,15 @@ void Drawing(Run &run, HWND frame, HMENU popup, ZelPicHandle picture, const Pict
     if (!run.Check(id > 0, "the owner-drawn item was not inserted"))
         return;
     Canvas ours, bare;
-    DRAWITEMSTRUCT item{ODT_MENU, 0, static_cast<UINT>(id), ODA_DRAWENTIRE, 0, reinterpret_cast<HWND>(popup),
-                        ours.dc, {0, 0, kItemWidth, kItemHeight}, reinterpret_cast<ULONG_PTR>(popup)};
+    DRAWITEMSTRUCT item{ODT_MENU,
+                        0,
+                        static_cast<UINT>(id),
+                        ODA_DRAWENTIRE,
+                        0,
+                        reinterpret_cast<HWND>(popup),
+                        ours.dc,
+                        {0, 0, kItemWidth, kItemHeight},
+                        reinterpret_cast<ULONG_PTR>(popup)};
     const Bare hand(bits.bitmap, bits.mask);
     std::vector<double> library, baseline;
     for (int round = 0; round < rounds; ++round) {
@@ -105,8 +112,8 @@ void Drawing(Run &run, HWND frame, HMENU popup, ZelPicHandle picture, const Pict
     run.Check(GetPixel(bare.dc, kPicture / 2, kItemHeight / 2) == kInk, "the bare drawing drew no picture");
     std::printf("  WM_DRAWITEM %.2f us, bare drawing %.2f us (medians of %d rounds of %d)\n",
                 Median(library) / draws * 1e6, Median(baseline) / draws * 1e6, rounds, draws);
-    run.Figure("owner-drawn item / FillRect + 3 BitBlt + DrawTextW", Median(library) / Median(baseline),
-               Want::AtMost, 1.3);
+    run.Figure("owner-drawn item / FillRect + 3 BitBlt + DrawTextW", Median(library) / Median(baseline), Want::AtMost,
+               1.3);
 }
 
 // 100 items into a fresh popup: through the library, or with InsertMenuW.

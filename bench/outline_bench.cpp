@@ -76,8 +76,8 @@ LRESULT CALLBACK TimedListProc(HWND window, UINT message, WPARAM wParam, LPARAM 
 // An adopted list whose base procedure is the watcher.
 HWND MakeTimedList(HWND form, int id) {
     HWND list = MakeList(form, id);
-    listBoxProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(TimedListProc)));
+    listBoxProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(TimedListProc)));
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     return list;
 }

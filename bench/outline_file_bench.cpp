@@ -55,8 +55,8 @@ LRESULT CALLBACK WatchedListProc(HWND window, UINT message, WPARAM wParam, LPARA
 HWND MakeWatchedList(HWND form, int id) {
     HWND list = CreateWindowW(L"ListBox", L"", kBenchListStyle | LBS_OWNERDRAWVARIABLE, 0, 0, 200, 300, form,
                               reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
-    listBoxProc = reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchedListProc)));
+    listBoxProc =
+        reinterpret_cast<WNDPROC>(SetWindowLongPtrW(list, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(WatchedListProc)));
     ZelListSetStyle(list, LBX_StyleOutline, nullptr);
     return list;
 }
@@ -146,8 +146,9 @@ int main(int argc, char **argv) {
     HWND small = MakeList(form, 1), large = MakeList(form, 2);
     Build(small, smallNodes, plus, minus, font);
     Build(large, largeNodes, plus, minus, font);
-    const Growth growth = MeasureGrowth(rounds, kSmallCycles, [&] { return Cycle(run, form, small, smallNodes); },
-                                        [&] { return Cycle(run, form, large, largeNodes); });
+    const Growth growth = MeasureGrowth(
+        rounds, kSmallCycles, [&] { return Cycle(run, form, small, smallNodes); },
+        [&] { return Cycle(run, form, large, largeNodes); });
     run.Check(Stable(form, small) && Stable(form, large), "the round trip does not come back the same");
     if (run.Ok()) {
         std::printf("  save + load up to the rows: %d nodes %.4f s, %d nodes %.4f s (medians of %d)\n", smallNodes,

@@ -13,9 +13,9 @@
 #include <string>
 #include <vector>
 
+#include "bench.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
-#include "bench.h"
 #include "zklib.h"
 
 namespace {
@@ -45,8 +45,9 @@ struct Case {
 };
 
 void Measure(Run &run, const char *name, int repeat, const Case &small, const Case &large) {
-    const Growth g = MeasureGrowth(run.Size(1, 5), repeat, [&] { return Time(run, small.call, small.expectedLength); },
-                                   [&] { return Time(run, large.call, large.expectedLength); });
+    const Growth g = MeasureGrowth(
+        run.Size(1, 5), repeat, [&] { return Time(run, small.call, small.expectedLength); },
+        [&] { return Time(run, large.call, large.expectedLength); });
     std::printf("  %-34s small %8.4f s  large %8.4f s\n", name, g.small, g.large);
     run.Figure(name, g.Ratio(), Want::AtMost, kBound);
 }
@@ -84,9 +85,7 @@ HostArray Strings(int32_t count) {
 }
 
 // Characters of the elements joined by commas: eight digits each.
-size_t JoinedNumbersLength(int32_t count) {
-    return count > 0 ? static_cast<size_t>(count) * 9 - 1 : 0;
-}
+size_t JoinedNumbersLength(int32_t count) { return count > 0 ? static_cast<size_t>(count) * 9 - 1 : 0; }
 
 // Characters of "[even][odd]..." and one more "even" for the plain code.
 size_t BracketedWordsLength(int32_t count) {

@@ -52,8 +52,8 @@ HWND MakeForm() {
     wc.hInstance = GetModuleHandleW(nullptr);
     wc.lpszClassName = L"ZkWindowBenchForm";
     RegisterClassW(&wc);
-    HWND form = CreateWindowW(wc.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200,
-                              nullptr, nullptr, wc.hInstance, nullptr);
+    HWND form = CreateWindowW(wc.lpszClassName, L"bench", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                              nullptr, wc.hInstance, nullptr);
     SetForegroundWindow(form);
     SetFocus(form);
     MSG m;
@@ -128,8 +128,8 @@ void MeasureAccelerators(Run &run, HWND form) {
     };
     const auto platform = [&](const Combo &c, bool up) {
         const bool alt = c.modifiers & 4;
-        MSG msg{form, static_cast<UINT>(alt ? (up ? WM_SYSKEYUP : WM_SYSKEYDOWN) : (up ? WM_KEYUP : WM_KEYDOWN)),
-                c.key, up ? static_cast<LPARAM>(0xC0000001) : 1};
+        MSG msg{form, static_cast<UINT>(alt ? (up ? WM_SYSKEYUP : WM_SYSKEYDOWN) : (up ? WM_KEYUP : WM_KEYDOWN)), c.key,
+                up ? static_cast<LPARAM>(0xC0000001) : 1};
         TranslateAcceleratorW(form, accel, &msg);
     };
     const int64_t expectedSum = static_cast<int64_t>(combos.size()) * (combos.size() + 1) / 2;
@@ -201,10 +201,12 @@ void MeasureMessageBox(Run &run, HWND form) {
     std::vector<double> ours, platform;
     for (int round = 0; round < rounds; ++round) {
         int answer = 0;
-        ours.push_back(ShowUntilPainted(2, [&] { return ZelMessageBox(text, caption, 0, buttons, 1); }, answer));
+        ours.push_back(ShowUntilPainted(
+            2, [&] { return ZelMessageBox(text, caption, 0, buttons, 1); }, answer));
         if (!run.Check(answer == 7, "ZelMessageBox did not answer with its button's result"))
             break;
-        platform.push_back(ShowUntilPainted(IDOK, [&] { return MessageBoxW(form, text, caption, MB_OK); }, answer));
+        platform.push_back(ShowUntilPainted(
+            IDOK, [&] { return MessageBoxW(form, text, caption, MB_OK); }, answer));
         if (!run.Check(answer == IDOK, "MessageBoxW did not answer OK"))
             break;
     }

@@ -10,14 +10,14 @@
 #include <string>
 #include <vector>
 
+#include "controls/core/spin_block.h"
+#include "controls/core/splitter_block.h"
 #include "frame/core/archive.h"
 #include "frame/core/block_io.h"
-#include "frame/core/obarray.h"
 #include "frame/core/generic_block.h"
-#include "controls/core/spin_block.h"
-#include "palette/core/palette_block.h"
-#include "controls/core/splitter_block.h"
+#include "frame/core/obarray.h"
 #include "headerlist/core/headerlist_block.h"
+#include "palette/core/palette_block.h"
 
 namespace {
 

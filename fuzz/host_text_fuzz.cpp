@@ -12,8 +12,7 @@ namespace {
 constexpr std::u16string_view kDefaultPicture = u"yyyy-MM-dd-hh.mm.ss.mmmmmm";
 
 bool same(const HostNumber &a, const HostNumber &b) {
-    return a.length == b.length &&
-           std::memcmp(a.digits, b.digits, a.length <= 24 ? a.length : 24) == 0;
+    return a.length == b.length && std::memcmp(a.digits, b.digits, a.length <= 24 ? a.length : 24) == 0;
 }
 
 void check(bool condition) {
@@ -23,28 +22,28 @@ void check(bool condition) {
 
 void texts(std::u16string_view text) {
     HostNumber n{};
-    if (zkh::numberFromText(text, n)) {
+    if (zkh::NumberFromText(text, n)) {
         HostNumber back{};
-        check(zkh::numberFromText(zkh::numberToText(n), back) && same(back, n));
-        check(zkh::numberCompare(n, n) == 0);
-        (void)zkh::numberToDouble(n);
+        check(zkh::NumberFromText(zkh::NumberToText(n), back) && same(back, n));
+        check(zkh::NumberCompare(n, n) == 0);
+        (void)zkh::NumberToDouble(n);
     } else {
         check(n.length == 0);
     }
 
     HostDateTime d{};
-    if (zkh::dateParse(text, d)) {
+    if (zkh::DateParse(text, d)) {
         HostDateTime back{};
-        check(zkh::dateParse(zkh::dateFormat(d, kDefaultPicture), back) && same(back, d));
+        check(zkh::DateParse(zkh::DateFormat(d, kDefaultPicture), back) && same(back, d));
     } else {
         check(d.length == 0);
     }
 
-    const bool valid = zkh::pictureIsValid(text);
-    const HostDateTime sample = zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 123456);
-    const std::u16string shown = zkh::dateFormat(sample, text);
+    const bool valid = zkh::PictureIsValid(text);
+    const HostDateTime sample = zkh::DateFromParts(2020, 5, 17, 13, 45, 10, 123456);
+    const std::u16string shown = zkh::DateFormat(sample, text);
     check(!valid || !shown.empty());
-    (void)zkh::dateFormat(d, text);
+    (void)zkh::DateFormat(d, text);
 }
 
 // Raw bytes as two records: readers must stay inside the 24 digit bytes.
@@ -53,25 +52,22 @@ void records(const uint8_t *data) {
     std::memcpy(&a, data, sizeof a);
     std::memcpy(&b, data + sizeof a, sizeof b);
     HostNumber sum{};
-    sum.length =
-        static_cast<uint8_t>(zkh::numberAdd(sum.digits, a.digits, a.length, b.digits, b.length));
-    sum.length = static_cast<uint8_t>(
-        zkh::numberSubtract(sum.digits, sum.digits, sum.length, b.digits, b.length));
+    sum.length = static_cast<uint8_t>(zkh::NumberAdd(sum.digits, a.digits, a.length, b.digits, b.length));
+    sum.length = static_cast<uint8_t>(zkh::NumberSubtract(sum.digits, sum.digits, sum.length, b.digits, b.length));
     double addend = 0;
     std::memcpy(&addend, data, sizeof addend);
-    sum.length =
-        static_cast<uint8_t>(zkh::numberAddDouble(sum.digits, sum.digits, sum.length, addend));
-    check(zkh::numberCompare(a, b) == -zkh::numberCompare(b, a));
-    (void)zkh::numberToText(a);
-    (void)zkh::numberToDouble(b);
+    sum.length = static_cast<uint8_t>(zkh::NumberAddDouble(sum.digits, sum.digits, sum.length, addend));
+    check(zkh::NumberCompare(a, b) == -zkh::NumberCompare(b, a));
+    (void)zkh::NumberToText(a);
+    (void)zkh::NumberToDouble(b);
     int64_t whole = 0;
-    (void)zkh::numberToInt64(a, whole);
-    (void)zkh::dateToParts(a);
-    (void)zkh::dateFormat(b, kDefaultPicture);
+    (void)zkh::NumberToInt64(a, whole);
+    (void)zkh::DateToParts(a);
+    (void)zkh::DateFormat(b, kDefaultPicture);
     int fields[7];
     std::memcpy(fields, data, sizeof fields);
-    (void)zkh::dateToParts(zkh::dateFromParts(fields[0], fields[1], fields[2], fields[3], fields[4],
-                                              fields[5], fields[6]));
+    (void)zkh::DateToParts(
+        zkh::DateFromParts(fields[0], fields[1], fields[2], fields[3], fields[4], fields[5], fields[6]));
 }
 
 } // namespace

@@ -40,14 +40,14 @@ void images(const uint8_t *data, size_t size) {
     if (const auto ico = ReadIcoFirstImage(data, size)) {
         check(ico->width > 0 && ico->height > 0);
         touch(data, size, ico->offset, ico->bytes);
-        check(ico->bytes >= 40 + RowBytes(ico->width, ico->bitCount) * ico->height +
-                                RowBytes(ico->width, 1) * ico->height);
+        check(ico->bytes >=
+              40 + RowBytes(ico->width, ico->bitCount) * ico->height + RowBytes(ico->width, 1) * ico->height);
         const size_t claimed = IcoClaimedSize(data, size);
         check(claimed != 0 && claimed <= size);
     }
 }
 
-void picItems(const uint8_t *data, size_t size) {
+void PicItems(const uint8_t *data, size_t size) {
     std::vector<zk::PICITEM> items;
     if (!zk::PicItemsRead(data, size, items)) {
         check(items.empty());
@@ -63,6 +63,6 @@ void picItems(const uint8_t *data, size_t size) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size) {
     images(data, size);
-    picItems(data, size);
+    PicItems(data, size);
     return 0;
 }

@@ -5,7 +5,7 @@ namespace {
 
 const wchar_t kArtClass[] = L"ZkGalleryArt";
 constexpr int kCellWidth = 74;
-constexpr int kImageBox = 48; // a 24-pixel bitmap at twice its size
+constexpr int kImageBox = 48;    // a 24-pixel bitmap at twice its size
 constexpr int kLabelHeight = 28; // two lines
 constexpr int kCellHeight = kImageBox + 4 + kLabelHeight;
 constexpr int kPadding = 6;
@@ -42,9 +42,8 @@ bool ArtPanel::Create(HWND parent, const RECT &area, HFONT font) {
     if (!RegisterClassExW(&cls) && GetLastError() != ERROR_CLASS_ALREADY_EXISTS)
         return false;
     font_ = font;
-    window_ = CreateWindowExW(WS_EX_CLIENTEDGE, kArtClass, L"", WS_CHILD | WS_VISIBLE, area.left,
-                              area.top, area.right - area.left, area.bottom - area.top, parent,
-                              nullptr, cls.hInstance, this);
+    window_ = CreateWindowExW(WS_EX_CLIENTEDGE, kArtClass, L"", WS_CHILD | WS_VISIBLE, area.left, area.top,
+                              area.right - area.left, area.bottom - area.top, parent, nullptr, cls.hInstance, this);
     return window_ != nullptr;
 }
 
@@ -69,14 +68,13 @@ void ArtPanel::PaintItem(HDC dc, const Item &item, const RECT &cell) const {
         HDC source = CreateCompatibleDC(dc);
         HGDIOBJ old = SelectObject(source, item.bitmap);
         SetStretchBltMode(dc, COLORONCOLOR); // hard pixel edges
-        StretchBlt(dc, boxX, boxY, 2 * info.bmWidth, 2 * info.bmHeight, source, 0, 0, info.bmWidth,
-                   info.bmHeight, SRCCOPY);
+        StretchBlt(dc, boxX, boxY, 2 * info.bmWidth, 2 * info.bmHeight, source, 0, 0, info.bmWidth, info.bmHeight,
+                   SRCCOPY);
         SelectObject(source, old);
         DeleteDC(source);
     } else if (item.icon) {
         const int offset = (kImageBox - item.size) / 2;
-        DrawIconEx(dc, boxX + offset, boxY + offset, item.icon, item.size, item.size, 0, nullptr,
-                   DI_NORMAL);
+        DrawIconEx(dc, boxX + offset, boxY + offset, item.icon, item.size, item.size, 0, nullptr, DI_NORMAL);
     } else {
         // missing from the DLL: a red cross where the image should be
         HPEN pen = CreatePen(PS_SOLID, 2, RGB(200, 0, 0));

@@ -10,13 +10,11 @@ bool Picture::Uniform() const {
     if (pixels.empty())
         return true;
     const uint32_t first = pixels.front() & 0xFFFFFF;
-    return std::all_of(pixels.begin(), pixels.end(),
-                       [first](uint32_t p) { return (p & 0xFFFFFF) == first; });
+    return std::all_of(pixels.begin(), pixels.end(), [first](uint32_t p) { return (p & 0xFFFFFF) == first; });
 }
 
 bool WriteBmp24(const std::wstring &path, const Picture &picture) {
-    if (picture.Empty() ||
-        picture.pixels.size() != static_cast<size_t>(picture.width) * picture.height)
+    if (picture.Empty() || picture.pixels.size() != static_cast<size_t>(picture.width) * picture.height)
         return false;
     const size_t stride = (static_cast<size_t>(picture.width) * 3 + 3) & ~static_cast<size_t>(3);
     const size_t imageBytes = stride * picture.height;
@@ -45,8 +43,7 @@ bool WriteBmp24(const std::wstring &path, const Picture &picture) {
         }
     }
 
-    HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                                FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE handle = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (handle == INVALID_HANDLE_VALUE)
         return false;
     DWORD written = 0;

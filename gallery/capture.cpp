@@ -84,8 +84,7 @@ Picture CaptureTopLevel(HWND window, bool repaint) {
 
 Picture CaptureControl(HWND control) {
     RECT client{};
-    if (!IsWindow(control) || !GetClientRect(control, &client) || client.right <= 0 ||
-        client.bottom <= 0)
+    if (!IsWindow(control) || !GetClientRect(control, &client) || client.right <= 0 || client.bottom <= 0)
         return {};
     Canvas canvas(client.right, client.bottom);
     if (!canvas.Valid())

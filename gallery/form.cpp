@@ -54,17 +54,16 @@ bool Form::Create(HINSTANCE instance, const wchar_t *title) {
     const DWORD style = WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU | WS_MINIMIZEBOX;
     RECT frame{0, 0, kClientWidth, 400};
     AdjustWindowRectEx(&frame, style, FALSE, 0);
-    window_ = CreateWindowExW(0, kFormClass, title, style, 16, 16, frame.right - frame.left,
-                              frame.bottom - frame.top, nullptr, nullptr, instance, nullptr);
+    window_ = CreateWindowExW(0, kFormClass, title, style, 16, 16, frame.right - frame.left, frame.bottom - frame.top,
+                              nullptr, nullptr, instance, nullptr);
     y_[0] = y_[1] = kMargin;
     return window_ != nullptr;
 }
 
-HWND Form::Child(const wchar_t *cls, const std::wstring &text, DWORD style, int x, int y, int width,
-                 int height, int id, HFONT font) {
-    HWND child = CreateWindowExW(0, cls, text.c_str(), WS_CHILD | WS_VISIBLE | style, x, y, width,
-                                 height, window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                 instance_, nullptr);
+HWND Form::Child(const wchar_t *cls, const std::wstring &text, DWORD style, int x, int y, int width, int height, int id,
+                 HFONT font) {
+    HWND child = CreateWindowExW(0, cls, text.c_str(), WS_CHILD | WS_VISIBLE | style, x, y, width, height, window_,
+                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), instance_, nullptr);
     if (child)
         SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     return child;
@@ -90,10 +89,10 @@ void Form::Row(const std::wstring &label, const std::wstring &value, bool ok) {
     const int x = ColumnX(column_);
     const int id = (ok ? kOkMarkBase : kFailMarkBase) + (nextId_++ % kMarkRange);
     Child(L"STATIC", label, SS_LEFT | SS_NOPREFIX | SS_ENDELLIPSIS, x, y + 3, kLabelWidth, 16, 0, font_);
-    Child(L"EDIT", value, ES_READONLY | ES_AUTOHSCROLL | WS_BORDER, x + kLabelWidth + kGap, y,
-          kValueWidth, 19, 0, font_);
-    Child(L"STATIC", ok ? L"ok" : L"FAIL", SS_CENTER | SS_NOPREFIX,
-          x + kLabelWidth + kValueWidth + 2 * kGap, y + 3, kMarkWidth, 16, id, bold_);
+    Child(L"EDIT", value, ES_READONLY | ES_AUTOHSCROLL | WS_BORDER, x + kLabelWidth + kGap, y, kValueWidth, 19, 0,
+          font_);
+    Child(L"STATIC", ok ? L"ok" : L"FAIL", SS_CENTER | SS_NOPREFIX, x + kLabelWidth + kValueWidth + 2 * kGap, y + 3,
+          kMarkWidth, 16, id, bold_);
     y += kRowHeight;
 }
 
@@ -108,8 +107,7 @@ void Form::Show() {
     RECT frame{0, 0, kClientWidth, std::max(y_[0], y_[1]) + kMargin};
     const DWORD style = static_cast<DWORD>(GetWindowLongPtrW(window_, GWL_STYLE));
     AdjustWindowRectEx(&frame, style, FALSE, 0);
-    SetWindowPos(window_, HWND_TOP, 0, 0, frame.right - frame.left, frame.bottom - frame.top,
-                 SWP_NOMOVE);
+    SetWindowPos(window_, HWND_TOP, 0, 0, frame.right - frame.left, frame.bottom - frame.top, SWP_NOMOVE);
     ShowWindow(window_, SW_SHOWNORMAL);
     SetForegroundWindow(window_);
     SetActiveWindow(window_);

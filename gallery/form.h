@@ -36,8 +36,8 @@ public:
 
 private:
     static LRESULT CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam);
-    HWND Child(const wchar_t *cls, const std::wstring &text, DWORD style, int x, int y, int width,
-               int height, int id, HFONT font);
+    HWND Child(const wchar_t *cls, const std::wstring &text, DWORD style, int x, int y, int width, int height, int id,
+               HFONT font);
 
     HWND window_ = nullptr;
     HINSTANCE instance_ = nullptr;

@@ -49,7 +49,7 @@ std::wstring Environment(const wchar_t *name) {
 
 // Makes every folder of the path that does not exist yet.
 bool MakeFolders(const std::wstring &path) {
-    for (size_t at = path.find(L'\\', 3); ; at = path.find(L'\\', at + 1)) {
+    for (size_t at = path.find(L'\\', 3);; at = path.find(L'\\', at + 1)) {
         const std::wstring part = path.substr(0, at);
         if (!part.empty() && part.back() != L':' && !CreateDirectoryW(part.c_str(), nullptr) &&
             GetLastError() != ERROR_ALREADY_EXISTS)
@@ -60,8 +60,8 @@ bool MakeFolders(const std::wstring &path) {
 }
 
 int Run(HINSTANCE instance, const Options &options, Log &log) {
-    log.Line(std::wstring(L"zkgallery: ") + (options.headless ? L"headless" : L"interactive") +
-             L", output in " + options.outDir);
+    log.Line(std::wstring(L"zkgallery: ") + (options.headless ? L"headless" : L"interactive") + L", output in " +
+             options.outDir);
     ZkHostHaltReturns(1); // a Halt must be seen in the log, not end the run silently
     const int32_t liveAtStart = ZkHostLiveStrings();
     const int32_t arraysAtStart = ZkHostLiveArrays();
@@ -152,16 +152,16 @@ int Run(HINSTANCE instance, const Options &options, Log &log) {
 
     report.Section(L"Host values");
     report.LogCheck(L"HostHalt calls", std::to_wstring(ZkHostHaltCount()), ZkHostHaltCount() == 0, L"0");
-    report.LogCheck(L"live host arrays", std::to_wstring(ZkHostLiveArrays()),
-                    ZkHostLiveArrays() == arraysAtStart, std::to_wstring(arraysAtStart));
+    report.LogCheck(L"live host arrays", std::to_wstring(ZkHostLiveArrays()), ZkHostLiveArrays() == arraysAtStart,
+                    std::to_wstring(arraysAtStart));
     const int32_t liveAtEnd = ZkHostLiveStrings();
     report.LogCheck(L"ZkHostLiveStrings()",
                     std::to_wstring(liveAtEnd) + L" (at start " + std::to_wstring(liveAtStart) + L")",
                     liveAtEnd == liveAtStart + calendarSlot, std::to_wstring(liveAtStart + calendarSlot));
 
     log.Line(L"");
-    log.Line(L"zkgallery: " + std::to_wstring(report.Passes()) + L" passed, " +
-             std::to_wstring(report.Failures()) + L" failed");
+    log.Line(L"zkgallery: " + std::to_wstring(report.Passes()) + L" passed, " + std::to_wstring(report.Failures()) +
+             L" failed");
 
     if (!options.headless) {
         RunUntilQuit();

@@ -6,7 +6,7 @@
 namespace gallery {
 
 struct Options {
-    bool headless = false;          // --headless, or ZK_HEADLESS=1
+    bool headless = false;                 // --headless, or ZK_HEADLESS=1
     std::wstring outDir = L"out\\gallery"; // --out DIR: log and pictures
     bool valid = true;
     std::wstring error;

@@ -24,8 +24,8 @@ void Report::Section(const std::wstring &title) {
 
 void Report::Note(const std::wstring &text) { log_.Line(L"   " + text); }
 
-bool Report::Record(const std::wstring &label, const std::wstring &shown, bool ok,
-                    const std::wstring &expected, bool onForm) {
+bool Report::Record(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected,
+                    bool onForm) {
     std::wstring line = (ok ? L"ok    " : L"FAIL  ") + label + L" = " + shown;
     if (!ok && !expected.empty())
         line += L"  (expected " + expected + L")";
@@ -36,13 +36,11 @@ bool Report::Record(const std::wstring &label, const std::wstring &shown, bool o
     return ok;
 }
 
-bool Report::Check(const std::wstring &label, const std::wstring &shown, bool ok,
-                   const std::wstring &expected) {
+bool Report::Check(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected) {
     return Record(label, shown, ok, expected, true);
 }
 
-bool Report::LogCheck(const std::wstring &label, const std::wstring &shown, bool ok,
-                      const std::wstring &expected) {
+bool Report::LogCheck(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected) {
     return Record(label, shown, ok, expected, false);
 }
 

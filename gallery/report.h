@@ -19,11 +19,9 @@ public:
 
     // `shown` is what the form displays; `expected` goes to the log when
     // the step failed.
-    bool Check(const std::wstring &label, const std::wstring &shown, bool ok,
-               const std::wstring &expected = {});
+    bool Check(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected = {});
     // A step that is logged but has no row on the form.
-    bool LogCheck(const std::wstring &label, const std::wstring &shown, bool ok,
-                  const std::wstring &expected = {});
+    bool LogCheck(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected = {});
 
     bool Text(const std::wstring &label, const std::wstring &actual, const std::wstring &expected);
     bool Number(const std::wstring &label, int64_t actual, int64_t expected);
@@ -33,8 +31,8 @@ public:
     int Passes() const { return passes_; }
 
 private:
-    bool Record(const std::wstring &label, const std::wstring &shown, bool ok,
-                const std::wstring &expected, bool onForm);
+    bool Record(const std::wstring &label, const std::wstring &shown, bool ok, const std::wstring &expected,
+                bool onForm);
     Log &log_;
     Form *form_;
     int failures_ = 0;

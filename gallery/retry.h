@@ -11,13 +11,13 @@
 namespace gallery {
 
 struct RetryDialogSeen {
-    int dialogs = 0;       // distinct appearances of the dialog
-    std::wstring caption;  // of the first appearance
-    std::wstring message;  // control 101
-    std::wstring retry;    // control 203
-    std::wstring halt;     // control 204
-    Picture picture;       // of the first appearance
-    bool gaveUp = false;   // the modal loop ran on with nothing left to click
+    int dialogs = 0;      // distinct appearances of the dialog
+    std::wstring caption; // of the first appearance
+    std::wstring message; // control 101
+    std::wstring retry;   // control 203
+    std::wstring halt;    // control 204
+    Picture picture;      // of the first appearance
+    bool gaveUp = false;  // the modal loop ran on with nothing left to click
 };
 
 class RetryAnswerer {
@@ -42,9 +42,9 @@ private:
     DWORD delayMs_;
     DWORD giveUpMs_;
     DWORD lastProgress_;
-    HWND current_ = nullptr;  // the dialog on screen now
+    HWND current_ = nullptr; // the dialog on screen now
     DWORD shownAt_ = 0;
-    bool answered_ = false;   // the current dialog has been answered
+    bool answered_ = false; // the current dialog has been answered
     RetryDialogSeen seen_;
 };
 

@@ -10,9 +10,9 @@
 namespace gallery {
 namespace {
 
-const wchar_t *const kPaletteBitmaps[] = {
-    L"ZK_LOGO",   L"ZK_CAL",            L"ZK_CALDROPDOWN", L"ZK_CLRPAL", L"ZK_CLRPALDROPDOWN",
-    L"ZK_LISTVW", L"ZK_LISTVWDROPDOWN", L"ZK_METER",       L"ZK_SPINFLD"};
+const wchar_t *const kPaletteBitmaps[] = {L"ZK_LOGO",           L"ZK_CAL",    L"ZK_CALDROPDOWN",    L"ZK_CLRPAL",
+                                          L"ZK_CLRPALDROPDOWN", L"ZK_LISTVW", L"ZK_LISTVWDROPDOWN", L"ZK_METER",
+                                          L"ZK_SPINFLD"};
 
 #pragma pack(push, 2)
 struct GroupIconEntry {
@@ -54,21 +54,18 @@ std::wstring GroupIconSizes(HMODULE module, const wchar_t *name) {
 void RunArtSteps(Report &report, Form &form, ArtPanel &panel) {
     report.Section(L"Art in ZKLIB.dll (bitmaps twice their size)");
     constexpr int kItems = 9 + 2;
-    if (!panel.Create(form.Window(), form.Reserve(ArtPanel::HeightFor(kItems, Form::ColumnWidth())),
-                      form.Font()))
+    if (!panel.Create(form.Window(), form.Reserve(ArtPanel::HeightFor(kItems, Form::ColumnWidth())), form.Font()))
         report.LogCheck(L"art panel", L"not created", false);
     HMODULE library = GetModuleHandleW(L"ZKLIB.dll");
     int found = 0;
     for (const wchar_t *name : kPaletteBitmaps) {
         HBITMAP bitmap = library ? LoadBitmapW(library, name) : nullptr;
         BITMAP info{};
-        const bool ok = bitmap && GetObjectW(bitmap, sizeof(info), &info) && info.bmWidth == 24 &&
-                        info.bmHeight == 24;
+        const bool ok = bitmap && GetObjectW(bitmap, sizeof(info), &info) && info.bmWidth == 24 && info.bmHeight == 24;
         found += ok ? 1 : 0;
         report.LogCheck(std::wstring(L"LoadBitmapW(ZKLIB, \"") + name + L"\")",
-                        bitmap ? std::to_wstring(info.bmWidth) + L"x" + std::to_wstring(info.bmHeight)
-                               : L"missing",
-                        ok, L"24x24");
+                        bitmap ? std::to_wstring(info.bmWidth) + L"x" + std::to_wstring(info.bmHeight) : L"missing", ok,
+                        L"24x24");
         panel.AddBitmap(std::wstring(name).substr(3), bitmap);
     }
     report.Number(L"palette bitmaps of 24x24", found, 9);
@@ -76,8 +73,7 @@ void RunArtSteps(Report &report, Form &form, ArtPanel &panel) {
     const std::wstring sizes = library ? GroupIconSizes(library, L"ZK") : L"missing";
     report.Check(L"group icon \"ZK\"", sizes, sizes == L"32x32 16x16", L"32x32 16x16");
     for (int size : {32, 16}) {
-        HICON icon = library ? static_cast<HICON>(LoadImageW(library, L"ZK", IMAGE_ICON, size, size, 0))
-                             : nullptr;
+        HICON icon = library ? static_cast<HICON>(LoadImageW(library, L"ZK", IMAGE_ICON, size, size, 0)) : nullptr;
         panel.AddIcon(L"ZK " + std::to_wstring(size), icon, size);
     }
 }

@@ -68,8 +68,7 @@ void RunCalendarSteps(Report &report, Pictures &pictures) {
 
     Calendar etched = MakeCalendar(holder, kWidth + 20, 10, child);
     ZelCalSetStyle(etched.control, CALS_EtchedLook | CALS_ShowGridlines, 1);
-    report.Hex(L"etched look with gridlines", static_cast<uint32_t>(ZelCalGetStyle(etched.control)) & 0x0410,
-               0x0410);
+    report.Hex(L"etched look with gridlines", static_cast<uint32_t>(ZelCalGetStyle(etched.control)) & 0x0410, 0x0410);
     Show(report, pictures, etched, L"calendar-etched");
 
     Calendar marked = MakeCalendar(holder, 2 * kWidth + 30, 10, child);
@@ -85,18 +84,15 @@ void RunCalendarSteps(Report &report, Pictures &pictures) {
     ZelCalSetStyle(special.control, CALS_ShowSpecial, 1);
     ZelCalSpecialDate(special.control, SPECIAL_Weekly, Date(2024, 3, 3), 1, 0, RGB(192, 0, 0), RGB(255, 230, 230), 1);
     ZelCalSpecialDate(special.control, SPECIAL_Date, Date(2024, 3, 29), 0, 0, RGB(255, 255, 255), RGB(0, 128, 0), 1);
-    ZelCalSpecialDate(special.control, SPECIAL_MonthWeekday, Date(2024, 3, 1), 4, 2, RGB(0, 0, 160),
-                      RGB(220, 230, 255), 1);
-    report.Number(L"ZelCalIsDateSpecial a Sunday", ZelCalIsDateSpecial(special.control, 0, Date(2024, 3, 10), 1, 2),
-                  1);
-    report.Number(L"ZelCalIsDateSpecial a Monday", ZelCalIsDateSpecial(special.control, 0, Date(2024, 3, 11), 2, 2),
-                  0);
+    ZelCalSpecialDate(special.control, SPECIAL_MonthWeekday, Date(2024, 3, 1), 4, 2, RGB(0, 0, 160), RGB(220, 230, 255),
+                      1);
+    report.Number(L"ZelCalIsDateSpecial a Sunday", ZelCalIsDateSpecial(special.control, 0, Date(2024, 3, 10), 1, 2), 1);
+    report.Number(L"ZelCalIsDateSpecial a Monday", ZelCalIsDateSpecial(special.control, 0, Date(2024, 3, 11), 2, 2), 0);
     Show(report, pictures, special, L"calendar-special");
 
     Calendar disabled = MakeCalendar(holder, kWidth + 20, kHeight + 20, child);
     ZelCalSetStyle(disabled.control, CALS_ShowSpecial, 1);
-    ZelCalSpecialDate(disabled.control, SPECIAL_Weekly, Date(2024, 3, 3), 1, 0, RGB(192, 0, 0), RGB(255, 230, 230),
-                      1);
+    ZelCalSpecialDate(disabled.control, SPECIAL_Weekly, Date(2024, 3, 3), 1, 0, RGB(192, 0, 0), RGB(255, 230, 230), 1);
     EnableWindow(disabled.window, FALSE);
     report.Check(L"disabled calendar", IsWindowEnabled(disabled.window) ? L"enabled" : L"disabled",
                  !IsWindowEnabled(disabled.window));

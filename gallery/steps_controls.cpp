@@ -38,8 +38,8 @@ HWND MakeWindow(const wchar_t *className, int colour, const wchar_t *title, DWOR
     return CreateWindowExW(0, className, title, style, x, y, width, height, parent, nullptr, wc.hInstance, nullptr);
 }
 
-HWND Child(HWND parent, const wchar_t *className, const wchar_t *text, DWORD style, int x, int y, int width,
-           int height, void *parameter = nullptr) {
+HWND Child(HWND parent, const wchar_t *className, const wchar_t *text, DWORD style, int x, int y, int width, int height,
+           void *parameter = nullptr) {
     return CreateWindowExW(0, className, text, WS_CHILD | WS_VISIBLE | style, x, y, width, height, parent, nullptr,
                            GetModuleHandleW(nullptr), parameter);
 }
@@ -83,18 +83,19 @@ void Photograph(Pictures &pictures, HWND holder, const std::wstring &name) {
 
 void RunControlsSteps(Report &report, Pictures &pictures) {
     report.Section(L"Splitter, spin field, meter");
-    HWND holder = MakeWindow(L"ZkGalleryControls", COLOR_BTNFACE, L"Small controls",
-                             WS_OVERLAPPEDWINDOW | WS_VISIBLE, 60, 60, kWidth, kHeight, nullptr);
+    HWND holder = MakeWindow(L"ZkGalleryControls", COLOR_BTNFACE, L"Small controls", WS_OVERLAPPEDWINDOW | WS_VISIBLE,
+                             60, 60, kWidth, kHeight, nullptr);
 
     // The splitter between its two panes, in a frame of their own.
-    HWND panes = MakeWindow(L"ZkGalleryPanes", COLOR_WINDOW, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, 10, 10, 430,
-                            110, holder);
+    HWND panes =
+        MakeWindow(L"ZkGalleryPanes", COLOR_WINDOW, L"", WS_CHILD | WS_VISIBLE | WS_BORDER, 10, 10, 430, 110, holder);
     HWND list = Child(panes, L"ListBox", L"", LBS_NOINTEGRALHEIGHT | WS_VSCROLL, 0, 0, 120, 108);
     for (const wchar_t *row : {L"Accounts", L"Customers", L"Invoices", L"Orders", L"Products", L"Suppliers"})
         SendMessageW(list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(row));
     SendMessageW(list, LB_SETCURSEL, 2, 0);
-    HWND text = Child(panes, L"Edit", L"The bar between the two panes moves when it is dragged; on release "
-                                      L"both panes are resized to fill the frame on either side of it.",
+    HWND text = Child(panes, L"Edit",
+                      L"The bar between the two panes moves when it is dragged; on release "
+                      L"both panes are resized to fill the frame on either side of it.",
                       ES_MULTILINE | ES_READONLY, 126, 0, 302, 108);
     for (HWND w : {list, text})
         SendMessageW(w, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);

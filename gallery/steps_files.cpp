@@ -45,8 +45,7 @@ void RunFileSteps(Report &report) {
     const std::wstring dir = std::wstring(temp) + L"zkgallery_files_" + std::to_wstring(GetCurrentProcessId());
     const std::wstring copies = dir + L"\\copies";
     const std::wstring source = dir + L"\\notes.txt", target = copies + L"\\notes.bak";
-    if (!CreateDirectoryW(dir.c_str(), nullptr) || !CreateDirectoryW(copies.c_str(), nullptr) ||
-        !WriteSample(source)) {
+    if (!CreateDirectoryW(dir.c_str(), nullptr) || !CreateDirectoryW(copies.c_str(), nullptr) || !WriteSample(source)) {
         report.Check(L"temporary folder", dir, false, L"a folder with notes.txt");
     } else {
         report.Note(L"in " + dir);

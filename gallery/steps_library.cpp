@@ -41,8 +41,7 @@ void RunLibrarySteps(Report &report) {
     const int expected = LOBYTE(LOWORD(platform)) + HIBYTE(LOWORD(platform)) / 10;
     wchar_t shown[32];
     swprintf(shown, 32, L"%g", value);
-    report.Check(L"ZelGetWinVersion()", shown, value == expected,
-                 std::to_wstring(expected));
+    report.Check(L"ZelGetWinVersion()", shown, value == expected, std::to_wstring(expected));
 
     report.Number(L"ZelGetWinFlags()", ZelGetWinFlags(), 0);
 }

@@ -2,8 +2,8 @@
 // splitter's pattern and cursors), and adopted lists that show rows with
 // colours, fonts, pictures, tabs and a disabled row.
 #include "artpanel.h"
-#include "form.h"
 #include "capture.h"
+#include "form.h"
 #include "pictures.h"
 #include "report.h"
 #include "steps.h"
@@ -16,15 +16,14 @@ namespace gallery {
 namespace {
 
 const wchar_t *const kRowPictures[] = {
-    L"BKCLOSED", L"BKOPEN",   L"BKSHELF2", L"BKSHELF3", L"CHKBLK",   L"CHKBXOFF", L"CHKBXON",  L"CHKWHT",
-    L"CKBXOFF2", L"CKBXON2",  L"DESKTOP",  L"DIABLKC",  L"DIABLKO",  L"DIAWHTC",  L"DIAWHTO",  L"DRVCD",
-    L"DRVCD2",   L"DRVCD3",   L"DRVFLOP2", L"DRVFLOPY", L"DRVHARD",  L"DRVHARD2", L"DRVNET",   L"DRVNET2",
-    L"DRVNETX",  L"DRVRAM",   L"DRVRAM2",  L"EMPTY",    L"FDR",      L"FDRCUR",   L"FDRCURM",  L"FDRCURP",
-    L"FDRMNUS",  L"FDROPEN",  L"FDRPLUS",  L"FILEALL",  L"FILEDOC",  L"FILEPROG", L"FILESYS",  L"FLDR",
-    L"FLDR2",    L"FLDRCUR",  L"FLDRCUR2", L"FLDRCURM", L"FLDRCURP", L"FLDRMNUS", L"FLDROPEN", L"FLDROPN2",
-    L"FLDRPLUS", L"FONPRTR",  L"FONTRTYP", L"MINUSDK",  L"MINUSLT",  L"MINUSWHT", L"MYCOMP",   L"NETNEIGH",
-    L"PLUSDK",   L"PLUSLT",   L"PLUSWHT",  L"PREVDIR",  L"RADIOOFF", L"RADIOON",  L"RADOFF2",  L"RADON2",
-    L"TBLDEL",   L"TBLEDIT",  L"TBLNEW"};
+    L"BKCLOSED", L"BKOPEN",   L"BKSHELF2", L"BKSHELF3", L"CHKBLK",  L"CHKBXOFF", L"CHKBXON",  L"CHKWHT",   L"CKBXOFF2",
+    L"CKBXON2",  L"DESKTOP",  L"DIABLKC",  L"DIABLKO",  L"DIAWHTC", L"DIAWHTO",  L"DRVCD",    L"DRVCD2",   L"DRVCD3",
+    L"DRVFLOP2", L"DRVFLOPY", L"DRVHARD",  L"DRVHARD2", L"DRVNET",  L"DRVNET2",  L"DRVNETX",  L"DRVRAM",   L"DRVRAM2",
+    L"EMPTY",    L"FDR",      L"FDRCUR",   L"FDRCURM",  L"FDRCURP", L"FDRMNUS",  L"FDROPEN",  L"FDRPLUS",  L"FILEALL",
+    L"FILEDOC",  L"FILEPROG", L"FILESYS",  L"FLDR",     L"FLDR2",   L"FLDRCUR",  L"FLDRCUR2", L"FLDRCURM", L"FLDRCURP",
+    L"FLDRMNUS", L"FLDROPEN", L"FLDROPN2", L"FLDRPLUS", L"FONPRTR", L"FONTRTYP", L"MINUSDK",  L"MINUSLT",  L"MINUSWHT",
+    L"MYCOMP",   L"NETNEIGH", L"PLUSDK",   L"PLUSLT",   L"PLUSWHT", L"PREVDIR",  L"RADIOOFF", L"RADIOON",  L"RADOFF2",
+    L"RADON2",   L"TBLDEL",   L"TBLEDIT",  L"TBLNEW"};
 constexpr int kRowPictureCount = static_cast<int>(sizeof(kRowPictures) / sizeof(kRowPictures[0]));
 
 // A copy of a bitmap on a background, its top-left colour made transparent
@@ -102,12 +101,11 @@ void RunOutlineArtSteps(Report &report, Form &form, ArtPanel &panel) {
     for (const wchar_t *name : kRowPictures) {
         HBITMAP bitmap = library ? LoadBitmapW(library, name) : nullptr;
         BITMAP info{};
-        const bool ok = bitmap && GetObjectW(bitmap, sizeof(info), &info) && info.bmWidth == 16 &&
-                        info.bmHeight == 16;
+        const bool ok = bitmap && GetObjectW(bitmap, sizeof(info), &info) && info.bmWidth == 16 && info.bmHeight == 16;
         found += ok ? 1 : 0;
         report.LogCheck(std::wstring(L"LoadBitmapW(ZKLIB, \"") + name + L"\")",
-                        bitmap ? std::to_wstring(info.bmWidth) + L"x" + std::to_wstring(info.bmHeight) : L"missing",
-                        ok, L"16x16");
+                        bitmap ? std::to_wstring(info.bmWidth) + L"x" + std::to_wstring(info.bmHeight) : L"missing", ok,
+                        L"16x16");
         // The library's own loader, as the populate functions call it.
         const ZelPicHandle pic = ZelPicLoad(0x8201, L"ZKLIB.dll", name);
         loaded += pic ? 1 : 0;
@@ -146,12 +144,11 @@ void RunOutlineListSteps(Report &report, Form &form, Pictures &pictures) {
     const int half = (area.right - area.left - 8) / 2;
     HINSTANCE instance = GetModuleHandleW(nullptr);
     HWND list = CreateWindowExW(WS_EX_CLIENTEDGE, L"LISTBOX", L"",
-                                WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE,
-                                area.left, area.top, half, 190, form.Window(), nullptr, instance, nullptr);
+                                WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE, area.left,
+                                area.top, half, 190, form.Window(), nullptr, instance, nullptr);
     HWND combo = CreateWindowExW(0, L"COMBOBOX", L"",
                                  WS_CHILD | WS_VISIBLE | WS_VSCROLL | CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE,
-                                 area.left + half + 8, area.top, half, 160, form.Window(), nullptr, instance,
-                                 nullptr);
+                                 area.left + half + 8, area.top, half, 160, form.Window(), nullptr, instance, nullptr);
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
     SendMessageW(combo, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
     report.Number(L"ZelListSetStyle(list, OwnerDraw)", ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr), 1);

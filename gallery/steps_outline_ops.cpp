@@ -83,9 +83,8 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures) {
     report.Section(L"Outline operations");
     const RECT area = form.Reserve(170);
     HWND list = CreateWindowExW(WS_EX_CLIENTEDGE, L"LISTBOX", L"",
-                                WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE,
-                                area.left, area.top, 260, 170, form.Window(), nullptr, GetModuleHandleW(nullptr),
-                                nullptr);
+                                WS_CHILD | WS_VISIBLE | WS_VSCROLL | LBS_NOTIFY | LBS_OWNERDRAWVARIABLE, area.left,
+                                area.top, 260, 170, form.Window(), nullptr, GetModuleHandleW(nullptr), nullptr);
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(form.Font()), FALSE);
     report.Number(L"ZelListSetStyle(list, LBX_StyleOutline)", ZelListSetStyle(list, LBX_StyleOutline, nullptr), 1);
     Scene scene(report, pictures, list);
@@ -120,8 +119,7 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures) {
     scene.State(L"3-collapsed", L"Projects/0 | Alpha/1 | Beta/1 | gamma.txt/1 | Archive/0 | readme.txt/0");
 
     // Beta takes the open folder as it gains its first child.
-    report.Number(L"ZelListDemote(list, 3) gamma.txt", ZelListDemote(list, 3, pic.folderOpen, pic.folderOpen),
-                  1);
+    report.Number(L"ZelListDemote(list, 3) gamma.txt", ZelListDemote(list, 3, pic.folderOpen, pic.folderOpen), 1);
     scene.State(L"4-demoted", L"Projects/0 | Alpha/1 | Beta/1 | gamma.txt/2 | Archive/0 | readme.txt/0");
 
     // Left without children, Beta goes back to the closed folder.
@@ -130,8 +128,7 @@ void RunOutlineOpsSteps(Report &report, Form &form, Pictures &pictures) {
 
     report.Number(L"ZelListDragDrop(readme.txt onto Archive, as child)",
                   ZelListDragDrop(list, 5, list, 4, LBX_DropAsChild), 1);
-    scene.State(L"6-dragged",
-                L"Projects/0 | Alpha/1 | Beta/1 | gamma.txt/1 | Archive/0 | 2023/1 | readme.txt/1");
+    scene.State(L"6-dragged", L"Projects/0 | Alpha/1 | Beta/1 | gamma.txt/1 | Archive/0 | 2023/1 | readme.txt/1");
 }
 
 } // namespace gallery

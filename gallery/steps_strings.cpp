@@ -54,12 +54,10 @@ void Padding(Report &report) {
 }
 
 void Words(Report &report) {
-    Expect(report, L"ZelStrProper(\"o'brien macdonald\")", ZelStrProper(L"o'brien macdonald"),
-           L"O'Brien MacDonald");
-    Expect(report, L"ZelStrSubstitute(\"a cat sat\", \"at\", \"og\")",
-           ZelStrSubstitute(L"a cat sat", L"at", L"og"), L"a cog sog");
-    Expect(report, L"ZelStrSubstitute(\"aaa\", \"aa\", \"b\")", ZelStrSubstitute(L"aaa", L"aa", L"b"),
-           L"ba");
+    Expect(report, L"ZelStrProper(\"o'brien macdonald\")", ZelStrProper(L"o'brien macdonald"), L"O'Brien MacDonald");
+    Expect(report, L"ZelStrSubstitute(\"a cat sat\", \"at\", \"og\")", ZelStrSubstitute(L"a cat sat", L"at", L"og"),
+           L"a cog sog");
+    Expect(report, L"ZelStrSubstitute(\"aaa\", \"aa\", \"b\")", ZelStrSubstitute(L"aaa", L"aa", L"b"), L"ba");
 }
 
 void ReverseScan(Report &report) {
@@ -75,17 +73,15 @@ void Choosing(Report &report) {
     // The chosen handle comes back with a reference of its own.
     const bool same = chosen.Get() == first.Get();
     const int32_t refs = ZkHostStrRefs(first.Get());
-    report.Check(L"ZelStrChoose(1, \"first\", \"second\")",
-                 Quote(chosen.Text()) + L", refs " + std::to_wstring(refs),
+    report.Check(L"ZelStrChoose(1, \"first\", \"second\")", Quote(chosen.Text()) + L", refs " + std::to_wstring(refs),
                  same && refs == 2 && ZkHostStrRefs(second.Get()) == 1, L"\"first\", refs 2");
 }
 
 void Expanding(Report &report) {
     const HostArray colours = StringArray({L"red", L"green", L"blue"});
-    Expect(report, L"ZelStrExpand(\"{[%,s]}\", colours)", ZelStrExpand(L"{[%,s]}", colours),
-           L"[red],[green],[blue]");
-    Expect(report, L"ZelStrExpand(\"%s and %s, 100%%\", colours)",
-           ZelStrExpand(L"%s and %s, 100%%", colours), L"red and green, 100%");
+    Expect(report, L"ZelStrExpand(\"{[%,s]}\", colours)", ZelStrExpand(L"{[%,s]}", colours), L"[red],[green],[blue]");
+    Expect(report, L"ZelStrExpand(\"%s and %s, 100%%\", colours)", ZelStrExpand(L"%s and %s, 100%%", colours),
+           L"red and green, 100%");
     HostArrayDestroy(colours);
 
     const HostArray numbers = NumberArray({1, 2});

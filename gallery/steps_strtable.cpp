@@ -37,13 +37,13 @@ public:
     // Writes bytes as a file of the folder; its full path, or empty.
     std::wstring Write(const std::wstring &name, const std::string &bytes) {
         const std::wstring file = path_ + L"\\" + name;
-        const HANDLE h = CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL,
-                                     nullptr);
+        const HANDLE h =
+            CreateFileW(file.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
         if (h == INVALID_HANDLE_VALUE)
             return {};
         DWORD written = 0;
-        const bool ok = WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) &&
-                        written == bytes.size();
+        const bool ok =
+            WriteFile(h, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr) && written == bytes.size();
         CloseHandle(h);
         files_.push_back(file);
         return ok ? file : std::wstring();
@@ -109,8 +109,7 @@ void ArraySort(Report &report) {
     report.Note(L"array before sorting: " + Joined(names));
     report.Number(L"ZelArraySort(names, ascending)", ZelArraySort(names, ZEL_SORT_ASCENDING, HOST_TYPE_STRING), 5);
     report.Text(L"sorted ascending", Joined(names), L"Apple, apple, Banana, fig, pear");
-    report.Number(L"ZelArraySort(names, descending)", ZelArraySort(names, ZEL_SORT_DESCENDING, HOST_TYPE_STRING),
-                  5);
+    report.Number(L"ZelArraySort(names, descending)", ZelArraySort(names, ZEL_SORT_DESCENDING, HOST_TYPE_STRING), 5);
     report.Text(L"sorted descending", Joined(names), L"pear, fig, Banana, Apple, apple");
     report.Number(L"ZelArrayFindString(names, \"BANANA\")", ZelArrayFindString(names, L"BANANA"), 3);
     HostArrayDestroy(names);

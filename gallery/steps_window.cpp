@@ -26,9 +26,9 @@ struct OrderForm {
 };
 
 HWND Child(HWND parent, const wchar_t *cls, const wchar_t *text, DWORD style, int x, int y, int w, int h, int id) {
-    HWND child = CreateWindowExW(cls[0] == L'E' ? WS_EX_CLIENTEDGE : 0, cls, text, WS_CHILD | WS_VISIBLE | style, x, y,
-                                 w, h, parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                 GetModuleHandleW(nullptr), nullptr);
+    HWND child =
+        CreateWindowExW(cls[0] == L'E' ? WS_EX_CLIENTEDGE : 0, cls, text, WS_CHILD | WS_VISIBLE | style, x, y, w, h,
+                        parent, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     SendMessageW(child, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 0);
     return child;
 }
@@ -41,8 +41,8 @@ OrderForm MakeOrderForm() {
     wc.lpszClassName = L"ZkGalleryOrderForm";
     RegisterClassW(&wc);
     OrderForm f;
-    f.window = CreateWindowExW(0, wc.lpszClassName, L"Order entry", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 60,
-                               60, 330, 210, nullptr, nullptr, wc.hInstance, nullptr);
+    f.window = CreateWindowExW(0, wc.lpszClassName, L"Order entry", WS_OVERLAPPED | WS_CAPTION | WS_SYSMENU, 60, 60,
+                               330, 210, nullptr, nullptr, wc.hInstance, nullptr);
     Child(f.window, L"Static", L"Customer *", 0, 12, 16, 80, 16, 0);
     f.customer = Child(f.window, L"Edit", L"", ES_AUTOHSCROLL | WS_TABSTOP, 96, 12, 210, 22, 1);
     Child(f.window, L"Static", L"Product *", 0, 12, 46, 80, 16, 0);
@@ -147,10 +147,9 @@ void RunMessageBoxSteps(Report &report, Pictures &pictures) {
     answer.button = 3; // the first place: Save
     boxAnswer = &answer;
     const UINT_PTR timer = SetTimer(nullptr, 0, 20, AnswerBox);
-    const int32_t result =
-        ZelMessageBox(L"The order for Hollis & Daughters has changes that are not saved yet.\n\n"
-                      L"Save them before the form closes?",
-                      L"Order entry", icon, row, 3);
+    const int32_t result = ZelMessageBox(L"The order for Hollis & Daughters has changes that are not saved yet.\n\n"
+                                         L"Save them before the form closes?",
+                                         L"Order entry", icon, row, 3);
     KillTimer(nullptr, timer);
     boxAnswer = nullptr;
     ZelMessageSetBkgdColor(0x00FFFFFF);

@@ -17,8 +17,8 @@ public:
     explicit Cursor(std::u16string_view text) : text_(text) {}
 
     size_t position() const { return pos_; }
-    bool atEnd() const { return pos_ == text_.size(); }
-    char16_t peek() const { return atEnd() ? u'\0' : text_[pos_]; }
+    bool AtEnd() const { return pos_ == text_.size(); }
+    char16_t peek() const { return AtEnd() ? u'\0' : text_[pos_]; }
 
     bool eat(char16_t c) {
         if (peek() != c)
@@ -63,7 +63,7 @@ public:
         pos_ += expected.size();
         return true;
     }
-    bool letterFollows() const {
+    bool LetterFollows() const {
         const char16_t c = lower(peek());
         return c >= u'a' && c <= u'z';
     }
@@ -88,7 +88,7 @@ bool fraction(Cursor &c, int &micros) {
 }
 
 // h[h]:mm[:ss[.ffffff]] [AM|PM]
-bool colonTime(Cursor &c, Fields &f) {
+bool ColonTime(Cursor &c, Fields &f) {
     if (!c.number(1, 2, f.hour) || !c.eat(u':') || !c.number(2, 2, f.minute))
         return false;
     if (c.eat(u':')) {
@@ -101,7 +101,7 @@ bool colonTime(Cursor &c, Fields &f) {
     probe.spaces();
     const bool am = probe.word(u"AM"), pm = !am && probe.word(u"PM");
     if (am || pm) {
-        if (probe.letterFollows() || f.hour < 1 || f.hour > 12)
+        if (probe.LetterFollows() || f.hour < 1 || f.hour > 12)
             return false;
         f.hour = f.hour % 12 + (pm ? 12 : 0);
         c = probe;
@@ -110,24 +110,23 @@ bool colonTime(Cursor &c, Fields &f) {
 }
 
 // Nothing more, or spaces and a colon time.
-bool optionalTimeToEnd(Cursor &c, Fields &f) {
-    if (c.atEnd())
+bool OptionalTimeToEnd(Cursor &c, Fields &f) {
+    if (c.AtEnd())
         return true;
-    return c.spaces() && colonTime(c, f) && c.atEnd();
+    return c.spaces() && ColonTime(c, f) && c.AtEnd();
 }
 
 // yyyy-MM-dd, then nothing, "-hh.mm.ss[.ffffff]", or a space or T and a colon time.
-bool isoDate(Cursor c, Fields &f) {
+bool IsoDate(Cursor c, Fields &f) {
     const bool negative = c.eat(u'-');
     int64_t year = 0;
-    if (!c.number(4, 10, year) || !c.eat(u'-') || !c.number(1, 2, f.month) || !c.eat(u'-') ||
-        !c.number(1, 2, f.day))
+    if (!c.number(4, 10, year) || !c.eat(u'-') || !c.number(1, 2, f.month) || !c.eat(u'-') || !c.number(1, 2, f.day))
         return false;
     year = negative ? -year : year;
     if (year < INT_MIN || year > INT_MAX)
         return false;
     f.year = static_cast<int>(year);
-    if (c.atEnd())
+    if (c.AtEnd())
         return true;
     if (c.eat(u'-')) {
         if (!c.number(2, 2, f.hour) || !c.eat(u'.') || !c.number(2, 2, f.minute) || !c.eat(u'.') ||
@@ -135,26 +134,26 @@ bool isoDate(Cursor c, Fields &f) {
             return false;
         if (c.eat(u'.') && !fraction(c, f.microsecond))
             return false;
-        return c.atEnd() && f.hour <= 23;
+        return c.AtEnd() && f.hour <= 23;
     }
     if (!c.eat(u'T') && !c.spaces())
         return false;
-    return colonTime(c, f) && c.atEnd();
+    return ColonTime(c, f) && c.AtEnd();
 }
 
 // MM/dd/yyyy [time]
-bool usDate(Cursor c, Fields &f) {
-    return c.number(1, 2, f.month) && c.eat(u'/') && c.number(1, 2, f.day) && c.eat(u'/') &&
-           c.number(4, 4, f.year) && optionalTimeToEnd(c, f);
+bool UsDate(Cursor c, Fields &f) {
+    return c.number(1, 2, f.month) && c.eat(u'/') && c.number(1, 2, f.day) && c.eat(u'/') && c.number(4, 4, f.year) &&
+           OptionalTimeToEnd(c, f);
 }
 
 // A month by its English name or its first three letters.
-bool monthWord(Cursor &c, int &month) {
+bool MonthWord(Cursor &c, int &month) {
     for (int m = 1; m <= 12; ++m) {
-        const std::u16string_view name = detail::monthName(m);
+        const std::u16string_view name = detail::MonthName(m);
         for (const std::u16string_view form : {name, name.substr(0, 3)}) {
             Cursor probe = c;
-            if (probe.word(form) && !probe.letterFollows()) {
+            if (probe.word(form) && !probe.LetterFollows()) {
                 c = probe;
                 month = m;
                 return true;
@@ -165,28 +164,27 @@ bool monthWord(Cursor &c, int &month) {
 }
 
 // d MMMM yyyy [time]
-bool dayMonthYear(Cursor c, Fields &f) {
-    return c.number(1, 2, f.day) && c.spaces() && monthWord(c, f.month) && c.spaces() &&
-           c.number(4, 4, f.year) && optionalTimeToEnd(c, f);
+bool DayMonthYear(Cursor c, Fields &f) {
+    return c.number(1, 2, f.day) && c.spaces() && MonthWord(c, f.month) && c.spaces() && c.number(4, 4, f.year) &&
+           OptionalTimeToEnd(c, f);
 }
 
 // MMMM d, yyyy [time]
-bool monthDayYear(Cursor c, Fields &f) {
-    if (!monthWord(c, f.month) || !c.spaces() || !c.number(1, 2, f.day))
+bool MonthDayYear(Cursor c, Fields &f) {
+    if (!MonthWord(c, f.month) || !c.spaces() || !c.number(1, 2, f.day))
         return false;
     c.spaces();
     const bool comma = c.eat(u',');
     if (!c.spaces() && !comma)
         return false;
-    return c.number(4, 4, f.year) && optionalTimeToEnd(c, f);
+    return c.number(4, 4, f.year) && OptionalTimeToEnd(c, f);
 }
 
-bool timeAlone(Cursor c, Fields &f) { return colonTime(c, f) && c.atEnd(); }
+bool TimeAlone(Cursor c, Fields &f) { return ColonTime(c, f) && c.AtEnd(); }
 
 bool valid(const Fields &f) {
-    return f.month >= 1 && f.month <= 12 && f.day >= 1 && f.day <= daysInMonth(f.year, f.month) &&
-           f.hour >= 0 && f.hour <= 23 && f.minute >= 0 && f.minute <= 59 && f.second >= 0 &&
-           f.second <= 59;
+    return f.month >= 1 && f.month <= 12 && f.day >= 1 && f.day <= DaysInMonth(f.year, f.month) && f.hour >= 0 &&
+           f.hour <= 23 && f.minute >= 0 && f.minute <= 59 && f.second >= 0 && f.second <= 59;
 }
 
 std::u16string_view trimmed(std::u16string_view text) {
@@ -200,17 +198,17 @@ std::u16string_view trimmed(std::u16string_view text) {
 
 } // namespace
 
-bool dateParse(std::u16string_view text, HostDateTime &out) {
+bool DateParse(std::u16string_view text, HostDateTime &out) {
     out = HostDateTime{};
     const Cursor start(trimmed(text));
     using Form = bool (*)(Cursor, Fields &);
-    for (const Form form : {isoDate, usDate, dayMonthYear, monthDayYear, timeAlone}) {
+    for (const Form form : {IsoDate, UsDate, DayMonthYear, MonthDayYear, TimeAlone}) {
         Fields f;
         if (form(start, f)) {
             if (!valid(f))
                 return false;
-            out = dateFromParts(f.year, f.month, f.day, f.hour, f.minute, f.second, f.microsecond);
-            return !dateIsNull(out);
+            out = DateFromParts(f.year, f.month, f.day, f.hour, f.minute, f.second, f.microsecond);
+            return !DateIsNull(out);
         }
     }
     return false;

@@ -61,7 +61,7 @@ struct Tokenized {
     int tokenCount = 0;
 };
 
-bool isAsciiLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
+bool IsAsciiLetter(char16_t c) { return (c >= u'a' && c <= u'z') || (c >= u'A' && c <= u'Z'); }
 
 Tokenized tokenize(std::u16string_view picture) {
     Tokenized result;
@@ -79,7 +79,7 @@ Tokenized tokenize(std::u16string_view picture) {
             i = close + 1;
             continue;
         }
-        if (isAsciiLetter(c)) {
+        if (IsAsciiLetter(c)) {
             const TokenText *match = nullptr;
             for (const TokenText &t : kTokens) {
                 if (picture.substr(i, t.text.size()) == t.text) {
@@ -98,7 +98,7 @@ Tokenized tokenize(std::u16string_view picture) {
         }
         // A run of plain characters is one literal piece.
         size_t end = i + 1;
-        while (end < picture.size() && picture[end] != u'"' && !isAsciiLetter(picture[end]))
+        while (end < picture.size() && picture[end] != u'"' && !IsAsciiLetter(picture[end]))
             ++end;
         result.pieces.push_back({false, Token::Year4, picture.substr(i, end - i)});
         i = end;
@@ -106,11 +106,10 @@ Tokenized tokenize(std::u16string_view picture) {
     return result;
 }
 
-void appendNumber(std::u16string &out, int64_t value, int width) {
+void AppendNumber(std::u16string &out, int64_t value, int width) {
     if (value < 0)
         out += u'-';
-    uint64_t magnitude =
-        value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
+    uint64_t magnitude = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     char16_t digits[24];
     int n = 0;
     do {
@@ -123,49 +122,83 @@ void appendNumber(std::u16string &out, int64_t value, int width) {
         out += digits[--n];
 }
 
-int twelveHourOf(int hour) { return hour % 12 == 0 ? 12 : hour % 12; }
+int TwelveHourOf(int hour) { return hour % 12 == 0 ? 12 : hour % 12; }
 
-void appendToken(std::u16string &out, Token token, const DateParts &p, bool twelveHour) {
-    const int hour = twelveHour ? twelveHourOf(p.hour) : p.hour;
+void AppendToken(std::u16string &out, Token token, const DateParts &p, bool twelveHour) {
+    const int hour = twelveHour ? TwelveHourOf(p.hour) : p.hour;
     switch (token) {
-    case Token::Year4: appendNumber(out, p.year, 4); break;
-    case Token::Year2: appendNumber(out, std::abs(static_cast<int64_t>(p.year)) % 100, 2); break;
-    case Token::MonthName: out += detail::monthName(p.month); break;
-    case Token::MonthAbbrev: out += detail::monthName(p.month).substr(0, 3); break;
-    case Token::Month2: appendNumber(out, p.month, 2); break;
-    case Token::Month1: appendNumber(out, p.month, 1); break;
-    case Token::WeekdayName: out += detail::weekdayName(p.weekday); break;
-    case Token::WeekdayAbbrev: out += detail::weekdayName(p.weekday).substr(0, 3); break;
-    case Token::Day2: appendNumber(out, p.day, 2); break;
-    case Token::Day1: appendNumber(out, p.day, 1); break;
-    case Token::Hour2: appendNumber(out, hour, 2); break;
-    case Token::Hour1: appendNumber(out, hour, 1); break;
-    case Token::Hour24: appendNumber(out, p.hour, 2); break;
-    case Token::Minute: appendNumber(out, p.minute, 2); break;
-    case Token::Second: appendNumber(out, p.second, 2); break;
-    case Token::Micros: appendNumber(out, p.microsecond, 6); break;
-    case Token::AmPm: out += p.hour < 12 ? u"AM" : u"PM"; break;
+    case Token::Year4:
+        AppendNumber(out, p.year, 4);
+        break;
+    case Token::Year2:
+        AppendNumber(out, std::abs(static_cast<int64_t>(p.year)) % 100, 2);
+        break;
+    case Token::MonthName:
+        out += detail::MonthName(p.month);
+        break;
+    case Token::MonthAbbrev:
+        out += detail::MonthName(p.month).substr(0, 3);
+        break;
+    case Token::Month2:
+        AppendNumber(out, p.month, 2);
+        break;
+    case Token::Month1:
+        AppendNumber(out, p.month, 1);
+        break;
+    case Token::WeekdayName:
+        out += detail::WeekdayName(p.weekday);
+        break;
+    case Token::WeekdayAbbrev:
+        out += detail::WeekdayName(p.weekday).substr(0, 3);
+        break;
+    case Token::Day2:
+        AppendNumber(out, p.day, 2);
+        break;
+    case Token::Day1:
+        AppendNumber(out, p.day, 1);
+        break;
+    case Token::Hour2:
+        AppendNumber(out, hour, 2);
+        break;
+    case Token::Hour1:
+        AppendNumber(out, hour, 1);
+        break;
+    case Token::Hour24:
+        AppendNumber(out, p.hour, 2);
+        break;
+    case Token::Minute:
+        AppendNumber(out, p.minute, 2);
+        break;
+    case Token::Second:
+        AppendNumber(out, p.second, 2);
+        break;
+    case Token::Micros:
+        AppendNumber(out, p.microsecond, 6);
+        break;
+    case Token::AmPm:
+        out += p.hour < 12 ? u"AM" : u"PM";
+        break;
     }
 }
 
 } // namespace
 
-std::u16string dateFormat(const HostDateTime &d, std::u16string_view picture) {
+std::u16string DateFormat(const HostDateTime &d, std::u16string_view picture) {
     DateParts parts;
-    if (!detail::datePartsOf(d, parts))
+    if (!detail::DatePartsOf(d, parts))
         return {};
     const Tokenized t = tokenize(picture);
     std::u16string out;
     for (const Piece &piece : t.pieces) {
         if (piece.isToken)
-            appendToken(out, piece.token, parts, t.twelveHour);
+            AppendToken(out, piece.token, parts, t.twelveHour);
         else
             out += piece.text;
     }
     return out;
 }
 
-bool pictureIsValid(std::u16string_view picture) {
+bool PictureIsValid(std::u16string_view picture) {
     const Tokenized t = tokenize(picture);
     return t.valid && t.tokenCount > 0;
 }

@@ -15,20 +15,20 @@ constexpr int kLengthMask = 0x0F;
 // rounding digit, after at most ten leading zeros.
 constexpr int kFractionDigits = 40;
 
-int64_t floorDiv(int64_t a, int64_t b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
-int64_t floorMod(int64_t a, int64_t b) { return a - floorDiv(a, b) * b; }
+int64_t FloorDiv(int64_t a, int64_t b) { return a / b - ((a % b != 0) && ((a < 0) != (b < 0))); }
+int64_t FloorMod(int64_t a, int64_t b) { return a - FloorDiv(a, b) * b; }
 
 // The days whose year fits an int.
-int64_t firstDay() {
-    static const int64_t day = daysFromCivil(INT_MIN, 1, 1);
+int64_t FirstDay() {
+    static const int64_t day = DaysFromCivil(INT_MIN, 1, 1);
     return day;
 }
-int64_t lastDay() {
-    static const int64_t day = daysFromCivil(INT_MAX, 12, 31);
+int64_t LastDay() {
+    static const int64_t day = DaysFromCivil(INT_MAX, 12, 31);
     return day;
 }
 
-int appendDigits(uint64_t value, uint8_t *out) {
+int AppendDigits(uint64_t value, uint8_t *out) {
     uint8_t reversed[20];
     int n = 0;
     while (value != 0) {
@@ -42,8 +42,8 @@ int appendDigits(uint64_t value, uint8_t *out) {
 
 } // namespace
 
-HostDateTime dateFromDayMicros(int64_t days, int64_t micros) {
-    if (days < firstDay() || days > lastDay() || micros < 0 || micros >= kMicrosPerDay)
+HostDateTime DateFromDayMicros(int64_t days, int64_t micros) {
+    if (days < FirstDay() || days > LastDay() || micros < 0 || micros >= kMicrosPerDay)
         return HostDateTime{};
     // Magnitude whole + part / kMicrosPerDay: before day 0 the fraction counts
     // back from the next whole day.
@@ -55,17 +55,17 @@ HostDateTime dateFromDayMicros(int64_t days, int64_t micros) {
         part = kMicrosPerDay - micros;
     }
     uint8_t digits[20 + kFractionDigits];
-    const int wholeDigits = appendDigits(whole, digits);
+    const int wholeDigits = AppendDigits(whole, digits);
     int count = wholeDigits;
     for (int i = 0; i < kFractionDigits; ++i) {
         part *= 10;
         digits[count++] = static_cast<uint8_t>(part / kMicrosPerDay);
         part %= kMicrosPerDay;
     }
-    return makeNumber(negative, wholeDigits, digits, count);
+    return MakeNumber(negative, wholeDigits, digits, count);
 }
 
-bool dateToDayMicros(const HostDateTime &d, int64_t &days, int64_t &micros) {
+bool DateToDayMicros(const HostDateTime &d, int64_t &days, int64_t &micros) {
     days = micros = 0;
     Decimal v;
     if (!decode(d.digits, d.length & kLengthMask, v))
@@ -97,54 +97,52 @@ bool dateToDayMicros(const HostDateTime &d, int64_t &days, int64_t &micros) {
     const int64_t rounded = carry + (roundingDigit >= 5);
     days = v.negative ? -whole : whole;
     micros = v.negative ? -rounded : rounded;
-    days += floorDiv(micros, kMicrosPerDay);
-    micros = floorMod(micros, kMicrosPerDay);
-    if (days < firstDay() || days > lastDay()) {
+    days += FloorDiv(micros, kMicrosPerDay);
+    micros = FloorMod(micros, kMicrosPerDay);
+    if (days < FirstDay() || days > LastDay()) {
         days = micros = 0;
         return false;
     }
     return true;
 }
 
-bool datePartsOf(const HostDateTime &d, DateParts &parts) {
+bool DatePartsOf(const HostDateTime &d, DateParts &parts) {
     parts = DateParts{};
     int64_t days = 0, micros = 0;
-    if (dateIsNull(d) || !dateToDayMicros(d, days, micros))
+    if (DateIsNull(d) || !DateToDayMicros(d, days, micros))
         return false;
     int64_t year = 0;
-    civilFromDays(days, year, parts.month, parts.day);
+    CivilFromDays(days, year, parts.month, parts.day);
     parts.year = static_cast<int>(year);
     parts.hour = static_cast<int>(micros / 3600000000);
     parts.minute = static_cast<int>(micros / 60000000 % 60);
     parts.second = static_cast<int>(micros / 1000000 % 60);
     parts.microsecond = static_cast<int>(micros % 1000000);
-    parts.weekday = static_cast<int>(floorMod(days, 7)); // day 0 was a Saturday
+    parts.weekday = static_cast<int>(FloorMod(days, 7)); // day 0 was a Saturday
     return true;
 }
 
 } // namespace detail
 
-bool dateIsNull(const HostDateTime &d) { return (d.length & 0x0F) == 0; }
+bool DateIsNull(const HostDateTime &d) { return (d.length & 0x0F) == 0; }
 
-HostDateTime dateFromParts(int year, int month, int day, int hour, int minute, int second,
-                           int microsecond) {
+HostDateTime DateFromParts(int year, int month, int day, int hour, int minute, int second, int microsecond) {
     using detail::kMicrosPerDay;
     const int64_t monthIndex = static_cast<int64_t>(month) - 1;
-    const int64_t fullYear = year + detail::floorDiv(monthIndex, 12);
-    const int normalMonth = static_cast<int>(detail::floorMod(monthIndex, 12)) + 1;
+    const int64_t fullYear = year + detail::FloorDiv(monthIndex, 12);
+    const int normalMonth = static_cast<int>(detail::FloorMod(monthIndex, 12)) + 1;
     // Each product stays below 2^63 even for extreme ints, and so does the sum.
-    const int64_t micros = hour * int64_t{3600000000} + minute * int64_t{60000000} +
-                           second * int64_t{1000000} + microsecond;
+    const int64_t micros =
+        hour * int64_t{3600000000} + minute * int64_t{60000000} + second * int64_t{1000000} + microsecond;
     if (fullYear < INT_MIN - int64_t{1} || fullYear > INT_MAX + int64_t{1})
         return HostDateTime{};
-    const int64_t days =
-        detail::daysFromCivil(fullYear, normalMonth, day) + detail::floorDiv(micros, kMicrosPerDay);
-    return detail::dateFromDayMicros(days, detail::floorMod(micros, kMicrosPerDay));
+    const int64_t days = detail::DaysFromCivil(fullYear, normalMonth, day) + detail::FloorDiv(micros, kMicrosPerDay);
+    return detail::DateFromDayMicros(days, detail::FloorMod(micros, kMicrosPerDay));
 }
 
-DateParts dateToParts(const HostDateTime &d) {
+DateParts DateToParts(const HostDateTime &d) {
     DateParts parts;
-    detail::datePartsOf(d, parts);
+    detail::DatePartsOf(d, parts);
     return parts;
 }
 

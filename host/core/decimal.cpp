@@ -98,13 +98,13 @@ int encode(const Decimal &value, uint8_t *out) {
     return encode(value.negative, value.exponent, value.d, value.count, out);
 }
 
-HostNumber makeNumber(bool negative, int exponent, const uint8_t *digits, int count) {
+HostNumber MakeNumber(bool negative, int exponent, const uint8_t *digits, int count) {
     HostNumber n{};
     n.length = static_cast<uint8_t>(encode(negative, exponent, digits, count, n.digits));
     return n;
 }
 
-int compareMagnitude(const Decimal &a, const Decimal &b) {
+int CompareMagnitude(const Decimal &a, const Decimal &b) {
     if (a.count == 0 || b.count == 0)
         return (a.count != 0) - (b.count != 0);
     if (a.exponent != b.exponent)
@@ -116,7 +116,7 @@ int compareMagnitude(const Decimal &a, const Decimal &b) {
     return (a.count > b.count) - (a.count < b.count);
 }
 
-int addDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out) {
+int AddDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out) {
     const bool bNegative = b.count != 0 && (b.negative != subtract);
     if (b.count == 0)
         return encode(a, out);
@@ -144,7 +144,7 @@ int addDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out)
         }
     } else {
         const uint8_t *big = x, *small = y;
-        if (compareMagnitude(a, b) < 0) {
+        if (CompareMagnitude(a, b) < 0) {
             std::swap(big, small);
             negative = bNegative;
         }
@@ -162,13 +162,12 @@ int addDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out)
 
 using detail::Decimal;
 
-bool isNull(const HostNumber &n) { return n.length == 0; }
+bool IsNull(const HostNumber &n) { return n.length == 0; }
 
-HostNumber numberZero() { return detail::makeNumber(false, 0, nullptr, 0); }
+HostNumber NumberZero() { return detail::MakeNumber(false, 0, nullptr, 0); }
 
-HostNumber numberFromInt64(int64_t value) {
-    uint64_t magnitude =
-        value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
+HostNumber NumberFromInt64(int64_t value) {
+    uint64_t magnitude = value < 0 ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
     uint8_t digits[20];
     int n = 0;
     uint8_t reversed[20];
@@ -178,10 +177,10 @@ HostNumber numberFromInt64(int64_t value) {
     } while (magnitude != 0);
     for (int i = 0; i < n; ++i)
         digits[i] = reversed[n - 1 - i];
-    return detail::makeNumber(value < 0, n, digits, n);
+    return detail::MakeNumber(value < 0, n, digits, n);
 }
 
-bool numberToInt64(const HostNumber &n, int64_t &out) {
+bool NumberToInt64(const HostNumber &n, int64_t &out) {
     out = 0;
     Decimal v;
     if (!detail::decode(n, v))
@@ -202,7 +201,7 @@ bool numberToInt64(const HostNumber &n, int64_t &out) {
     return true;
 }
 
-int numberCompare(const HostNumber &a, const HostNumber &b) {
+int NumberCompare(const HostNumber &a, const HostNumber &b) {
     Decimal x, y;
     const bool hasX = detail::decode(a, x), hasY = detail::decode(b, y);
     if (!hasX || !hasY)
@@ -211,30 +210,29 @@ int numberCompare(const HostNumber &a, const HostNumber &b) {
     const int signY = y.count == 0 ? 0 : (y.negative ? -1 : 1);
     if (signX != signY)
         return signX < signY ? -1 : 1;
-    const int magnitude = detail::compareMagnitude(x, y);
+    const int magnitude = detail::CompareMagnitude(x, y);
     return signX < 0 ? -magnitude : magnitude;
 }
 
 namespace {
 
-int sumRecords(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength,
-               bool subtract) {
+int SumRecords(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength, bool subtract) {
     if (out == nullptr)
         return 0;
     Decimal x, y; // null (and unreadable) operands stay zero
     detail::decode(a, aLength, x);
     detail::decode(b, bLength, y);
-    return detail::addDecimals(x, y, subtract, out);
+    return detail::AddDecimals(x, y, subtract, out);
 }
 
 } // namespace
 
-int numberAdd(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength) {
-    return sumRecords(out, a, aLength, b, bLength, false);
+int NumberAdd(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength) {
+    return SumRecords(out, a, aLength, b, bLength, false);
 }
 
-int numberSubtract(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength) {
-    return sumRecords(out, a, aLength, b, bLength, true);
+int NumberSubtract(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength) {
+    return SumRecords(out, a, aLength, b, bLength, true);
 }
 
 } // namespace zkh

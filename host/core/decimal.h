@@ -40,12 +40,12 @@ int encode(bool negative, int exponent, const uint8_t *digits, int count, uint8_
 int encode(const Decimal &value, uint8_t *out);
 
 // Decimal value of the record's magnitude compared with b's: <0, 0, >0.
-int compareMagnitude(const Decimal &a, const Decimal &b);
+int CompareMagnitude(const Decimal &a, const Decimal &b);
 
 // Exact a + b (b negated when `subtract`), then encode into out.
-int addDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out);
+int AddDecimals(const Decimal &a, const Decimal &b, bool subtract, uint8_t *out);
 
 // A record made by encode, as a HostNumber.
-HostNumber makeNumber(bool negative, int exponent, const uint8_t *digits, int count);
+HostNumber MakeNumber(bool negative, int exponent, const uint8_t *digits, int count);
 
 } // namespace zkh::detail

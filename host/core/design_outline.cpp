@@ -137,8 +137,7 @@ const DesignOutlines::Attribute *DesignOutlines::GetAttribute(Handle outline, Ha
     return FindAttribute(outline, item, attribute, index);
 }
 
-bool DesignOutlines::SetAttribute(Handle outline, Handle item, int32_t attribute, int32_t index,
-                                  std::u16string text) {
+bool DesignOutlines::SetAttribute(Handle outline, Handle item, int32_t attribute, int32_t index, std::u16string text) {
     Item *owner = Find(outline, item);
     if (!owner)
         return false;
@@ -168,8 +167,7 @@ DesignOutlines::Property *DesignOutlines::FindProperty(Handle outline, Handle it
     return found == owner->properties.end() ? nullptr : &found->second;
 }
 
-bool DesignOutlines::SetProperty(Handle outline, Handle item, const std::u16string &name,
-                                 std::vector<uint8_t> bytes) {
+bool DesignOutlines::SetProperty(Handle outline, Handle item, const std::u16string &name, std::vector<uint8_t> bytes) {
     Item *owner = Find(outline, item);
     if (!owner)
         return false;

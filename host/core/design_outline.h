@@ -8,8 +8,8 @@
 // the release hook, so the outline holds one string per value at most.
 #pragma once
 
-#include <cstdint>
 #include <climits>
+#include <cstdint>
 #include <map>
 #include <string>
 #include <unordered_map>

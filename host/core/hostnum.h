@@ -25,25 +25,25 @@ namespace zkh {
 inline constexpr int kMaxDigits = 28;
 
 // ---- numbers ---------------------------------------------------------------
-bool isNull(const HostNumber &n);                 // length 0
-HostNumber numberZero();
-HostNumber numberFromInt64(int64_t value);
-HostNumber numberFromDouble(double value);        // rounded to 15 significant digits
+bool IsNull(const HostNumber &n); // length 0
+HostNumber NumberZero();
+HostNumber NumberFromInt64(int64_t value);
+HostNumber NumberFromDouble(double value); // rounded to 15 significant digits
 // False (and out null) for no number, and for 10^63 and beyond.
-bool numberFromText(std::u16string_view text, HostNumber &out);
-std::u16string numberToText(const HostNumber &n); // plain notation, "" for null
-double numberToDouble(const HostNumber &n);       // null gives 0
+bool NumberFromText(std::u16string_view text, HostNumber &out);
+std::u16string NumberToText(const HostNumber &n); // plain notation, "" for null
+double NumberToDouble(const HostNumber &n);       // null gives 0
 // Truncates toward zero; false when null or out of the int64 range.
-bool numberToInt64(const HostNumber &n, int64_t &out);
+bool NumberToInt64(const HostNumber &n, int64_t &out);
 // <0, 0, >0. Null equals null and orders below every value.
-int numberCompare(const HostNumber &a, const HostNumber &b);
+int NumberCompare(const HostNumber &a, const HostNumber &b);
 // Exact sums on the digit arrays (null reads as 0); results rounded to
 // kMaxDigits significant digits. They return the new length: 0 (null) when the
 // result reaches 10^63, the top of the exponent range; results below 10^-65
 // become zero.
-int numberAdd(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength);
-int numberSubtract(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength);
-int numberAddDouble(uint8_t *out, const uint8_t *a, int aLength, double b);
+int NumberAdd(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength);
+int NumberSubtract(uint8_t *out, const uint8_t *a, int aLength, const uint8_t *b, int bLength);
+int NumberAddDouble(uint8_t *out, const uint8_t *a, int aLength, double b);
 
 // ---- date-times --------------------------------------------------------------
 struct DateParts {
@@ -53,26 +53,25 @@ struct DateParts {
 };
 
 // The length byte of a date-time counts in its low four bits only.
-bool dateIsNull(const HostDateTime &d);
+bool DateIsNull(const HostDateTime &d);
 // Any field out of its range rolls over into the next larger one
 // (day 32 of January is the 1st of February). The Gregorian rule holds for every year;
 // null when the resulting year does not fit an int.
-HostDateTime dateFromParts(int year, int month, int day, int hour, int minute, int second,
-                           int microsecond = 0);
-DateParts dateToParts(const HostDateTime &d); // null (or a year beyond int) gives all zero
-int daysInMonth(int year, int month); // 0 for a month outside 1..12
+HostDateTime DateFromParts(int year, int month, int day, int hour, int minute, int second, int microsecond = 0);
+DateParts DateToParts(const HostDateTime &d); // null (or a year beyond int) gives all zero
+int DaysInMonth(int year, int month);         // 0 for a month outside 1..12
 
 // Pictures: yyyy yy MMMM MMM MM M dddd ddd dd d hh h HH mm ss mmmmmm AMPM;
 // hh is the 12-hour clock when AMPM is present. Other characters are copied;
 // text in double quotes is copied without the quotes.
-std::u16string dateFormat(const HostDateTime &d, std::u16string_view picture);
-bool pictureIsValid(std::u16string_view picture);
+std::u16string DateFormat(const HostDateTime &d, std::u16string_view picture);
+bool PictureIsValid(std::u16string_view picture);
 // The usual date texts: "yyyy-MM-dd[-hh.mm.ss[.ffffff]]", ISO with a space or
 // T and colons, "MM/dd/yyyy [hh:mm[:ss] [AM|PM]]", "d MMMM yyyy", "MMMM d, yyyy",
 // and a time alone. Colon times are h[h]:mm[:ss[.ffffff]] [AM|PM] and may follow
 // the last three forms too; month names are English, full or three letters, in
 // any case. A time alone falls on day 0. False (and a null date) for anything
 // else or an invalid date.
-bool dateParse(std::u16string_view text, HostDateTime &out);
+bool DateParse(std::u16string_view text, HostDateTime &out);
 
 } // namespace zkh

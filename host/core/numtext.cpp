@@ -11,8 +11,8 @@ using detail::Decimal;
 
 namespace {
 
-bool isSpace(char16_t c) { return c == u' ' || c == u'\t'; }
-bool isDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
+bool IsSpace(char16_t c) { return c == u' ' || c == u'\t'; }
+bool IsDigit(char16_t c) { return c >= u'0' && c <= u'9'; }
 
 // Exponents beyond this are far outside the format whatever the digits;
 // clamping keeps the sum of the parts from overflowing.
@@ -20,12 +20,12 @@ constexpr long kExponentClamp = 100000;
 
 } // namespace
 
-bool numberFromText(std::u16string_view text, HostNumber &out) {
+bool NumberFromText(std::u16string_view text, HostNumber &out) {
     out = HostNumber{};
     size_t i = 0, end = text.size();
-    while (i < end && isSpace(text[i]))
+    while (i < end && IsSpace(text[i]))
         ++i;
-    while (end > i && isSpace(text[end - 1]))
+    while (end > i && IsSpace(text[end - 1]))
         --end;
     bool negative = false;
     if (i < end && (text[i] == u'+' || text[i] == u'-'))
@@ -44,7 +44,7 @@ bool numberFromText(std::u16string_view text, HostNumber &out) {
             seenPoint = true;
             continue;
         }
-        if (!isDigit(c))
+        if (!IsDigit(c))
             break;
         anyDigit = true;
         const uint8_t digit = static_cast<uint8_t>(c - u'0');
@@ -67,9 +67,9 @@ bool numberFromText(std::u16string_view text, HostNumber &out) {
         bool negativeExponent = false;
         if (i < end && (text[i] == u'+' || text[i] == u'-'))
             negativeExponent = text[i++] == u'-';
-        if (i == end || !isDigit(text[i]))
+        if (i == end || !IsDigit(text[i]))
             return false;
-        for (; i < end && isDigit(text[i]); ++i)
+        for (; i < end && IsDigit(text[i]); ++i)
             if (exponent < kExponentClamp)
                 exponent = exponent * 10 + (text[i] - u'0');
         if (negativeExponent)
@@ -78,7 +78,7 @@ bool numberFromText(std::u16string_view text, HostNumber &out) {
     if (i != end)
         return false;
     if (kept == 0) {
-        out = numberZero();
+        out = NumberZero();
         return true;
     }
     // Value is 0.digits * 10^(integerDigits - leadingFractionZeros + exponent).
@@ -86,14 +86,14 @@ bool numberFromText(std::u16string_view text, HostNumber &out) {
     if (scale > detail::kMaxExponent + 1)
         return false; // even after rounding it cannot fit
     if (scale < detail::kMinExponent - 1) {
-        out = numberZero();
+        out = NumberZero();
         return true;
     }
-    out = detail::makeNumber(negative, static_cast<int>(scale), digits, kept);
+    out = detail::MakeNumber(negative, static_cast<int>(scale), digits, kept);
     return out.length != 0;
 }
 
-std::u16string numberToText(const HostNumber &n) {
+std::u16string NumberToText(const HostNumber &n) {
     Decimal v;
     if (!detail::decode(n, v))
         return {};
@@ -120,7 +120,7 @@ std::u16string numberToText(const HostNumber &n) {
     return text;
 }
 
-double numberToDouble(const HostNumber &n) {
+double NumberToDouble(const HostNumber &n) {
     Decimal v;
     if (!detail::decode(n, v) || v.count == 0)
         return 0.0;
@@ -140,16 +140,15 @@ double numberToDouble(const HostNumber &n) {
     return result;
 }
 
-HostNumber numberFromDouble(double value) {
+HostNumber NumberFromDouble(double value) {
     if (!std::isfinite(value))
         return HostNumber{};
     if (value == 0.0)
-        return numberZero();
+        return NumberZero();
     // Fifteen significant digits: every decimal of up to fifteen digits comes
     // back as itself, which is what users typed.
     char text[40];
-    const auto result =
-        std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 14);
+    const auto result = std::to_chars(text, text + sizeof text, value, std::chars_format::scientific, 14);
     if (result.ec != std::errc{})
         return HostNumber{};
     const char *p = text;
@@ -169,19 +168,19 @@ HostNumber numberFromDouble(double value) {
         std::from_chars(p, result.ptr, exponent);
     }
     // d.ddd * 10^e is 0.dddd * 10^(e + 1).
-    return detail::makeNumber(negative, exponent + 1, digits, count);
+    return detail::MakeNumber(negative, exponent + 1, digits, count);
 }
 
-int numberAddDouble(uint8_t *out, const uint8_t *a, int aLength, double b) {
+int NumberAddDouble(uint8_t *out, const uint8_t *a, int aLength, double b) {
     if (out == nullptr)
         return 0;
-    const HostNumber addend = numberFromDouble(b);
-    if (isNull(addend))
+    const HostNumber addend = NumberFromDouble(b);
+    if (IsNull(addend))
         return 0; // not a number, or beyond the format
     Decimal x, y;
     detail::decode(a, aLength, x);
     detail::decode(addend, y);
-    return detail::addDecimals(x, y, false, out);
+    return detail::AddDecimals(x, y, false, out);
 }
 
 } // namespace zkh

@@ -17,7 +17,7 @@ HostArrayData *Typed(HostArray array, int32_t type) {
     if (!a)
         return nullptr;
     if (type == HOST_TYPE_STRING)
-        return a->holdsStrings() ? a : nullptr;
+        return a->HoldsStrings() ? a : nullptr;
     return a->type() == type ? a : nullptr;
 }
 

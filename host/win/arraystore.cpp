@@ -18,30 +18,30 @@ HandleTable<std::unique_ptr<HostArrayData>> &Table() {
 
 } // namespace
 
-void HostArrayData::dropFront(size_t n) {
-    if (holdsRecords()) {
+void HostArrayData::DropFront(size_t n) {
+    if (HoldsRecords()) {
         records_.erase(records_.begin(), records_.begin() + n);
         return;
     }
-    if (holdsStrings())
+    if (HoldsStrings())
         for (size_t i = 0; i < n; ++i)
             StrRelease(words_[i]);
     words_.erase(words_.begin(), words_.begin() + n);
 }
 
-void HostArrayData::dropBack(size_t n) {
-    if (holdsRecords()) {
+void HostArrayData::DropBack(size_t n) {
+    if (HoldsRecords()) {
         records_.erase(records_.end() - n, records_.end());
         return;
     }
-    if (holdsStrings())
+    if (HoldsStrings())
         for (size_t i = words_.size() - n; i < words_.size(); ++i)
             StrRelease(words_[i]);
     words_.erase(words_.end() - n, words_.end());
 }
 
 void HostArrayData::clear() {
-    dropBack(size_t(count()));
+    DropBack(size_t(count()));
     low_ = 0;
 }
 
@@ -58,13 +58,13 @@ bool HostArrayData::resize(int64_t low, int64_t high) {
     bool overlap = count() > 0 && wanted > 0 && low <= oldHigh && high >= oldLow;
     if (!overlap) {
         // Make room first, so that a failure leaves the old elements in place.
-        if (holdsRecords()) {
+        if (HoldsRecords()) {
             std::deque<HostNumber> fresh(size_t(wanted), nullRecord);
             records_.swap(fresh);
         } else {
             std::deque<uint32_t> fresh(size_t(wanted), 0u);
             words_.swap(fresh);
-            if (holdsStrings())
+            if (HoldsStrings())
                 for (uint32_t handle : fresh)
                     StrRelease(handle);
         }
@@ -74,22 +74,22 @@ bool HostArrayData::resize(int64_t low, int64_t high) {
     // Grow before shrinking: a failed growth throws with nothing dropped yet.
     if (low < oldLow) {
         size_t n = size_t(oldLow - low);
-        if (holdsRecords())
+        if (HoldsRecords())
             records_.insert(records_.begin(), n, nullRecord);
         else
             words_.insert(words_.begin(), n, 0u);
     }
     if (high > oldHigh) {
         size_t n = size_t(high - oldHigh);
-        if (holdsRecords())
+        if (HoldsRecords())
             records_.insert(records_.end(), n, nullRecord);
         else
             words_.insert(words_.end(), n, 0u);
     }
     if (low > oldLow)
-        dropFront(size_t(low - oldLow));
+        DropFront(size_t(low - oldLow));
     if (high < oldHigh)
-        dropBack(size_t(oldHigh - high));
+        DropBack(size_t(oldHigh - high));
     low_ = int32_t(low);
     return true;
 }

@@ -21,18 +21,14 @@ public:
     HostArrayData &operator=(const HostArrayData &) = delete;
 
     int32_t type() const { return type_; }
-    bool holdsStrings() const { return type_ == HOST_TYPE_STRING || type_ == HOST_TYPE_LONGSTRING; }
-    bool holdsRecords() const { return type_ == HOST_TYPE_DATETIME || type_ == HOST_TYPE_NUMBER; }
+    bool HoldsStrings() const { return type_ == HOST_TYPE_STRING || type_ == HOST_TYPE_LONGSTRING; }
+    bool HoldsRecords() const { return type_ == HOST_TYPE_DATETIME || type_ == HOST_TYPE_NUMBER; }
 
     int32_t dimensions = 1;
-    int32_t count() const {
-        return static_cast<int32_t>(holdsRecords() ? records_.size() : words_.size());
-    }
+    int32_t count() const { return static_cast<int32_t>(HoldsRecords() ? records_.size() : words_.size()); }
     int32_t low() const { return low_; }
     int32_t high() const { return low_ + count() - 1; }
-    bool contains(int32_t index) const {
-        return index >= low_ && int64_t(index) - low_ < count();
-    }
+    bool contains(int32_t index) const { return index >= low_ && int64_t(index) - low_ < count(); }
 
     // New bounds, keeping elements by index; strings that fall out lose the
     // array's reference. high = low - 1 empties. False (nothing changed) for
@@ -49,12 +45,12 @@ public:
     void clear();
 
 private:
-    void dropFront(size_t n);
-    void dropBack(size_t n);
+    void DropFront(size_t n);
+    void DropBack(size_t n);
 
     int32_t type_;
     int32_t low_ = 0;
-    std::deque<uint32_t> words_;    // flags, handles, string handles
+    std::deque<uint32_t> words_;     // flags, handles, string handles
     std::deque<HostNumber> records_; // numbers and date-times
 };
 

@@ -17,7 +17,7 @@ HostDateTime Clean(HostDateTime value) {
 
 zkh::DateParts Parts(const HostDateTime &value) {
     HostDateTime d = Clean(value);
-    return zkh::dateIsNull(d) ? zkh::DateParts{} : zkh::dateToParts(d);
+    return zkh::DateIsNull(d) ? zkh::DateParts{} : zkh::DateToParts(d);
 }
 
 } // namespace
@@ -32,10 +32,10 @@ int32_t ZKAPI HostDateMinute(HostDateTime value) { return Parts(value).minute; }
 int32_t ZKAPI HostDateSecond(HostDateTime value) { return Parts(value).second; }
 int32_t ZKAPI HostDateWeekday(HostDateTime value) { return Parts(value).weekday; }
 
-HostDateTime *ZKAPI HostDateConstruct(HostDateTime *out, int32_t year, int32_t month, int32_t day,
-                                      int32_t hour, int32_t minute, int32_t second) {
+HostDateTime *ZKAPI HostDateConstruct(HostDateTime *out, int32_t year, int32_t month, int32_t day, int32_t hour,
+                                      int32_t minute, int32_t second) {
     if (out)
-        *out = zkh::dateFromParts(year, month, day, hour, minute, second);
+        *out = zkh::DateFromParts(year, month, day, hour, minute, second);
     return out;
 }
 
@@ -48,7 +48,7 @@ HostDateTime *ZKAPI HostDateCurrent(HostDateTime *out) {
     }
     SYSTEMTIME now{};
     GetLocalTime(&now);
-    *out = zkh::dateFromParts(now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond,
+    *out = zkh::DateFromParts(now.wYear, now.wMonth, now.wDay, now.wHour, now.wMinute, now.wSecond,
                               now.wMilliseconds * 1000);
     return out;
 }

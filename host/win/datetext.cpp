@@ -22,8 +22,8 @@ HostStr ZKAPI HostDateToStr(HostDateTime value, const wchar_t *picture, HostStr 
     return Guard<HostStr>(0, [&] {
         value.length &= 0x0F;
         std::u16string text;
-        if (!zkh::dateIsNull(value))
-            text = zkh::dateFormat(value, picture ? ToCore(picture) : std::u16string_view(kDefaultPicture));
+        if (!zkh::DateIsNull(value))
+            text = zkh::DateFormat(value, picture ? ToCore(picture) : std::u16string_view(kDefaultPicture));
         HostStr handle = StrFromText(ToWide(text));
         if (handle && slot)
             StrStore(slot, handle);
@@ -36,7 +36,7 @@ HostDateTime *ZKAPI HostStrToDate(HostDateTime *out, const wchar_t *text) {
         return out;
     *out = Guard(HostDateTime{}, [&] {
         HostDateTime parsed{};
-        return text && zkh::dateParse(ToCore(text), parsed) ? parsed : HostDateTime{};
+        return text && zkh::DateParse(ToCore(text), parsed) ? parsed : HostDateTime{};
     });
     return out;
 }
@@ -44,16 +44,14 @@ HostDateTime *ZKAPI HostStrToDate(HostDateTime *out, const wchar_t *text) {
 int32_t ZKAPI HostStrIsValidDateTime(const wchar_t *text) {
     return Guard<int32_t>(0, [&] {
         HostDateTime parsed{};
-        return text && zkh::dateParse(ToCore(text), parsed) ? 1 : 0;
+        return text && zkh::DateParse(ToCore(text), parsed) ? 1 : 0;
     });
 }
 
 // The reference host knows date-time pictures only (kind 1); a picture of
 // any other kind is never valid here.
 int32_t ZKAPI HostStrIsValidPicture(const wchar_t *text, int32_t dateTime) {
-    return Guard<int32_t>(0, [&] {
-        return text && dateTime == 1 && zkh::pictureIsValid(ToCore(text)) ? 1 : 0;
-    });
+    return Guard<int32_t>(0, [&] { return text && dateTime == 1 && zkh::PictureIsValid(ToCore(text)) ? 1 : 0; });
 }
 
 } // extern "C"

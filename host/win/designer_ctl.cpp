@@ -1,9 +1,9 @@
 // Test controls of the designer outline, and OrlParentWindowOnly.
 #include <map>
 
-#include "zkhost.h"
 #include "designer_store.h"
 #include "guard.h"
+#include "zkhost.h"
 
 using namespace hostwin;
 using zkh::DesignOutlines;

@@ -68,15 +68,13 @@ int32_t ZKAPI HostDesignDeleteAttribute(HostOutline outline, HostItem item, int3
     return Guard<int32_t>(0, [&] { return DesignStore().DeleteAttribute(outline, item, attribute) ? 1 : 0; });
 }
 
-int32_t ZKAPI HostPropSet(HostOutline outline, HostItem item, const wchar_t *name, const void *data,
-                          int32_t bytes) {
+int32_t ZKAPI HostPropSet(HostOutline outline, HostItem item, const wchar_t *name, const void *data, int32_t bytes) {
     return Guard<int32_t>(0, [&]() -> int32_t {
         if (!name || !data || bytes < 1)
             return 0;
         const auto *first = static_cast<const uint8_t *>(data);
-        return DesignStore().SetProperty(outline, item, Text16(name), std::vector<uint8_t>(first, first + bytes))
-                   ? 1
-                   : 0;
+        return DesignStore().SetProperty(outline, item, Text16(name), std::vector<uint8_t>(first, first + bytes)) ? 1
+                                                                                                                  : 0;
     });
 }
 

@@ -10,9 +10,7 @@ namespace {
 // Where the edited flag of a field that is no edit control is kept.
 constexpr wchar_t kEditedProperty[] = L"ZkHost:Edited";
 
-bool IsDropDownList(HWND combo) {
-    return (GetWindowLongPtrW(combo, GWL_STYLE) & 0x3) == CBS_DROPDOWNLIST;
-}
+bool IsDropDownList(HWND combo) { return (GetWindowLongPtrW(combo, GWL_STYLE) & 0x3) == CBS_DROPDOWNLIST; }
 
 bool IsMultipleSelection(HWND list) {
     return (GetWindowLongPtrW(list, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;

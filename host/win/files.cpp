@@ -81,7 +81,7 @@ int32_t ZKAPI HostFileOpen(HostFile *file, const wchar_t *name, int32_t flags) {
         return 0;
     }
     bool create = (flags & OF_CREATE) != 0;
-    Access access = mode == OF_READWRITE ? Access::ReadWrite
+    Access access = mode == OF_READWRITE         ? Access::ReadWrite
                     : mode == OF_WRITE || create ? Access::Write
                                                  : Access::Read;
     DWORD disposition = create ? CREATE_ALWAYS : OPEN_EXISTING;

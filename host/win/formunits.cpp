@@ -24,7 +24,7 @@ int PixelsPerInch(bool vertical) {
 bool ToPixels(const HostNumber &units, bool vertical, int &pixels) {
     if (units.length == 0 || units.length > sizeof(units.digits))
         return false;
-    double value = std::round(zkh::numberToDouble(units) * PixelsPerInch(vertical));
+    double value = std::round(zkh::NumberToDouble(units) * PixelsPerInch(vertical));
     if (!(value >= INT32_MIN && value <= INT32_MAX))
         return false;
     pixels = static_cast<int>(value);
@@ -41,7 +41,7 @@ HostNumber *ZKAPI HostPixelsToFormUnits(HostNumber *out, HWND window, int32_t pi
     *out = Guard(HostNumber{}, [&] {
         if (axis != 0 && axis != 1)
             return HostNumber{};
-        return zkh::numberFromDouble(double(pixels) / PixelsPerInch(axis == 1));
+        return zkh::NumberFromDouble(double(pixels) / PixelsPerInch(axis == 1));
     });
     return out;
 }

@@ -198,8 +198,8 @@ int BarHeight(const HostFrame &frame) {
 HWND CreateBar(HostFrame &frame, bool ribbon) {
     if (!RegisterBars())
         return nullptr;
-    return CreateWindowExW(0, ribbon ? kRibbonClass : kBarClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0,
-                           0, 0, 0, frame.window, nullptr, BarInstance(), nullptr);
+    return CreateWindowExW(0, ribbon ? kRibbonClass : kBarClass, nullptr, WS_CHILD | WS_VISIBLE | WS_CLIPSIBLINGS, 0, 0,
+                           0, 0, frame.window, nullptr, BarInstance(), nullptr);
 }
 
 void RepaintBar(const HostFrame &frame) {

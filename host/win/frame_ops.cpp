@@ -158,17 +158,13 @@ int32_t ZKAPI HostFrameSetMenuText(HWND frame, int32_t id, const wchar_t *text) 
     });
 }
 
-int32_t ZKAPI HostFrameGetMenuCheck(HWND frame, int32_t id) {
-    return GetFlag(frame, id, &zkh::FrameItem::checked);
-}
+int32_t ZKAPI HostFrameGetMenuCheck(HWND frame, int32_t id) { return GetFlag(frame, id, &zkh::FrameItem::checked); }
 
 int32_t ZKAPI HostFrameSetMenuCheck(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag) {
     return SetFlag(frame, menu, selector, id, flag, L"SetMenuCheck", &zkh::FrameItem::checked);
 }
 
-int32_t ZKAPI HostFrameGetMenuEnable(HWND frame, int32_t id) {
-    return GetFlag(frame, id, &zkh::FrameItem::enabled);
-}
+int32_t ZKAPI HostFrameGetMenuEnable(HWND frame, int32_t id) { return GetFlag(frame, id, &zkh::FrameItem::enabled); }
 
 int32_t ZKAPI HostFrameSetMenuEnable(HWND frame, HMENU menu, int32_t selector, int32_t id, int32_t flag) {
     return SetFlag(frame, menu, selector, id, flag, L"SetMenuEnable", &zkh::FrameItem::enabled);
@@ -190,8 +186,8 @@ int32_t ZKAPI HostFrameSetMenuPictureIcon(HWND frame, int32_t id, const wchar_t 
     return SetPicture(frame, id, text, picture, L"icon");
 }
 
-int32_t ZKAPI HostFrameSetMenuPictureBitmap(HWND frame, int32_t id, const wchar_t *text, HBITMAP bitmap,
-                                            HBITMAP mask, int32_t width, int32_t height) {
+int32_t ZKAPI HostFrameSetMenuPictureBitmap(HWND frame, int32_t id, const wchar_t *text, HBITMAP bitmap, HBITMAP mask,
+                                            int32_t width, int32_t height) {
     const zkh::FramePicture picture{zkh::PictureKind::Bitmap, reinterpret_cast<uintptr_t>(bitmap),
                                     reinterpret_cast<uintptr_t>(mask), width, height};
     return SetPicture(frame, id, text, picture, L"bitmap");

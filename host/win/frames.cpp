@@ -77,8 +77,8 @@ void Layout(HostFrame &frame) {
     if (frame.bar)
         MoveWindow(frame.bar, 0, 0, client.right, barHeight, TRUE);
     if (frame.mdiClient)
-        MoveWindow(frame.mdiClient, 0, barHeight, client.right, client.bottom > barHeight ? client.bottom - barHeight : 0,
-                   TRUE);
+        MoveWindow(frame.mdiClient, 0, barHeight, client.right,
+                   client.bottom > barHeight ? client.bottom - barHeight : 0, TRUE);
 }
 
 LRESULT Created(HWND window, LPARAM lParam) {

@@ -38,7 +38,7 @@ public:
             index = static_cast<uint32_t>(slots_.size() - 1);
         }
         ++live_;
-        return handleOf(index);
+        return HandleOf(index);
     }
 
     // The live value behind handle, or null for 0, a stale or a forged handle.
@@ -84,9 +84,7 @@ private:
         bool used;
     };
 
-    uint32_t handleOf(uint32_t index) const {
-        return (slots_[index].generation << kIndexBits) | (index + 1);
-    }
+    uint32_t HandleOf(uint32_t index) const { return (slots_[index].generation << kIndexBits) | (index + 1); }
 
     std::vector<Slot> slots_;
     uint32_t freeHead_ = kNone;

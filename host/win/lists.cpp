@@ -23,8 +23,7 @@ bool Resolve(HWND window, List &list) {
         return false;
     list.window = window;
     list.combo = kind == WinKind::ComboBox;
-    list.multiple = !list.combo &&
-                    (GetWindowLongPtrW(window, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
+    list.multiple = !list.combo && (GetWindowLongPtrW(window, GWL_STYLE) & (LBS_MULTIPLESEL | LBS_EXTENDEDSEL)) != 0;
     return true;
 }
 

@@ -25,27 +25,25 @@ bool Operand(const uint8_t *digits, int32_t length, uint8_t (&copy)[kDigitBytes]
 
 extern "C" {
 
-int32_t ZKAPI HostNumberAdd(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b,
-                            int32_t bLength) {
+int32_t ZKAPI HostNumberAdd(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b, int32_t bLength) {
     uint8_t x[kDigitBytes], y[kDigitBytes];
     if (!out || !Operand(a, aLength, x) || !Operand(b, bLength, y))
         return 0;
-    return zkh::numberAdd(out, x, aLength, y, bLength);
+    return zkh::NumberAdd(out, x, aLength, y, bLength);
 }
 
-int32_t ZKAPI HostNumberSubtract(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b,
-                                 int32_t bLength) {
+int32_t ZKAPI HostNumberSubtract(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b, int32_t bLength) {
     uint8_t x[kDigitBytes], y[kDigitBytes];
     if (!out || !Operand(a, aLength, x) || !Operand(b, bLength, y))
         return 0;
-    return zkh::numberSubtract(out, x, aLength, y, bLength);
+    return zkh::NumberSubtract(out, x, aLength, y, bLength);
 }
 
 int32_t ZKAPI HostNumberAddDouble(uint8_t *out, const uint8_t *a, int32_t aLength, double b) {
     uint8_t x[kDigitBytes];
     if (!out || !std::isfinite(b) || !Operand(a, aLength, x))
         return 0;
-    return zkh::numberAddDouble(out, x, aLength, b);
+    return zkh::NumberAddDouble(out, x, aLength, b);
 }
 
 } // extern "C"

@@ -60,11 +60,11 @@ int32_t ZKAPI HostStrScan(const wchar_t *search, const wchar_t *text) {
 
 // The tokens go to the array from its low bound (0 for an empty array) as
 // new strings, each with the array's reference; the bounds end at the last.
-int32_t ZKAPI HostStrTokenize(const wchar_t *text, const wchar_t *startDelimiters,
-                              const wchar_t *endDelimiters, HostArray array) {
+int32_t ZKAPI HostStrTokenize(const wchar_t *text, const wchar_t *startDelimiters, const wchar_t *endDelimiters,
+                              HostArray array) {
     return Guard<int32_t>(-1, [&]() -> int32_t {
         HostArrayData *a = ArrayFind(array);
-        if (!a || !a->holdsStrings())
+        if (!a || !a->HoldsStrings())
             return -1;
         std::wstring_view t = View(text);
         auto tokens = Tokens(t, View(startDelimiters), View(endDelimiters));

@@ -10,7 +10,7 @@
 #define ZKLIB_ARRAY_H
 
 /* Directions of ZelArraySort; any other value sorts nothing. */
-#define ZEL_SORT_ASCENDING  0
+#define ZEL_SORT_ASCENDING 0
 #define ZEL_SORT_DESCENDING 1
 
 /* The source's elements after the destination's last; the new count of the

@@ -12,13 +12,13 @@
 #define ZKM_Refresh 0x600A
 
 /* ---- the spin field, steered by messages -------------------------------------- */
-#define ZKM_SpinSetMin   0x401 /* lParam the minimum; empties the edit */
-#define ZKM_SpinSetMax   0x402 /* lParam the maximum; empties the edit */
-#define ZKM_SpinSetStep  0x403 /* wParam the decimal adjust, lParam the increment (0 changes nothing) */
+#define ZKM_SpinSetMin 0x401   /* lParam the minimum; empties the edit */
+#define ZKM_SpinSetMax 0x402   /* lParam the maximum; empties the edit */
+#define ZKM_SpinSetStep 0x403  /* wParam the decimal adjust, lParam the increment (0 changes nothing) */
 #define ZKM_SpinSetValue 0x404 /* lParam the value, scaled; shown at once */
-#define ZKM_SpinUp       0x405 /* one step up */
-#define ZKM_SpinDown     0x406 /* one step down */
-#define ZKM_SpinGetText  0x407 /* answers the text as a host string */
+#define ZKM_SpinUp 0x405       /* one step up */
+#define ZKM_SpinDown 0x406     /* one step down */
+#define ZKM_SpinGetText 0x407  /* answers the text as a host string */
 
 #endif /* ZKLIB_CONTROLS_CONSTANTS_H */
 
@@ -34,10 +34,10 @@ int32_t ZKAPI ZelSplitGetOrientation(ZelSplitControl control);
  * on its axis in parent coordinates, -1 on failure. */
 int32_t ZKAPI ZelSplitMoveToDragPos(ZelSplitControl control);
 /* Tiles the bar to its parent and places both children beside it. */
-void    ZKAPI ZelSplitResizeObjects(ZelSplitControl control);
+void ZKAPI ZelSplitResizeObjects(ZelSplitControl control);
 /* which 1 sets the left or upper child, any other value the right or lower
  * one; the child held before, 0 on failure (and for window 0). */
-HWND    ZKAPI ZelSplitSetChild(ZelSplitControl control, int32_t which, HWND window);
+HWND ZKAPI ZelSplitSetChild(ZelSplitControl control, int32_t which, HWND window);
 /* 1, or 0 on failure. */
 int32_t ZKAPI ZelSplitTileToParent(ZelSplitControl control);
 

@@ -12,13 +12,13 @@
  * "name too long"). */
 
 /* Drive types of ZelDosGetDriveType, the platform's; 0 for no drive. */
-#define ZEL_DRIVE_UNKNOWN    0
-#define ZEL_DRIVE_NO_ROOT    1
-#define ZEL_DRIVE_REMOVABLE  2
-#define ZEL_DRIVE_FIXED      3
-#define ZEL_DRIVE_REMOTE     4
-#define ZEL_DRIVE_CDROM      5
-#define ZEL_DRIVE_RAMDISK    6
+#define ZEL_DRIVE_UNKNOWN 0
+#define ZEL_DRIVE_NO_ROOT 1
+#define ZEL_DRIVE_REMOVABLE 2
+#define ZEL_DRIVE_FIXED 3
+#define ZEL_DRIVE_REMOTE 4
+#define ZEL_DRIVE_CDROM 5
+#define ZEL_DRIVE_RAMDISK 6
 
 /* Roots of the drives of this machine, "A:\" to "Z:\"; their count. */
 int32_t ZKAPI ZelDosEnumDrives(HostArray names);

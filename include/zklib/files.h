@@ -12,10 +12,10 @@
  * stops at the first failure; what was copied stays. */
 
 /* Codes of ZelFileGetType. */
-#define ZEL_FILETYPE_PROGRAM    1 /* its extension stands in the "Programs" profile entry */
+#define ZEL_FILETYPE_PROGRAM 1    /* its extension stands in the "Programs" profile entry */
 #define ZEL_FILETYPE_ASSOCIATED 2 /* an application is associated with it */
-#define ZEL_FILETYPE_HIDDEN     3 /* hidden or system file */
-#define ZEL_FILETYPE_OTHER      4
+#define ZEL_FILETYPE_HIDDEN 3     /* hidden or system file */
+#define ZEL_FILETYPE_OTHER 4
 
 int32_t ZKAPI ZelFileCopy(const wchar_t *source, const wchar_t *destination);
 int32_t ZKAPI ZelFileAppend(const wchar_t *source, const wchar_t *destination);

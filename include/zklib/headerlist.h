@@ -10,7 +10,7 @@
 #define ZKM_ColumnSorted 0x600E
 
 /* ZelLVSetSortOrder, ZelLVGetSortOrder. */
-#define HDRLB_SortAscending  0
+#define HDRLB_SortAscending 0
 #define HDRLB_SortDescending 1
 
 /* The wrapper the form's window holds (announced by ZKM_ControlCreate), and
@@ -62,8 +62,7 @@ int32_t ZKAPI ZelLVGetItem(ZelLVControl list, int32_t index, int32_t column, Hos
 int32_t ZKAPI ZelLVSetItem(ZelLVControl list, int32_t index, int32_t column, uint32_t mask, const wchar_t *text,
                            uint32_t itemData, int32_t image);
 int32_t ZKAPI ZelLVGetSelectedCount(ZelLVControl list);
-int32_t ZKAPI ZelLVInsertItem(ZelLVControl list, int32_t index, const wchar_t *text, uint32_t itemData,
-                              int32_t image);
+int32_t ZKAPI ZelLVInsertItem(ZelLVControl list, int32_t index, const wchar_t *text, uint32_t itemData, int32_t image);
 int32_t ZKAPI ZelLVDeleteItem(ZelLVControl list, int32_t index);
 int32_t ZKAPI ZelLVDeleteAllItems(ZelLVControl list);
 

@@ -10,7 +10,7 @@ int32_t ZKAPI ZelListSetIndent(HWND window, int32_t indent);
  * rows). 0 done; -87 bad window; -8 no resources; -1 a text could not be read. */
 int32_t ZKAPI ZelListSetScrollWidth(HWND window, int32_t row);
 /* The text rectangle of a row of an adopted list box; 1, 0 on failure. */
-int32_t ZKAPI ZelListGetTextRectangle(HWND window, int32_t row, int32_t *top, int32_t *left,
-                                      int32_t *bottom, int32_t *right);
+int32_t ZKAPI ZelListGetTextRectangle(HWND window, int32_t row, int32_t *top, int32_t *left, int32_t *bottom,
+                                      int32_t *right);
 
 #endif

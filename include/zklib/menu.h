@@ -15,7 +15,7 @@
 /* Sent to the frame, wParam 0, lParam the id: an application's item was chosen. */
 #define ZKM_MenuCommand 0x6007
 /* Sent by the host to the frame: the library forgets its menu records; result 1. */
-#define ZKM_MenuClear   0x600F
+#define ZKM_MenuClear 0x600F
 
 /* Top bit of ZelMenuInsert's flags: the host frame does not attach its menu
  * again for this item (the next insert without it does). */
@@ -27,10 +27,10 @@
 #define ZKLIB_MENU_H
 
 /* The window's menu (or its parent's, or its host frame's own menu), 0. */
-HMENU   ZKAPI ZelMenuGetHandle(HWND window);
+HMENU ZKAPI ZelMenuGetHandle(HWND window);
 /* Its system menu, or its parent's, or 0. */
-HMENU   ZKAPI ZelMenuGetSystemHandle(HWND window);
-HMENU   ZKAPI ZelMenuGetPopupHandle(HMENU menu, int32_t position);
+HMENU ZKAPI ZelMenuGetSystemHandle(HWND window);
+HMENU ZKAPI ZelMenuGetPopupHandle(HMENU menu, int32_t position);
 /* Item count, -1 for no menu. */
 int32_t ZKAPI ZelMenuGetCount(HMENU menu);
 /* Position of a command id, -1 when absent. */

@@ -8,7 +8,7 @@
 
 /* The outline with its pictures and fonts into a new host string in *out.
  * 0 done; -87 the window is not adopted; -8 any other failure. */
-int32_t       ZKAPI ZelListSaveOutline(HWND window, HostStr *out);
+int32_t ZKAPI ZelListSaveOutline(HWND window, HostStr *out);
 /* Replaces the list's outline, style bits, indent and registries by a saved
  * one and shows it. The root handle; 0 on failure, and a stream that does
  * not read whole leaves the list as it was. */

@@ -8,17 +8,17 @@
 
 /* Special levels of ZelListShowOutline. */
 #define LBX_ShowAllButHidden 32766 /* every node except those marked hidden */
-#define LBX_ShowEverything   32767 /* every node; any level above all levels acts so */
+#define LBX_ShowEverything 32767   /* every node; any level above all levels acts so */
 
 /* Shell folder values of ZelListLoadChild: the text comes from the shell's own name. */
-#define LBX_ShellMyComputer     (-2)
-#define LBX_ShellNetwork        (-3)
-#define LBX_ShellMyDocuments    (-4)
-#define LBX_ShellRecycleBin     (-5)
-#define LBX_ShellInternet       (-6)
+#define LBX_ShellMyComputer (-2)
+#define LBX_ShellNetwork (-3)
+#define LBX_ShellMyDocuments (-4)
+#define LBX_ShellRecycleBin (-5)
+#define LBX_ShellInternet (-6)
 
 /* Mode bits of ZelListDragDrop. */
-#define LBX_DropAsChild   0x0001 /* the dragged node becomes the target's last child */
+#define LBX_DropAsChild 0x0001   /* the dragged node becomes the target's last child */
 #define LBX_DropAsSibling 0x0002 /* the dragged node follows the target */
 
 /* ---- on rows ---------------------------------------------------------------------- */
@@ -42,11 +42,10 @@ int32_t ZKAPI ZelListSetOutlineRedraw(HWND window, int32_t redraw);
 /* Rebuilds the rows from the tree down to `level`. 1, 0 on failure. */
 int32_t ZKAPI ZelListShowOutline(HWND window, int32_t level);
 /* A new last child or next sibling without a row: its handle, 0 on failure. */
-ZelItemHandle ZKAPI ZelListLoadChild(HWND window, ZelItemHandle parent, ZelPicHandle normal,
-                                     ZelPicHandle selected, const wchar_t *text, int32_t value, uint32_t flags);
-ZelItemHandle ZKAPI ZelListLoadSibling(HWND window, ZelItemHandle sibling, ZelPicHandle normal,
-                                       ZelPicHandle selected, const wchar_t *text, int32_t value,
-                                       uint32_t flags);
+ZelItemHandle ZKAPI ZelListLoadChild(HWND window, ZelItemHandle parent, ZelPicHandle normal, ZelPicHandle selected,
+                                     const wchar_t *text, int32_t value, uint32_t flags);
+ZelItemHandle ZKAPI ZelListLoadSibling(HWND window, ZelItemHandle sibling, ZelPicHandle normal, ZelPicHandle selected,
+                                       const wchar_t *text, int32_t value, uint32_t flags);
 /* Count loaded; -87 arrays of different lengths; -8 a load failed. */
 int32_t ZKAPI ZelListLoadChildren(HWND window, ZelItemHandle parent, ZelPicHandle normal, ZelPicHandle selected,
                                   HostArray texts, HostArray values, HostArray flags);
@@ -60,12 +59,12 @@ int32_t ZKAPI ZelListGetVisibleRange(HWND window, int32_t *first, int32_t *last)
 ZelItemHandle ZKAPI ZelListGetParent(ZelItemHandle item);      /* 0 on failure */
 ZelItemHandle ZKAPI ZelListGetNextSibling(ZelItemHandle item); /* 0 on failure */
 ZelItemHandle ZKAPI ZelListGetPrevSibling(ZelItemHandle item); /* 0 on failure */
-int32_t  ZKAPI ZelListGetLevel(ZelItemHandle item);            /* -1 on failure */
-int32_t  ZKAPI ZelListGetItemColor(ZelItemHandle item);        /* -1 on failure */
-INT_PTR  ZKAPI ZelListGetItemFont(ZelItemHandle item);         /* -1 on failure */
+int32_t ZKAPI ZelListGetLevel(ZelItemHandle item);             /* -1 on failure */
+int32_t ZKAPI ZelListGetItemColor(ZelItemHandle item);         /* -1 on failure */
+INT_PTR ZKAPI ZelListGetItemFont(ZelItemHandle item);          /* -1 on failure */
 uint32_t ZKAPI ZelListGetItemFlags(ZelItemHandle item);        /* 0 on failure */
-int32_t  ZKAPI ZelListGetItemValue(ZelItemHandle item);        /* 0 on failure */
-HostStr  ZKAPI ZelListGetItemText(ZelItemHandle item);         /* empty string on failure */
+int32_t ZKAPI ZelListGetItemValue(ZelItemHandle item);         /* 0 on failure */
+HostStr ZKAPI ZelListGetItemText(ZelItemHandle item);          /* empty string on failure */
 /* 1, 0 on failure. The text is a new string the caller owns. */
 int32_t ZKAPI ZelListGetItemData(ZelItemHandle item, HostStr *text, int32_t *value, uint32_t *flags);
 int32_t ZKAPI ZelListGetItemPicture(ZelItemHandle item, ZelPicHandle *normal, ZelPicHandle *selected);

@@ -9,39 +9,39 @@
 #define ZKLIB_PALETTE_CONSTANTS_H
 
 /* ---- style bits (ZelPalStyleGet, ZelPalStyleSet) --------------------------- */
-#define PALS_AutoSize      0x0001 /* the window fits its zones */
-#define PALS_DropDown      0x0002 /* the pop-up of a drop-down */
-#define PALS_EnableRecent  0x0004 /* recent colours and the other-colour entry */
+#define PALS_AutoSize 0x0001      /* the window fits its zones */
+#define PALS_DropDown 0x0002      /* the pop-up of a drop-down */
+#define PALS_EnableRecent 0x0004  /* recent colours and the other-colour entry */
 #define PALS_KeepSelection 0x0008 /* the focus frame stays without the focus */
 
 /* ---- zones of a cell (ZelPalFocusGet, ZelPalFocusSet, HostMsgSelect) -------- */
-#define PALZ_Main   0 /* the main colours */
-#define PALZ_Menu   1 /* the menu lines: the application's, then "Other Color..." */
+#define PALZ_Main 0   /* the main colours */
+#define PALZ_Menu 1   /* the menu lines: the application's, then "Other Color..." */
 #define PALZ_Recent 2 /* the recent colours, newest first */
 
 /* ---- palettes of ZelPalColorPaletteGet and ZelPalColorPaletteGetAll --------- */
-#define PALP_Main   0
+#define PALP_Main 0
 #define PALP_Recent 1
 
 /* ---- colour roles (ZelPalColorGet, ZelPalColorSet) ------------------------- */
-#define PALR_GridBack         0  /* main and recent zones; follows role 1 */
-#define PALR_Background       1  /* the control; taken from the notify window at each paint */
-#define PALR_MenuBack         2  /* menu zone and its text; follows role 1 */
-#define PALR_OuterBottomRight 3  /* outer bevel, bottom and right edges */
-#define PALR_OuterTopLeft     4  /* outer bevel, top and left edges */
-#define PALR_InnerTopLeft     5  /* inner bevel, top and left edges */
-#define PALR_InnerBottomRight 6  /* inner bevel, bottom and right edges; follows role 1 */
-#define PALR_DisabledText     7  /* menu text and outline when disabled */
-#define PALR_Text             8  /* menu text and outline; taken from the notify window at each paint */
-#define PALR_FocusInner       9  /* inner line of the focus frame */
-#define PALR_FocusOuter       10 /* outer two lines of the focus frame */
-#define PALR_Frame            11 /* prepared for painting, used by no edge */
-#define PALR_Count            12
+#define PALR_GridBack 0         /* main and recent zones; follows role 1 */
+#define PALR_Background 1       /* the control; taken from the notify window at each paint */
+#define PALR_MenuBack 2         /* menu zone and its text; follows role 1 */
+#define PALR_OuterBottomRight 3 /* outer bevel, bottom and right edges */
+#define PALR_OuterTopLeft 4     /* outer bevel, top and left edges */
+#define PALR_InnerTopLeft 5     /* inner bevel, top and left edges */
+#define PALR_InnerBottomRight 6 /* inner bevel, bottom and right edges; follows role 1 */
+#define PALR_DisabledText 7     /* menu text and outline when disabled */
+#define PALR_Text 8             /* menu text and outline; taken from the notify window at each paint */
+#define PALR_FocusInner 9       /* inner line of the focus frame */
+#define PALR_FocusOuter 10      /* outer two lines of the focus frame */
+#define PALR_Frame 11           /* prepared for painting, used by no edge */
+#define PALR_Count 12
 
 /* ---- notification codes (high word of WM_COMMAND's wParam) ----------------- */
 #define PALN_FocusChange 1 /* the focus cell changed */
-#define PALN_KillFocus   2 /* the control lost the focus */
-#define PALN_CloseUp     8 /* the pop-up wants to close */
+#define PALN_KillFocus 2   /* the control lost the focus */
+#define PALN_CloseUp 8     /* the pop-up wants to close */
 
 /* A menu entry was chosen: wParam the palette's window, lParam the entry's
  * id; id 0 is "Other Color...", which the palette answers itself. */

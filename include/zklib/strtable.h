@@ -9,7 +9,7 @@
 /* Files of this many bytes or more are refused with -30. */
 #define ZEL_STRTABLE_MAX_BYTES 65534
 /* The character that ends a loaded table. */
-#define ZEL_STRTABLE_END_MARK  0x1A
+#define ZEL_STRTABLE_END_MARK 0x1A
 
 /* The file on the search path, loaded: the table handle, or -2 (not found),
  * -30 (too large), -8 (no memory, or the file could not be read), -87 (null),
@@ -17,8 +17,8 @@
 intptr_t ZKAPI ZelStrLoadTable(const wchar_t *name);
 /* The value after "{key}" in the first line that holds it, with case; the
  * empty string when there is none or the table cannot be locked. */
-HostStr  ZKAPI ZelStrFind(intptr_t table, const wchar_t *key);
+HostStr ZKAPI ZelStrFind(intptr_t table, const wchar_t *key);
 /* Frees the table: 1 if freed, else 0. */
-int32_t  ZKAPI ZelStrFreeTable(intptr_t table);
+int32_t ZKAPI ZelStrFreeTable(intptr_t table);
 
 #endif

@@ -8,13 +8,11 @@ namespace zkt {
 namespace {
 
 // A DIB stores blue in the low byte, a COLORREF red.
-COLORREF toColorRef(std::uint32_t bgrx) {
-    return RGB((bgrx >> 16) & 0xFF, (bgrx >> 8) & 0xFF, bgrx & 0xFF);
-}
+COLORREF ToColorRef(std::uint32_t bgrx) { return RGB((bgrx >> 16) & 0xFF, (bgrx >> 8) & 0xFF, bgrx & 0xFF); }
 
-std::uint32_t toBgrx(COLORREF color) {
-    return (static_cast<std::uint32_t>(GetRValue(color)) << 16) |
-           (static_cast<std::uint32_t>(GetGValue(color)) << 8) | GetBValue(color);
+std::uint32_t ToBgrx(COLORREF color) {
+    return (static_cast<std::uint32_t>(GetRValue(color)) << 16) | (static_cast<std::uint32_t>(GetGValue(color)) << 8) |
+           GetBValue(color);
 }
 
 void put16(std::vector<unsigned char> &out, std::uint16_t v) {
@@ -92,7 +90,7 @@ COLORREF Bitmap::pixel(int x, int y) const {
         return CLR_INVALID;
     }
     GdiFlush(); // GDI may still hold drawing for the section
-    return toColorRef(bits_[static_cast<size_t>(y) * width_ + x]);
+    return ToColorRef(bits_[static_cast<size_t>(y) * width_ + x]);
 }
 
 void Bitmap::fill(COLORREF color) {
@@ -100,7 +98,7 @@ void Bitmap::fill(COLORREF color) {
         return;
     }
     GdiFlush();
-    std::fill(bits_, bits_ + static_cast<size_t>(width_) * height_, toBgrx(color));
+    std::fill(bits_, bits_ + static_cast<size_t>(width_) * height_, ToBgrx(color));
 }
 
 int Bitmap::count(COLORREF color, RECT area) const {
@@ -108,7 +106,7 @@ int Bitmap::count(COLORREF color, RECT area) const {
         return 0;
     }
     GdiFlush();
-    const std::uint32_t want = toBgrx(color);
+    const std::uint32_t want = ToBgrx(color);
     const int left = std::max(0, static_cast<int>(area.left));
     const int top = std::max(0, static_cast<int>(area.top));
     const int right = std::min(width_, static_cast<int>(area.right));
@@ -125,7 +123,7 @@ int Bitmap::count(COLORREF color, RECT area) const {
 
 int Bitmap::count(COLORREF color) const { return count(color, RECT{0, 0, width_, height_}); }
 
-std::vector<unsigned char> Bitmap::bmpBytes() const {
+std::vector<unsigned char> Bitmap::BmpBytes() const {
     if (!bits_) {
         return {};
     }
@@ -164,13 +162,12 @@ std::vector<unsigned char> Bitmap::bmpBytes() const {
     return out;
 }
 
-bool Bitmap::saveBmp(const std::wstring &path) const {
-    const std::vector<unsigned char> out = bmpBytes();
+bool Bitmap::SaveBmp(const std::wstring &path) const {
+    const std::vector<unsigned char> out = BmpBytes();
     if (out.empty()) {
         return false;
     }
-    HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS,
-                              FILE_ATTRIBUTE_NORMAL, nullptr);
+    HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
     if (file == INVALID_HANDLE_VALUE) {
         return false;
     }

@@ -92,8 +92,7 @@ std::vector<std::wstring> DebugOutputCapture::lines() const {
     std::lock_guard<std::mutex> guard(lock_);
     std::vector<std::wstring> out;
     size_t start = 0;
-    for (size_t end = text_.find(L'\n'); end != std::wstring::npos;
-         end = text_.find(L'\n', start)) {
+    for (size_t end = text_.find(L'\n'); end != std::wstring::npos; end = text_.find(L'\n', start)) {
         size_t stop = end;
         if (stop > start && text_[stop - 1] == L'\r') {
             --stop;

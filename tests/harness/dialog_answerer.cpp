@@ -14,7 +14,7 @@ constexpr int kMaxGiveUps = 50;
 
 thread_local std::vector<DialogAnswerer *> answerers;
 
-std::wstring windowText(HWND window) {
+std::wstring WindowText(HWND window) {
     const int length = GetWindowTextLengthW(window);
     std::wstring text(static_cast<size_t>(length) + 1, L'\0');
     text.resize(static_cast<size_t>(GetWindowTextW(window, text.data(), length + 1)));
@@ -35,22 +35,22 @@ std::string narrow(const std::wstring &text) {
     return out;
 }
 
-BOOL CALLBACK collectDialog(HWND window, LPARAM list) {
+BOOL CALLBACK CollectDialog(HWND window, LPARAM list) {
     if (IsWindowVisible(window) && className(window) == L"#32770") {
         reinterpret_cast<std::vector<HWND> *>(list)->push_back(window);
     }
     return TRUE;
 }
 
-BOOL CALLBACK collectControl(HWND window, LPARAM list) {
+BOOL CALLBACK CollectControl(HWND window, LPARAM list) {
     reinterpret_cast<std::vector<DialogControl> *>(list)->push_back(
-        DialogControl{GetDlgCtrlID(window), className(window), windowText(window)});
+        DialogControl{GetDlgCtrlID(window), className(window), WindowText(window)});
     return TRUE;
 }
 
-void CALLBACK timerProc(HWND, UINT, UINT_PTR id, DWORD) {
+void CALLBACK TimerProc(HWND, UINT, UINT_PTR id, DWORD) {
     for (DialogAnswerer *answerer : answerers) {
-        if (answerer->timerId() == id) {
+        if (answerer->TimerId() == id) {
             answerer->tick();
             return;
         }
@@ -59,7 +59,7 @@ void CALLBACK timerProc(HWND, UINT, UINT_PTR id, DWORD) {
 
 } // namespace
 
-std::vector<std::wstring> AnsweredDialog::staticTexts() const {
+std::vector<std::wstring> AnsweredDialog::StaticTexts() const {
     std::vector<std::wstring> out;
     for (const DialogControl &control : controls) {
         if (!control.text.empty() && _wcsicmp(control.className.c_str(), L"Static") == 0) {
@@ -78,9 +78,8 @@ std::wstring AnsweredDialog::text(int id) const {
     return std::wstring();
 }
 
-bool AnsweredDialog::hasControl(int id) const {
-    return std::any_of(controls.begin(), controls.end(),
-                       [id](const DialogControl &c) { return c.id == id; });
+bool AnsweredDialog::HasControl(int id) const {
+    return std::any_of(controls.begin(), controls.end(), [id](const DialogControl &c) { return c.id == id; });
 }
 
 DialogAnswerer::DialogAnswerer(int button, DialogMatch match)
@@ -94,7 +93,7 @@ DialogAnswerer::DialogAnswerer(std::vector<int> buttons, DialogMatch match)
 }
 
 void DialogAnswerer::start() {
-    timer_ = SetTimer(nullptr, 0, kPeriodMs, timerProc);
+    timer_ = SetTimer(nullptr, 0, kPeriodMs, TimerProc);
     if (!timer_) {
         ADD_FAILURE() << "SetTimer failed, error " << GetLastError();
         return;
@@ -113,7 +112,7 @@ DialogAnswerer::~DialogAnswerer() {
 }
 
 bool DialogAnswerer::matches(HWND dialog) const {
-    if (!match_.caption.empty() && windowText(dialog) != match_.caption) {
+    if (!match_.caption.empty() && WindowText(dialog) != match_.caption) {
         return false;
     }
     return !match_.controlId || GetDlgItem(dialog, match_.controlId);
@@ -122,36 +121,32 @@ bool DialogAnswerer::matches(HWND dialog) const {
 void DialogAnswerer::tick() {
     ++ticks_;
     std::vector<HWND> shown;
-    EnumThreadWindows(GetCurrentThreadId(), collectDialog, reinterpret_cast<LPARAM>(&shown));
+    EnumThreadWindows(GetCurrentThreadId(), CollectDialog, reinterpret_cast<LPARAM>(&shown));
     // Forget dialogs that have gone: their handles may come back.
-    watched_.erase(std::remove_if(watched_.begin(), watched_.end(),
-                                  [&](const Watched &w) {
-                                      return std::find(shown.begin(), shown.end(), w.hwnd) ==
-                                             shown.end();
-                                  }),
-                   watched_.end());
+    watched_.erase(
+        std::remove_if(watched_.begin(), watched_.end(),
+                       [&](const Watched &w) { return std::find(shown.begin(), shown.end(), w.hwnd) == shown.end(); }),
+        watched_.end());
     for (HWND dialog : shown) {
         // A disabled dialog waits for one on top of it: that one comes first.
         if (!IsWindowEnabled(dialog)) {
             continue;
         }
-        auto seen = std::find_if(watched_.begin(), watched_.end(),
-                                 [dialog](const Watched &w) { return w.hwnd == dialog; });
+        auto seen =
+            std::find_if(watched_.begin(), watched_.end(), [dialog](const Watched &w) { return w.hwnd == dialog; });
         const bool stale = seen != watched_.end() && ticks_ - seen->since >= giveUpTicks_;
         if (seen != watched_.end() && seen->answered) {
             if (stale) {
-                giveUp(dialog, "dialog \"" + narrow(windowText(dialog)) +
-                                   "\" did not close after its answer");
+                giveUp(dialog, "dialog \"" + narrow(WindowText(dialog)) + "\" did not close after its answer");
             }
         } else if (!matches(dialog)) {
             if (seen == watched_.end()) {
                 mark(dialog, false);
             } else if (stale) {
-                giveUp(dialog, "dialog \"" + narrow(windowText(dialog)) +
-                                   "\" does not match and was not answered");
+                giveUp(dialog, "dialog \"" + narrow(WindowText(dialog)) + "\" does not match and was not answered");
             }
         } else if (dialogs_.size() >= (repeat_ ? maxRepeats_ : buttons_.size())) {
-            giveUp(dialog, "dialog \"" + narrow(windowText(dialog)) + "\" came after the " +
+            giveUp(dialog, "dialog \"" + narrow(WindowText(dialog)) + "\" came after the " +
                                std::to_string(dialogs_.size()) + " expected");
         } else {
             answer(dialog);
@@ -161,8 +156,8 @@ void DialogAnswerer::tick() {
 
 void DialogAnswerer::answer(HWND dialog) {
     const int button = repeat_ ? buttons_.front() : buttons_[dialogs_.size()];
-    AnsweredDialog record{windowText(dialog), {}, button};
-    EnumChildWindows(dialog, collectControl, reinterpret_cast<LPARAM>(&record.controls));
+    AnsweredDialog record{WindowText(dialog), {}, button};
+    EnumChildWindows(dialog, CollectControl, reinterpret_cast<LPARAM>(&record.controls));
     dialogs_.push_back(std::move(record));
     if (inspector_) {
         inspector_(dialog);
@@ -173,8 +168,7 @@ void DialogAnswerer::answer(HWND dialog) {
 }
 
 void DialogAnswerer::mark(HWND dialog, bool answered) {
-    auto seen = std::find_if(watched_.begin(), watched_.end(),
-                             [dialog](const Watched &w) { return w.hwnd == dialog; });
+    auto seen = std::find_if(watched_.begin(), watched_.end(), [dialog](const Watched &w) { return w.hwnd == dialog; });
     if (seen == watched_.end()) {
         watched_.push_back(Watched{dialog, ticks_, answered});
     } else {
@@ -187,8 +181,9 @@ void DialogAnswerer::giveUp(HWND dialog, const std::string &why) {
     EndDialog(dialog, IDCANCEL);
     mark(dialog, true);
     if (++forced_ > kMaxGiveUps) {
-        std::fprintf(stderr, "zkharness: dialogs keep coming after %d forced endings (%s); "
-                             "ending the test program\n",
+        std::fprintf(stderr,
+                     "zkharness: dialogs keep coming after %d forced endings (%s); "
+                     "ending the test program\n",
                      kMaxGiveUps, why.c_str());
         std::fflush(stderr);
         std::fflush(stdout);

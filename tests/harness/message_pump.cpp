@@ -3,7 +3,7 @@
 namespace zkt {
 namespace {
 
-bool dispatchOne() {
+bool DispatchOne() {
     MSG msg;
     if (!PeekMessageW(&msg, nullptr, 0, 0, PM_REMOVE)) {
         return false;
@@ -20,27 +20,26 @@ bool dispatchOne() {
 
 } // namespace
 
-int pumpMessages(int maxMessages) {
+int PumpMessages(int maxMessages) {
     int count = 0;
-    while (count < maxMessages && dispatchOne()) {
+    while (count < maxMessages && DispatchOne()) {
         ++count;
     }
     return count;
 }
 
-bool pumpUntil(const std::function<bool()> &done, int maxMessages, DWORD waitMs) {
+bool PumpUntil(const std::function<bool()> &done, int maxMessages, DWORD waitMs) {
     const ULONGLONG deadline = GetTickCount64() + waitMs;
     for (int count = 0; count < maxMessages; ++count) {
         if (done()) {
             return true;
         }
-        while (!dispatchOne()) {
+        while (!DispatchOne()) {
             const ULONGLONG now = GetTickCount64();
             if (now >= deadline) {
                 return done();
             }
-            MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(deadline - now),
-                                      QS_ALLINPUT);
+            MsgWaitForMultipleObjects(0, nullptr, FALSE, static_cast<DWORD>(deadline - now), QS_ALLINPUT);
         }
     }
     return done();

@@ -15,7 +15,7 @@ struct ThreadHooks {
 
 thread_local ThreadHooks hooks;
 
-LRESULT CALLBACK callWndProcHook(int code, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK CallWndProcHook(int code, WPARAM wParam, LPARAM lParam) {
     if (code == HC_ACTION) {
         const auto *cwp = reinterpret_cast<const CWPSTRUCT *>(lParam);
         for (MessageRecorder *recorder : hooks.recorders) {
@@ -25,7 +25,7 @@ LRESULT CALLBACK callWndProcHook(int code, WPARAM wParam, LPARAM lParam) {
     return CallNextHookEx(hooks.callWndProc, code, wParam, lParam);
 }
 
-LRESULT CALLBACK getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK GetMessageHook(int code, WPARAM wParam, LPARAM lParam) {
     // PM_NOREMOVE peeks would record a message twice.
     if (code == HC_ACTION && wParam == PM_REMOVE) {
         const auto *msg = reinterpret_cast<const MSG *>(lParam);
@@ -38,7 +38,7 @@ LRESULT CALLBACK getMessageHook(int code, WPARAM wParam, LPARAM lParam) {
 
 WNDPROC watchedNext = nullptr;
 
-LRESULT CALLBACK defaultWatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK DefaultWatchProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     for (MessageRecorder *recorder : hooks.recorders) {
         recorder->record(window, message, wParam, lParam, false, true);
     }
@@ -50,13 +50,13 @@ LRESULT CALLBACK defaultWatchProc(HWND window, UINT message, WPARAM wParam, LPAR
 
 DefaultWatch::DefaultWatch(WNDPROC next) { watchedNext = next; }
 DefaultWatch::~DefaultWatch() { watchedNext = nullptr; }
-WNDPROC DefaultWatch::procedure() const { return &defaultWatchProc; }
+WNDPROC DefaultWatch::procedure() const { return &DefaultWatchProc; }
 
 MessageRecorder::MessageRecorder() {
     if (hooks.recorders.empty()) {
         const DWORD thread = GetCurrentThreadId();
-        hooks.callWndProc = SetWindowsHookExW(WH_CALLWNDPROC, callWndProcHook, nullptr, thread);
-        hooks.getMessage = SetWindowsHookExW(WH_GETMESSAGE, getMessageHook, nullptr, thread);
+        hooks.callWndProc = SetWindowsHookExW(WH_CALLWNDPROC, CallWndProcHook, nullptr, thread);
+        hooks.getMessage = SetWindowsHookExW(WH_GETMESSAGE, GetMessageHook, nullptr, thread);
         if (!hooks.callWndProc || !hooks.getMessage) {
             ADD_FAILURE() << "SetWindowsHookExW failed, error " << GetLastError();
         }
@@ -80,10 +80,9 @@ MessageRecorder::~MessageRecorder() {
 
 void MessageRecorder::watch(HWND window) { watched_.push_back(window); }
 
-void MessageRecorder::watchAll() { all_ = true; }
+void MessageRecorder::WatchAll() { all_ = true; }
 
-void MessageRecorder::record(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool posted,
-                             bool defaulted) {
+void MessageRecorder::record(HWND window, UINT message, WPARAM wParam, LPARAM lParam, bool posted, bool defaulted) {
     if (all_ || std::find(watched_.begin(), watched_.end(), window) != watched_.end()) {
         messages_.push_back(RecordedMessage{window, message, wParam, lParam, posted, defaulted});
     }
@@ -99,7 +98,7 @@ long MessageRecorder::find(HWND window, UINT message, WPARAM wParam) const {
     return -1;
 }
 
-long MessageRecorder::findCommand(HWND window, int notification) const {
+long MessageRecorder::FindCommand(HWND window, int notification) const {
     for (size_t i = 0; i < messages_.size(); ++i) {
         const RecordedMessage &m = messages_[i];
         if (m.hwnd == window && m.message == WM_COMMAND && HIWORD(m.wParam) == notification && !m.defaulted) {

@@ -14,7 +14,7 @@ std::string hex(unsigned long long value) {
 }
 
 std::string describe(const ExpectedMessage &entry) {
-    std::string text = messageName(entry.message);
+    std::string text = MessageName(entry.message);
     if (entry.flags & sent) {
         text += " sent";
     }
@@ -66,8 +66,7 @@ bool matches(const ExpectedMessage &want, const RecordedMessage &got) {
     return !want.hwnd || want.hwnd == got.hwnd;
 }
 
-::testing::AssertionResult failure(const std::string &what,
-                                   const std::vector<const RecordedMessage *> &got) {
+::testing::AssertionResult failure(const std::string &what, const std::vector<const RecordedMessage *> &got) {
     std::ostringstream out;
     out << what << "\nrecorded (noise left out):";
     for (size_t i = 0; i < got.size(); ++i) {
@@ -82,15 +81,17 @@ bool matches(const ExpectedMessage &want, const RecordedMessage &got) {
 } // namespace
 
 std::string describe(const RecordedMessage &message) {
-    return messageName(message.message) + (message.posted ? " posted" : message.defaulted ? " defaulted" : " sent") +
+    return MessageName(message.message) +
+           (message.posted      ? " posted"
+            : message.defaulted ? " defaulted"
+                                : " sent") +
            " wParam=" + hex(static_cast<unsigned long long>(message.wParam)) +
            " lParam=" + hex(static_cast<unsigned long long>(message.lParam)) + " to " +
            hex(reinterpret_cast<std::uintptr_t>(message.hwnd));
 }
 
-::testing::AssertionResult matchSequence(const std::vector<RecordedMessage> &all,
-                                         const std::vector<ExpectedMessage> &want,
-                                         const std::vector<UINT> &ignore) {
+::testing::AssertionResult MatchSequence(const std::vector<RecordedMessage> &all,
+                                         const std::vector<ExpectedMessage> &want, const std::vector<UINT> &ignore) {
     std::vector<const RecordedMessage *> got;
     for (const RecordedMessage &m : all) {
         if (std::find(ignore.begin(), ignore.end(), m.message) == ignore.end()) {
@@ -107,22 +108,20 @@ std::string describe(const RecordedMessage &message) {
             continue;
         }
         if (g == got.size()) {
-            return failure("entry " + std::to_string(w) + ": expected " + describe(want[w]) +
-                               ", but the recording ended",
-                           got);
+            return failure(
+                "entry " + std::to_string(w) + ": expected " + describe(want[w]) + ", but the recording ended", got);
         }
-        return failure("entry " + std::to_string(w) + ": expected " + describe(want[w]) +
-                           ", got message " + std::to_string(g) + ": " + describe(*got[g]),
+        return failure("entry " + std::to_string(w) + ": expected " + describe(want[w]) + ", got message " +
+                           std::to_string(g) + ": " + describe(*got[g]),
                        got);
     }
     if (g < got.size()) {
-        return failure("message " + std::to_string(g) + " was not expected: " + describe(*got[g]),
-                       got);
+        return failure("message " + std::to_string(g) + " was not expected: " + describe(*got[g]), got);
     }
     return ::testing::AssertionSuccess();
 }
 
-::testing::AssertionResult matchNamed(const std::vector<RecordedMessage> &all,
+::testing::AssertionResult MatchNamed(const std::vector<RecordedMessage> &all,
                                       const std::vector<ExpectedMessage> &want) {
     std::vector<RecordedMessage> named;
     for (const RecordedMessage &m : all) {
@@ -133,14 +132,13 @@ std::string describe(const RecordedMessage &message) {
             named.push_back(m);
         }
     }
-    return matchSequence(named, want);
+    return MatchSequence(named, want);
 }
 
-const std::vector<UINT> &commonNoise() {
+const std::vector<UINT> &CommonNoise() {
     static const std::vector<UINT> noise = {
-        WM_GETICON,     WM_NCHITTEST,      WM_SETCURSOR,  WM_MOUSEMOVE,    WM_NCMOUSEMOVE,
-        WM_MOUSELEAVE,  WM_NCMOUSELEAVE,   WM_GETOBJECT,  WM_IME_SETCONTEXT, WM_IME_NOTIFY,
-        WM_ENTERIDLE,   WM_SYNCPAINT,      WM_NCPAINT};
+        WM_GETICON,   WM_NCHITTEST,      WM_SETCURSOR,  WM_MOUSEMOVE, WM_NCMOUSEMOVE, WM_MOUSELEAVE, WM_NCMOUSELEAVE,
+        WM_GETOBJECT, WM_IME_SETCONTEXT, WM_IME_NOTIFY, WM_ENTERIDLE, WM_SYNCPAINT,   WM_NCPAINT};
     return noise;
 }
 

@@ -36,9 +36,8 @@ TestWindow::TestWindow(int clientWidth, int clientHeight, const wchar_t *title) 
     const DWORD style = WS_OVERLAPPEDWINDOW;
     RECT frame{0, 0, clientWidth, clientHeight};
     AdjustWindowRectEx(&frame, style, FALSE, 0);
-    window_ = CreateWindowExW(0, kClassName, title, style, 40, 40, frame.right - frame.left,
-                              frame.bottom - frame.top, nullptr, nullptr,
-                              GetModuleHandleW(nullptr), this);
+    window_ = CreateWindowExW(0, kClassName, title, style, 40, 40, frame.right - frame.left, frame.bottom - frame.top,
+                              nullptr, nullptr, GetModuleHandleW(nullptr), this);
     if (!window_) {
         ADD_FAILURE() << "CreateWindowExW of the test window failed, error " << GetLastError();
         return;
@@ -50,8 +49,8 @@ TestWindow::TestWindow(int clientWidth, int clientHeight, const wchar_t *title) 
     const int dx = clientWidth - client.right;
     const int dy = clientHeight - client.bottom;
     if (dx || dy) {
-        SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left + dx,
-                     frame.bottom - frame.top + dy, SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
+        SetWindowPos(window_, nullptr, 0, 0, frame.right - frame.left + dx, frame.bottom - frame.top + dy,
+                     SWP_NOMOVE | SWP_NOZORDER | SWP_NOACTIVATE);
     }
     ShowWindow(window_, SW_SHOWNORMAL);
     UpdateWindow(window_);
@@ -84,32 +83,26 @@ LRESULT CALLBACK TestWindow::windowProc(HWND window, UINT message, WPARAM wParam
     return DefWindowProcW(window, message, wParam, lParam);
 }
 
-HWND TestWindow::addChild(const wchar_t *className, int id, Box box, DWORD style,
-                          const wchar_t *text, DWORD exStyle) {
-    HWND child = CreateWindowExW(exStyle, className, text, WS_CHILD | WS_VISIBLE | style, box.x,
-                                 box.y, box.width, box.height, window_,
-                                 reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)),
-                                 GetModuleHandleW(nullptr), nullptr);
+HWND TestWindow::AddChild(const wchar_t *className, int id, Box box, DWORD style, const wchar_t *text, DWORD exStyle) {
+    HWND child =
+        CreateWindowExW(exStyle, className, text, WS_CHILD | WS_VISIBLE | style, box.x, box.y, box.width, box.height,
+                        window_, reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), GetModuleHandleW(nullptr), nullptr);
     if (!child) {
         ADD_FAILURE() << "CreateWindowExW of a child failed, error " << GetLastError();
     }
     return child;
 }
 
-HWND TestWindow::addListBox(int id, Box box, DWORD style) {
-    return addChild(L"ListBox", id, box, style);
+HWND TestWindow::AddListBox(int id, Box box, DWORD style) { return AddChild(L"ListBox", id, box, style); }
+
+HWND TestWindow::AddComboBox(int id, Box box, DWORD style) { return AddChild(L"ComboBox", id, box, style); }
+
+HWND TestWindow::AddEdit(int id, Box box, DWORD style, const wchar_t *text) {
+    return AddChild(L"Edit", id, box, style, text);
 }
 
-HWND TestWindow::addComboBox(int id, Box box, DWORD style) {
-    return addChild(L"ComboBox", id, box, style);
-}
-
-HWND TestWindow::addEdit(int id, Box box, DWORD style, const wchar_t *text) {
-    return addChild(L"Edit", id, box, style, text);
-}
-
-HWND TestWindow::addButton(int id, Box box, const wchar_t *text, DWORD style) {
-    return addChild(L"Button", id, box, style, text);
+HWND TestWindow::AddButton(int id, Box box, const wchar_t *text, DWORD style) {
+    return AddChild(L"Button", id, box, style, text);
 }
 
 } // namespace zkt

@@ -2,7 +2,7 @@
 
 namespace zkt {
 
-Bitmap captureClient(HWND window) {
+Bitmap CaptureClient(HWND window) {
     RECT client{};
     if (!IsWindow(window) || !GetClientRect(window, &client)) {
         return Bitmap();
@@ -14,14 +14,13 @@ Bitmap captureClient(HWND window) {
     return picture;
 }
 
-Bitmap captureScreen(HWND window, bool wholeWindow) {
+Bitmap CaptureScreen(HWND window, bool wholeWindow) {
     if (!IsWindow(window)) {
         return Bitmap();
     }
     // Painted afresh, frame and children included, so that the screen holds
     // what the window paints now and nothing older.
-    RedrawWindow(window, nullptr, nullptr,
-                 RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
+    RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_FRAME | RDW_ALLCHILDREN | RDW_UPDATENOW);
     RECT area{};
     if (wholeWindow) {
         GetWindowRect(window, &area);

@@ -35,9 +35,9 @@ public:
     int count(COLORREF color) const;
 
     // The bytes of a 24-bit BMP file of the picture (empty if it has none).
-    std::vector<unsigned char> bmpBytes() const;
+    std::vector<unsigned char> BmpBytes() const;
     // Writes a 24-bit BMP file; false if the file cannot be written.
-    bool saveBmp(const std::wstring &path) const;
+    bool SaveBmp(const std::wstring &path) const;
 
 private:
     void release();
@@ -53,11 +53,11 @@ private:
 // The client area as the window paints it for PrintWindow(PW_CLIENTONLY),
 // background erased. Right for a single control; under Wine 8 the children
 // of the window are left out.
-Bitmap captureClient(HWND window);
+Bitmap CaptureClient(HWND window);
 
 // What is on the screen: the window and its children are repainted first,
 // then the window's DC is copied. The window must be visible and uncovered.
 // `wholeWindow` takes the frame and title bar as well (GetWindowDC).
-Bitmap captureScreen(HWND window, bool wholeWindow = false);
+Bitmap CaptureScreen(HWND window, bool wholeWindow = false);
 
 } // namespace zkt

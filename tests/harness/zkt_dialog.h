@@ -23,10 +23,10 @@ struct AnsweredDialog {
     int button; // the id it was answered with
 
     // The texts of its static controls, in creation order, empty ones left out.
-    std::vector<std::wstring> staticTexts() const;
+    std::vector<std::wstring> StaticTexts() const;
     // The text of control `id`; empty if it has none.
     std::wstring text(int id) const;
-    bool hasControl(int id) const;
+    bool HasControl(int id) const;
 };
 
 // Which dialogs to answer; an empty caption or a control id of 0 matches any.
@@ -65,17 +65,15 @@ public:
     const std::vector<std::string> &failures() const { return failures_; }
 
     // Ticks of 10 ms that a dialog may linger (default 200).
-    void setGiveUpTicks(int ticks) { giveUpTicks_ = ticks; }
+    void SetGiveUpTicks(int ticks) { giveUpTicks_ = ticks; }
     // How many dialogs one button answers before it gives up (default 200).
-    void setMaxRepeats(int count) { maxRepeats_ = count > 0 ? static_cast<size_t>(count) : 0; }
+    void SetMaxRepeats(int count) { maxRepeats_ = count > 0 ? static_cast<size_t>(count) : 0; }
     // Runs on each matching dialog just before its answer is posted, to look
     // at what the record does not keep or to post messages ahead of it.
-    void setInspector(std::function<void(HWND dialog)> inspector) {
-        inspector_ = std::move(inspector);
-    }
+    void SetInspector(std::function<void(HWND dialog)> inspector) { inspector_ = std::move(inspector); }
 
     // Called by the timer.
-    UINT_PTR timerId() const { return timer_; }
+    UINT_PTR TimerId() const { return timer_; }
     void tick();
 
 private:

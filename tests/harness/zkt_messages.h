@@ -32,7 +32,7 @@ public:
     MessageRecorder &operator=(const MessageRecorder &) = delete;
 
     void watch(HWND window);
-    void watchAll(); // every window of the thread, thread messages included
+    void WatchAll(); // every window of the thread, thread messages included
     void clear() { messages_.clear(); }
 
     const std::vector<RecordedMessage> &messages() const { return messages_; }
@@ -41,7 +41,7 @@ public:
     long find(HWND window, UINT message, WPARAM wParam) const;
     // Position of the first WM_COMMAND to the window with that notification
     // code in wParam's high word, or -1.
-    long findCommand(HWND window, int code) const;
+    long FindCommand(HWND window, int code) const;
     // The notification codes of the WM_COMMANDs from a control (its window
     // in lParam), in order: what a parent hears of it.
     std::vector<int> notifications(HWND control) const;
@@ -62,8 +62,8 @@ enum : unsigned {
     posted = 1u << 1,
     wparam = 1u << 2,
     lparam = 1u << 3,
-    optional = 1u << 4, // may be missing
-    code = 1u << 5,     // a WM_COMMAND compared by its notification code: wParam's high word against wParam
+    optional = 1u << 4,  // may be missing
+    code = 1u << 5,      // a WM_COMMAND compared by its notification code: wParam's high word against wParam
     defaulted = 1u << 6, // went on to the default procedure (recorded by a DefaultWatch)
 };
 
@@ -79,14 +79,14 @@ struct ExpectedMessage {
 // table in order. Every recorded message must be matched by an entry and
 // every entry that is not optional by a message. A failure names the first
 // difference and lists what was recorded.
-::testing::AssertionResult matchSequence(const std::vector<RecordedMessage> &got,
+::testing::AssertionResult MatchSequence(const std::vector<RecordedMessage> &got,
                                          const std::vector<ExpectedMessage> &want,
                                          const std::vector<UINT> &ignore = {});
 
 // The same, with only the recorded messages that the table names taking
 // part (the message, and the window where an entry gives one): whatever
 // else the system delivers meanwhile cannot change the outcome.
-::testing::AssertionResult matchNamed(const std::vector<RecordedMessage> &got,
+::testing::AssertionResult MatchNamed(const std::vector<RecordedMessage> &got,
                                       const std::vector<ExpectedMessage> &want);
 
 // A notification a control posts to its parent: WM_COMMAND with the code,
@@ -112,10 +112,10 @@ public:
 
 // Messages that Wine and the window manager send when they like (hit tests,
 // cursor, icons, non-client paint, IME...), for `ignore`.
-const std::vector<UINT> &commonNoise();
+const std::vector<UINT> &CommonNoise();
 
 // "WM_COMMAND" for 0x0111; numbers without a name as "0x6008".
-std::string messageName(UINT message);
+std::string MessageName(UINT message);
 
 std::string describe(const RecordedMessage &message);
 

@@ -9,11 +9,11 @@ namespace zkt {
 
 // Dispatches queued messages of this thread until the queue is empty or
 // `maxMessages` have been dispatched. Returns the count dispatched.
-int pumpMessages(int maxMessages = 10000);
+int PumpMessages(int maxMessages = 10000);
 
 // Dispatches messages until `done()` holds, checking it before each one.
 // When the queue is empty it waits at most `waitMs` milliseconds in total
 // for more (0: not at all). Returns done() at the end.
-bool pumpUntil(const std::function<bool()> &done, int maxMessages = 10000, DWORD waitMs = 0);
+bool PumpUntil(const std::function<bool()> &done, int maxMessages = 10000, DWORD waitMs = 0);
 
 } // namespace zkt

@@ -34,12 +34,12 @@ Announced CreateAnnounced(const wchar_t *className, HWND parent, Box box, int id
     MSG m{};
     if (a.hwnd && PeekMessageW(&m, a.hwnd, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
         a.object = m.lParam;
-    pumpMessages();
+    PumpMessages();
     return a;
 }
 
 ControlForm::ControlForm(const wchar_t *className, Box box, void *parameter) {
-    form.onMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
+    form.OnMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
         if (message != WM_CTLCOLORLISTBOX || !listBrush)
             return false;
         SetTextColor(reinterpret_cast<HDC>(wParam), listText);
@@ -54,7 +54,7 @@ ControlForm::~ControlForm() {
         DestroyWindow(made_.hwnd);
     if (listBrush)
         DeleteObject(listBrush);
-    pumpMessages();
+    PumpMessages();
 }
 
 StoredBlockItem::StoredBlockItem(const wchar_t *className) : className_(className) {
@@ -79,8 +79,8 @@ bool StoredBlockItem::Store(const wchar_t *property, std::vector<uint8_t> bytes)
 LRESULT CALLBACK StoredBlockItem::Bind(int code, WPARAM wParam, LPARAM lParam) {
     wchar_t name[64] = {};
     if (code == HCBT_CREATEWND && current_ &&
-        (!current_->className_ || (GetClassNameW(reinterpret_cast<HWND>(wParam), name, 64) &&
-                                   lstrcmpW(name, current_->className_) == 0)))
+        (!current_->className_ ||
+         (GetClassNameW(reinterpret_cast<HWND>(wParam), name, 64) && lstrcmpW(name, current_->className_) == 0)))
         ZkHostDesignBindWindow(current_->outline, current_->item, reinterpret_cast<HWND>(wParam));
     return CallNextHookEx(nullptr, code, wParam, lParam);
 }
@@ -91,7 +91,7 @@ void ExpectNullControlFailures(const std::vector<NullControlCall> &calls) {
         DialogAnswerer answerer(IDOK);
         EXPECT_EQ(row.call(), row.failure) << row.name;
         ASSERT_EQ(answerer.answered(), 1) << row.name;
-        const auto texts = answerer.dialogs()[0].staticTexts();
+        const auto texts = answerer.dialogs()[0].StaticTexts();
         ASSERT_FALSE(texts.empty());
         EXPECT_EQ(texts.back(), std::wstring(L"Function '") + row.name +
                                     L"' unable to act because pointer to control instance is NULL.  "

@@ -4,8 +4,8 @@
 // windows made meanwhile; and the exports' answer to a null control.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 #include <cstdint>
 #include <functional>

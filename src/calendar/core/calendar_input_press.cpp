@@ -39,8 +39,8 @@ void CalInput::StartOrRun(uint32_t id, uint32_t period) {
 }
 
 void CalInput::PressButton(bool left, bool ctrl) {
-    state_ = static_cast<uint16_t>((state_ & ~(CALF_LeftDown | CALF_RightDown)) |
-                                   (left ? CALF_LeftDown : CALF_RightDown));
+    state_ =
+        static_cast<uint16_t>((state_ & ~(CALF_LeftDown | CALF_RightDown)) | (left ? CALF_LeftDown : CALF_RightDown));
     RefreshButton(left);
     if (!PopUp())
         fx_.TakeCapture();

@@ -48,9 +48,7 @@ void CalLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int3
     body_ = {client_.left, grid_.top, client_.right, client_.bottom};
 }
 
-Rect CalLayout::WeekdayBand() const {
-    return {client_.left, weekdayHeader_.top, client_.right, weekdayHeader_.bottom};
-}
+Rect CalLayout::WeekdayBand() const { return {client_.left, weekdayHeader_.top, client_.right, weekdayHeader_.bottom}; }
 
 Rect CalLayout::CellRect(int32_t cell) const {
     if (cell < 0 || cell >= 42)

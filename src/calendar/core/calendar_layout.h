@@ -15,13 +15,13 @@ namespace zk::cal {
 // Which parts of the control an invalidation names; the layout knows where
 // they lie.
 enum class CalArea {
-    Window,          // the whole client area
-    Grid,            // the 42 cells
-    Caption,         // month and year
-    WeekdayHeader,   // the weekday names
+    Window,        // the whole client area
+    Grid,          // the 42 cells
+    Caption,       // month and year
+    WeekdayHeader, // the weekday names
     CaptionAndHeader,
-    Buttons,         // both month buttons
-    Body,            // client width, from the grid's top down
+    Buttons, // both month buttons
+    Body,    // client width, from the grid's top down
 };
 
 // First and last cell a rectangle touches; first > last when none.

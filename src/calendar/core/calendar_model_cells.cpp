@@ -23,9 +23,7 @@ CDateTime CalendarModel::SwapAnchorDate(const CDateTime &date) {
     return old;
 }
 
-int32_t CalendarModel::ColumnWeekday(int32_t column) const {
-    return WeekdaySteps(int64_t{1} - column, weekStart_) + 1;
-}
+int32_t CalendarModel::ColumnWeekday(int32_t column) const { return WeekdaySteps(int64_t{1} - column, weekStart_) + 1; }
 
 void CalendarModel::RecalcCells(int32_t year, int32_t month) {
     const int32_t first = CDateTime(year, month, 1, 0, 0, 0).GetWeekday();
@@ -43,8 +41,8 @@ int32_t CalendarModel::DateToCell(const CDateTime &date) const {
     if (month_ == 0)
         return -1;
     const int64_t cell = int64_t{(date - CDateTime(year_, month_, 1, 0, 0, 0)).GetDays()} + firstCell_;
-    const bool inRange = flags_.showExtra == 1 ? cell >= 0 && cell < kCellCount
-                                               : cell >= firstCell_ && cell <= lastCell_;
+    const bool inRange =
+        flags_.showExtra == 1 ? cell >= 0 && cell < kCellCount : cell >= firstCell_ && cell <= lastCell_;
     return inRange ? static_cast<int32_t>(cell) : -1;
 }
 

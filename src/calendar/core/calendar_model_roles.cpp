@@ -11,12 +11,12 @@ namespace zk::cal {
 namespace {
 
 // System colour indices of the platform.
-constexpr uint16_t kWindow = 5, kWindowFrame = 6, kWindowText = 8, kHighlight = 13, kHighlightText = 14,
-                   kBtnFace = 15, kBtnShadow = 16, kGrayText = 17, kBtnText = 18, kBtnHighlight = 20;
+constexpr uint16_t kWindow = 5, kWindowFrame = 6, kWindowText = 8, kHighlight = 13, kHighlightText = 14, kBtnFace = 15,
+                   kBtnShadow = 16, kGrayText = 17, kBtnText = 18, kBtnHighlight = 20;
 
 constexpr std::array<uint16_t, kRoleCount> kRoleTable = {
-    kFollows,   kWindow,     kFollows,    kBtnFace,  kHighlight, kBtnFace,  kBtnHighlight,  kBtnShadow,
-    kBtnText,   kWindowText, kFollows,    kGrayText, kGrayText,  kFollows,  kHighlightText, kWindowFrame,
+    kFollows, kWindow,     kFollows, kBtnFace,  kHighlight, kBtnFace, kBtnHighlight,  kBtnShadow,
+    kBtnText, kWindowText, kFollows, kGrayText, kGrayText,  kFollows, kHighlightText, kWindowFrame,
 };
 
 CalArea RedrawArea(int32_t role) {

@@ -8,7 +8,7 @@
 namespace zk::cal {
 
 int CalendarModel::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *backColor, int32_t, int32_t,
-                              const CDateTime *date) const {
+                                  const CDateTime *date) const {
     if (textColor)
         *textColor = 0;
     if (backColor)
@@ -24,7 +24,7 @@ int CalendarModel::GetCellSpecial(int32_t cell, uint32_t *textColor, uint32_t *b
 }
 
 int CalendarModel::GetDaySpecial(int32_t year, int32_t month, int32_t day, int32_t weekday, uint32_t *textColor,
-                             uint32_t *backColor) const {
+                                 uint32_t *backColor) const {
     if (textColor)
         *textColor = 0;
     if (backColor)

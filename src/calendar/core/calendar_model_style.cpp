@@ -9,9 +9,9 @@ namespace {
 
 // The order in which SetStyle assigns the flags.
 constexpr uint32_t kAssignOrder[] = {
-    CALS_AlternateButtons, CALS_AutoSize,        CALS_PopUp,          CALS_EnableButtons, CALS_EnableKeyboard,
+    CALS_AlternateButtons, CALS_AutoSize,          CALS_PopUp,       CALS_EnableButtons, CALS_EnableKeyboard,
     CALS_EtchedLook,       CALS_MultipleSelection, CALS_SelectExtra, CALS_SelectSpecial, CALS_ShowExtra,
-    CALS_ShowFocus,        CALS_ShowGridlines,   CALS_ShowSpecial,
+    CALS_ShowFocus,        CALS_ShowGridlines,     CALS_ShowSpecial,
 };
 
 bool On(int32_t flag) { return flag > 0; }

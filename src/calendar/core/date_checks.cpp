@@ -17,8 +17,7 @@ bool Skipped(bool saving, const char16_t *text, int enforce) {
 DateTextVerdict CheckDateTimePicture(bool saving, const char16_t *text, int enforce) {
     if (Skipped(saving, text, enforce))
         return DateTextVerdict::Passed;
-    return DateOps().isValidPicture(text ? text : u"") == 0 ? DateTextVerdict::BadPicture
-                                                              : DateTextVerdict::Passed;
+    return DateOps().isValidPicture(text ? text : u"") == 0 ? DateTextVerdict::BadPicture : DateTextVerdict::Passed;
 }
 
 DateTextVerdict CheckDateTimeValue(bool saving, const char16_t *text, int enforce) {

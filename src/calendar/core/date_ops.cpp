@@ -19,7 +19,7 @@ HostDateTime Clean(HostDateTime value) {
 
 zkh::DateParts Parts(const HostDateTime &value) {
     const HostDateTime d = Clean(value);
-    return zkh::dateIsNull(d) ? zkh::DateParts{} : zkh::dateToParts(d);
+    return zkh::DateIsNull(d) ? zkh::DateParts{} : zkh::DateToParts(d);
 }
 
 HostDateTime *Current(HostDateTime *out) {
@@ -27,16 +27,16 @@ HostDateTime *Current(HostDateTime *out) {
         return out;
     const std::time_t now = std::time(nullptr);
     const std::tm *local = std::localtime(&now);
-    *out = local ? zkh::dateFromParts(local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour,
+    *out = local ? zkh::DateFromParts(local->tm_year + 1900, local->tm_mon + 1, local->tm_mday, local->tm_hour,
                                       local->tm_min, local->tm_sec)
                  : HostDateTime{};
     return out;
 }
 
-HostDateTime *Construct(HostDateTime *out, int32_t year, int32_t month, int32_t day, int32_t hour,
-                        int32_t minute, int32_t second) {
+HostDateTime *Construct(HostDateTime *out, int32_t year, int32_t month, int32_t day, int32_t hour, int32_t minute,
+                        int32_t second) {
     if (out)
-        *out = zkh::dateFromParts(year, month, day, hour, minute, second);
+        *out = zkh::DateFromParts(year, month, day, hour, minute, second);
     return out;
 }
 
@@ -47,25 +47,25 @@ int32_t Weekday(const HostDateTime &v) { return Parts(v).weekday; }
 
 std::u16string Format(const HostDateTime &value, const char16_t *picture) {
     const HostDateTime d = Clean(value);
-    if (zkh::dateIsNull(d) || !picture)
+    if (zkh::DateIsNull(d) || !picture)
         return {};
-    return zkh::dateFormat(d, picture);
+    return zkh::DateFormat(d, picture);
 }
 
 HostDateTime *Parse(HostDateTime *out, const char16_t *text) {
     if (!out)
         return out;
     HostDateTime parsed{};
-    *out = text && zkh::dateParse(text, parsed) ? parsed : HostDateTime{};
+    *out = text && zkh::DateParse(text, parsed) ? parsed : HostDateTime{};
     return out;
 }
 
 int32_t IsValidDateTime(const char16_t *text) {
     HostDateTime parsed{};
-    return text && zkh::dateParse(text, parsed) ? 1 : 0;
+    return text && zkh::DateParse(text, parsed) ? 1 : 0;
 }
 
-int32_t IsValidPicture(const char16_t *text) { return text && zkh::pictureIsValid(text) ? 1 : 0; }
+int32_t IsValidPicture(const char16_t *text) { return text && zkh::PictureIsValid(text) ? 1 : 0; }
 
 // The operands are copied first, as the host does, so that out may be either.
 bool Operand(const uint8_t *digits, int32_t length, uint8_t (&copy)[kDigitBytes]) {
@@ -81,27 +81,27 @@ int32_t Add(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b, i
     uint8_t x[kDigitBytes], y[kDigitBytes];
     if (!out || !Operand(a, aLength, x) || !Operand(b, bLength, y))
         return 0;
-    return zkh::numberAdd(out, x, aLength, y, bLength);
+    return zkh::NumberAdd(out, x, aLength, y, bLength);
 }
 
 int32_t Subtract(uint8_t *out, const uint8_t *a, int32_t aLength, const uint8_t *b, int32_t bLength) {
     uint8_t x[kDigitBytes], y[kDigitBytes];
     if (!out || !Operand(a, aLength, x) || !Operand(b, bLength, y))
         return 0;
-    return zkh::numberSubtract(out, x, aLength, y, bLength);
+    return zkh::NumberSubtract(out, x, aLength, y, bLength);
 }
 
 int32_t AddDouble(uint8_t *out, const uint8_t *a, int32_t aLength, double b) {
     uint8_t x[kDigitBytes];
     if (!out || !Operand(a, aLength, x))
         return 0;
-    return zkh::numberAddDouble(out, x, aLength, b);
+    return zkh::NumberAddDouble(out, x, aLength, b);
 }
 
 int32_t ToLong(const HostNumber *number, int32_t *value) {
     int64_t v = 0;
-    const bool ok = number && number->length <= kDigitBytes && !zkh::isNull(*number) &&
-                    zkh::numberToInt64(*number, v) && v >= INT32_MIN && v <= INT32_MAX;
+    const bool ok = number && number->length <= kDigitBytes && !zkh::IsNull(*number) &&
+                    zkh::NumberToInt64(*number, v) && v >= INT32_MIN && v <= INT32_MAX;
     if (value)
         *value = ok ? static_cast<int32_t>(v) : 0;
     return ok ? 1 : 0;
@@ -123,8 +123,8 @@ PlatformOps &PlatformSlot() {
 } // namespace
 
 HostDateOps PortableDateOps() {
-    return {Current, Construct, Year,   Month,    Day,       Weekday,   Format,
-            Parse,   IsValidDateTime, IsValidPicture, Add, Subtract, AddDouble, ToLong};
+    return {Current, Construct,       Year,           Month, Day,      Weekday,   Format,
+            Parse,   IsValidDateTime, IsValidPicture, Add,   Subtract, AddDouble, ToLong};
 }
 
 PlatformOps PortablePlatform() { return {NoText, Black}; }

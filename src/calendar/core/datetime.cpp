@@ -125,8 +125,8 @@ CDateTimeSpan::CDateTimeSpan(int32_t days, int32_t, int32_t, int32_t) {
 
 CDateTimeSpan &CDateTimeSpan::AddDays(int32_t count) {
     HostNumber sum{};
-    sum.length = static_cast<uint8_t>(
-        DateOps().addDouble(sum.digits, value_.digits, value_.length, static_cast<double>(count)));
+    sum.length =
+        static_cast<uint8_t>(DateOps().addDouble(sum.digits, value_.digits, value_.length, static_cast<double>(count)));
     value_ = sum;
     return *this;
 }

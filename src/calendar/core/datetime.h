@@ -20,12 +20,11 @@ class CDateTimeSpan;
 
 class CDateTime {
 public:
-    CDateTime();                              // the present moment
-    CDateTime(const HostDateTime &record);    // length byte cleaned to its low four bits
+    CDateTime();                           // the present moment
+    CDateTime(const HostDateTime &record); // length byte cleaned to its low four bits
     CDateTime(const CDateTime &other);
     // Always midnight: hour, minute and second are accepted and dropped.
-    CDateTime(int32_t year, int32_t month, int32_t day, int32_t hour = 0, int32_t minute = 0,
-              int32_t second = 0);
+    CDateTime(int32_t year, int32_t month, int32_t day, int32_t hour = 0, int32_t minute = 0, int32_t second = 0);
 
     CDateTime &operator=(const HostDateTime &record);
     CDateTime &operator=(const CDateTime &other);

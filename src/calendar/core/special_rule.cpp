@@ -49,10 +49,10 @@ void AppendField(std::string &out, int32_t value, int precision) {
 
 } // namespace
 
-SSpecialRule::SSpecialRule(int32_t type_, const CDateTime &date, int32_t weekday_, int32_t week_,
-                           uint32_t textColor_, uint32_t backColor_)
-    : type(type_), month(date.GetMonth()), day(date.GetDay()), year(date.GetYear()), weekday(weekday_),
-      week(week_), backColor(backColor_), textColor(textColor_) {}
+SSpecialRule::SSpecialRule(int32_t type_, const CDateTime &date, int32_t weekday_, int32_t week_, uint32_t textColor_,
+                           uint32_t backColor_)
+    : type(type_), month(date.GetMonth()), day(date.GetDay()), year(date.GetYear()), weekday(weekday_), week(week_),
+      backColor(backColor_), textColor(textColor_) {}
 
 std::string SSpecialRule::Key() const {
     const uint32_t fields = KeyFields(type);

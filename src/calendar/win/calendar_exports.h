@@ -3,8 +3,8 @@
 // under zk::GuardedControlText with its own literal failure words.
 #pragma once
 
-#include "calendar/win/calendar_window.h"
 #include "calendar/core/calendar_model.h"
+#include "calendar/win/calendar_window.h"
 #include "frame/win/guard.h"
 
 namespace zk::cal {

@@ -2,8 +2,8 @@
 #include "calendar/win/calendar_exports.h"
 
 using zk::GuardedControlText;
-using zk::cal::CalendarOf;
 using zk::cal::CalendarModel;
+using zk::cal::CalendarOf;
 using zk::cal::DateArg;
 
 extern "C" {
@@ -21,8 +21,8 @@ int32_t ZKAPI ZelCalMarkDate(ZelCalControl control, HostDateTime date, int32_t a
 
 // Each date goes through ZelCalMarkDate; the count is of those that changed the set.
 int32_t ZKAPI ZelCalMarkDates(ZelCalControl control, HostArray dates, int32_t add) {
-    return GuardedControlText(L"ZelCalMarkDates()", L"Unable to add/remove multiple dates from selection list.",
-                              0, CalendarOf(control), [&](CalendarModel &) {
+    return GuardedControlText(L"ZelCalMarkDates()", L"Unable to add/remove multiple dates from selection list.", 0,
+                              CalendarOf(control), [&](CalendarModel &) {
                                   int32_t low = 0, high = -1;
                                   const int32_t count = HostArrayGetBounds(dates, &low, &high);
                                   int32_t changed = 0;

@@ -3,12 +3,12 @@
 #include <cwchar>
 #include <vector>
 
-#include "frame/core/errors.h"
 #include "calendar/win/calendar_exports.h"
+#include "frame/core/errors.h"
 
 using zk::GuardedControlText;
-using zk::cal::CalendarOf;
 using zk::cal::CalendarModel;
+using zk::cal::CalendarOf;
 using zk::cal::CDateTime;
 
 namespace {
@@ -41,8 +41,8 @@ std::vector<std::u16string> Names(HostArray array, int32_t count) {
 extern "C" {
 
 int32_t ZKAPI ZelCalSetMonths(ZelCalControl control, HostArray names) {
-    return GuardedControlText(L"ZelCalSetMonths()", L"Unable to assign text for month names.", 0,
-                              CalendarOf(control), [&](CalendarModel &c) {
+    return GuardedControlText(L"ZelCalSetMonths()", L"Unable to assign text for month names.", 0, CalendarOf(control),
+                              [&](CalendarModel &c) {
                                   const int result = CDateTime::SetMonthNames(Names(names, 12));
                                   c.MonthNamesChanged();
                                   return result;

@@ -52,7 +52,7 @@ void PaintCaption(HDC dc, const RoleTools &kit, const CalLayout &layout, const C
 }
 
 void PaintWeekdayBand(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model,
-                 const Look &look) {
+                      const Look &look) {
     const RECT band = ToRECT(layout.WeekdayBand());
     FillRect(dc, &band, kit.Brush(CALR_HeaderBack));
     const int textRole = look.disabled ? CALR_DisabledText : CALR_WeekdayText;
@@ -68,7 +68,7 @@ void PaintWeekdayBand(HDC dc, const RoleTools &kit, const CalLayout &layout, con
 }
 
 void PaintButton(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look,
-            bool left, bool down) {
+                 bool left, bool down) {
     const Rect &area = left ? layout.LeftButton() : layout.RightButton();
     const RECT r = ToRECT(area);
     {

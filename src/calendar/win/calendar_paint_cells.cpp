@@ -42,8 +42,8 @@ private:
     bool fast_ = false;
 };
 
-CellColours ColoursOf(const RoleTools &kit, const CalendarModel &model, const CalDay &d, int32_t weekday,
-                      bool marked, bool extra, const Look &look) {
+CellColours ColoursOf(const RoleTools &kit, const CalendarModel &model, const CalDay &d, int32_t weekday, bool marked,
+                      bool extra, const Look &look) {
     const bool showExtra = On(model.Flags().showExtra);
     CellColours c;
     uint32_t ruleText = 0, ruleBack = 0;
@@ -92,7 +92,7 @@ std::u16string DayText(int32_t day) {
 } // namespace
 
 void PaintCells(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look,
-           CellSpan span) {
+                CellSpan span) {
     if (span.Empty() || model.DisplayMonth() == 0)
         return;
     const bool showExtra = On(model.Flags().showExtra);

@@ -1,10 +1,10 @@
 // Exports of the special rules.
-#include "frame/core/errors.h"
 #include "calendar/win/calendar_exports.h"
+#include "frame/core/errors.h"
 
 using zk::GuardedControlText;
-using zk::cal::CalendarOf;
 using zk::cal::CalendarModel;
+using zk::cal::CalendarOf;
 using zk::cal::CDateTime;
 using zk::cal::DateArg;
 using zk::cal::SSpecialRule;
@@ -14,8 +14,7 @@ namespace {
 // The kinds that key on a field taken from the rule's date: a null date
 // cannot give them one.
 bool KeysOnDate(int32_t type) {
-    return type == SPECIAL_Date || type == SPECIAL_MonthDay || type == SPECIAL_YearDay ||
-           type == SPECIAL_YearWeekday;
+    return type == SPECIAL_Date || type == SPECIAL_MonthDay || type == SPECIAL_YearDay || type == SPECIAL_YearWeekday;
 }
 
 void SetNumber(HostArray array, int32_t value, int32_t index) {
@@ -34,8 +33,8 @@ int32_t ZKAPI ZelCalClearSpecials(ZelCalControl control) {
                               [](CalendarModel &c) { return c.ClearSpecials(1); });
 }
 
-int32_t ZKAPI ZelCalSpecialDate(ZelCalControl control, int32_t type, HostDateTime date, int32_t weekday,
-                                int32_t week, COLORREF textColor, COLORREF backColor, int32_t add) {
+int32_t ZKAPI ZelCalSpecialDate(ZelCalControl control, int32_t type, HostDateTime date, int32_t weekday, int32_t week,
+                                COLORREF textColor, COLORREF backColor, int32_t add) {
     return GuardedControlText(L"ZelCalSpecialDate()", L"Unable to add/remove date from special rule list.", 0,
                               CalendarOf(control), [&](CalendarModel &c) {
                                   const CDateTime day = DateArg(date);
@@ -60,8 +59,8 @@ int32_t ZKAPI ZelCalIsDateSpecial(ZelCalControl control, int32_t type, HostDateT
 // how it stands.
 int32_t ZKAPI ZelCalGetSpecials(ZelCalControl control, HostArray types, HostArray dates, HostArray weekdays,
                                 HostArray weeks) {
-    return GuardedControlText(L"ZelCalGetSpecials()", L"Unable to retrieve special weekdays.", -1,
-                              CalendarOf(control), [&](CalendarModel &c) {
+    return GuardedControlText(L"ZelCalGetSpecials()", L"Unable to retrieve special weekdays.", -1, CalendarOf(control),
+                              [&](CalendarModel &c) {
                                   int32_t count = 0;
                                   for (const auto &entry : c.Rules()) {
                                       const SSpecialRule &rule = entry.second;

@@ -1,12 +1,12 @@
 // Exports of the focus date, colours, style bits and the week start.
 #include "calendar/core/calendar_ids.h"
 #include "calendar/core/date_ops.h"
-#include "frame/core/errors.h"
 #include "calendar/win/calendar_exports.h"
+#include "frame/core/errors.h"
 
 using zk::GuardedControlText;
-using zk::cal::CalendarOf;
 using zk::cal::CalendarModel;
+using zk::cal::CalendarOf;
 using zk::cal::CDateTime;
 
 namespace {
@@ -18,8 +18,8 @@ bool IsWeekday(int32_t weekday) { return weekday >= 1 && weekday <= 7; }
 extern "C" {
 
 int32_t ZKAPI ZelCalGetFocusDate(ZelCalControl control, HostDateTime *date) {
-    return GuardedControlText(L"ZelCalGetFocusDate()", L"Unable to retrieve current datetime.", 0,
-                              CalendarOf(control), [&](CalendarModel &c) {
+    return GuardedControlText(L"ZelCalGetFocusDate()", L"Unable to retrieve current datetime.", 0, CalendarOf(control),
+                              [&](CalendarModel &c) {
                                   if (!date)
                                       throw zk::InvalidArgException();
                                   c.GetFocusDate().GetRecord(date);
@@ -29,8 +29,8 @@ int32_t ZKAPI ZelCalGetFocusDate(ZelCalControl control, HostDateTime *date) {
 
 // Valid is what the host reads back from the canonical text of the date.
 int32_t ZKAPI ZelCalSetFocusDate(ZelCalControl control, HostDateTime date) {
-    return GuardedControlText(L"ZelCalSetFocusDate()", L"Unable to assign new focus by date.", 0,
-                              CalendarOf(control), [&](CalendarModel &c) {
+    return GuardedControlText(L"ZelCalSetFocusDate()", L"Unable to assign new focus by date.", 0, CalendarOf(control),
+                              [&](CalendarModel &c) {
                                   const CDateTime value(date);
                                   const std::u16string text = value.KeyText();
                                   if (zk::cal::DateOps().isValidDateTime(text.c_str()) != 1)
@@ -57,10 +57,9 @@ int32_t ZKAPI ZelCalGetStyle(ZelCalControl control) {
 }
 
 int32_t ZKAPI ZelCalSetStyle(ZelCalControl control, int32_t mask, int32_t value) {
-    return GuardedControlText(L"ZelCalSetStyle()", L"Unable to update style bits.", 0, CalendarOf(control),
-                              [&](CalendarModel &c) {
-                                  return static_cast<int32_t>(c.SetStyle(static_cast<uint32_t>(mask), value));
-                              });
+    return GuardedControlText(
+        L"ZelCalSetStyle()", L"Unable to update style bits.", 0, CalendarOf(control),
+        [&](CalendarModel &c) { return static_cast<int32_t>(c.SetStyle(static_cast<uint32_t>(mask), value)); });
 }
 
 // A weekday outside 1 to 7 is reported with the spin field's range text.

@@ -15,12 +15,18 @@ struct Assignment {
     int32_t SPropCalendar::*field;
 };
 constexpr Assignment kAssignOrder[] = {
-    {CALS_AutoSize, &SPropCalendar::style1},           {CALS_EnableButtons, &SPropCalendar::style2},
-    {CALS_PopUp, &SPropCalendar::style3},              {CALS_EnableKeyboard, &SPropCalendar::style4},
-    {CALS_MultipleSelection, &SPropCalendar::style5},  {CALS_ShowFocus, &SPropCalendar::style6},
-    {CALS_AlternateButtons, &SPropCalendar::alternateButtons}, {CALS_EtchedLook, &SPropCalendar::etchedLook},
-    {CALS_SelectExtra, &SPropCalendar::selectExtra},   {CALS_SelectSpecial, &SPropCalendar::selectSpecial},
-    {CALS_ShowExtra, &SPropCalendar::showExtra},       {CALS_ShowGridlines, &SPropCalendar::showGridlines},
+    {CALS_AutoSize, &SPropCalendar::style1},
+    {CALS_EnableButtons, &SPropCalendar::style2},
+    {CALS_PopUp, &SPropCalendar::style3},
+    {CALS_EnableKeyboard, &SPropCalendar::style4},
+    {CALS_MultipleSelection, &SPropCalendar::style5},
+    {CALS_ShowFocus, &SPropCalendar::style6},
+    {CALS_AlternateButtons, &SPropCalendar::alternateButtons},
+    {CALS_EtchedLook, &SPropCalendar::etchedLook},
+    {CALS_SelectExtra, &SPropCalendar::selectExtra},
+    {CALS_SelectSpecial, &SPropCalendar::selectSpecial},
+    {CALS_ShowExtra, &SPropCalendar::showExtra},
+    {CALS_ShowGridlines, &SPropCalendar::showGridlines},
     {CALS_ShowSpecial, &SPropCalendar::showSpecial},
 };
 

@@ -16,8 +16,8 @@ const wchar_t *Wide(const char16_t *text) { return reinterpret_cast<const wchar_
 
 HostDateTime *Current(HostDateTime *out) { return HostDateCurrent(out); }
 
-HostDateTime *Construct(HostDateTime *out, int32_t year, int32_t month, int32_t day, int32_t hour,
-                        int32_t minute, int32_t second) {
+HostDateTime *Construct(HostDateTime *out, int32_t year, int32_t month, int32_t day, int32_t hour, int32_t minute,
+                        int32_t second) {
     return HostDateConstruct(out, year, month, day, hour, minute, second);
 }
 

@@ -17,14 +17,14 @@ struct SpinLayout {
     explicit SpinLayout(const Rect &client);
 
     Rect client;
-    Rect up;   // {a, top, right, top + h / 2}
-    Rect down; // {a, bottom - h / 2, right, bottom}
-    Rect edit; // at (-1, -1), client width - 2t + 2 wide, h + 2 high
-    int32_t a = 0;  // left of the buttons' strip: right - 2 * (h / 3)
-    int32_t mx = 0; // middle of the strip
-    int32_t my = 0; // top + h / 2
-    int32_t q = 0;  // a + 1, where the buttons' faces start
-    int32_t s = 0;  // the arrows' half width: (right - a - 6) / 2
+    Rect up;                          // {a, top, right, top + h / 2}
+    Rect down;                        // {a, bottom - h / 2, right, bottom}
+    Rect edit;                        // at (-1, -1), client width - 2t + 2 wide, h + 2 high
+    int32_t a = 0;                    // left of the buttons' strip: right - 2 * (h / 3)
+    int32_t mx = 0;                   // middle of the strip
+    int32_t my = 0;                   // top + h / 2
+    int32_t q = 0;                    // a + 1, where the buttons' faces start
+    int32_t s = 0;                    // the arrows' half width: (right - a - 6) / 2
     std::array<Point, 3> upArrow{};   // tip, then the base from left to right
     std::array<Point, 3> downArrow{}; // the base from left to right, then the tip
 

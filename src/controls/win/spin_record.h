@@ -18,10 +18,10 @@ inline constexpr const wchar_t *kSpinParentProperty = L"ZK:SpinParent";
 
 #pragma pack(push, 1)
 struct SpinRecord {
-    SpinValues values;  // value, minimum, maximum, increment, decimalAdjust
-    HWND edit;          // the child edit
-    HWND self;          // the spin window
-    HWND lastFocus;     // the window that gave the spin window the focus
+    SpinValues values; // value, minimum, maximum, increment, decimalAdjust
+    HWND edit;         // the child edit
+    HWND self;         // the spin window
+    HWND lastFocus;    // the window that gave the spin window the focus
     HFONT font;
     WNDPROC editProc;   // the edit's former procedure
     uint16_t flags;     // SPF_...

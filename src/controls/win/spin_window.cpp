@@ -306,7 +306,8 @@ void OnPaint(HWND self, HDC given) {
         if (!design)
             area = area.Intersect(layout.Strip());
         PaintBuffer buffer;
-        buffer.Paint(self, dc, client, area, [&](HDC off, const Rect &) { PaintSpin(off, layout, r.flags, design, back); });
+        buffer.Paint(self, dc, client, area,
+                     [&](HDC off, const Rect &) { PaintSpin(off, layout, r.flags, design, back); });
     };
     if (given) {
         paint(given);

@@ -14,9 +14,8 @@ CSplitter::CSplitter() { LoadArt(); }
 
 bool CSplitter::Create(DWORD style, const RECT &rect, HWND parent, UINT id, void *param) {
     EnsureClass(kSplitterClass);
-    return CreateEx(0, kSplitterClass, L"", style, rect.left, rect.top, rect.right - rect.left,
-                    rect.bottom - rect.top, parent, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)),
-                    param) != nullptr;
+    return CreateEx(0, kSplitterClass, L"", style, rect.left, rect.top, rect.right - rect.left, rect.bottom - rect.top,
+                    parent, reinterpret_cast<HMENU>(static_cast<UINT_PTR>(id)), param) != nullptr;
 }
 
 bool CSplitter::IsSplitter(HWND window) { return dynamic_cast<CSplitter *>(Window::FromHandle(window)) != nullptr; }

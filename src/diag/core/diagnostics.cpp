@@ -22,8 +22,8 @@ int32_t Diagnostics::Assert(int32_t condition, const char16_t *text) {
     // "%s: %s" of the name and the text, in a block of its own.
     const uint64_t chars = name.size() + 2 + said.size();
     Blocks &memory = system_.Memory();
-    OwnedBlock block(memory, 2 * chars + 2 <= UINT32_MAX ? memory.Alloc(static_cast<uint32_t>(2 * chars + 2))
-                                                         : nullptr);
+    OwnedBlock block(memory,
+                     2 * chars + 2 <= UINT32_MAX ? memory.Alloc(static_cast<uint32_t>(2 * chars + 2)) : nullptr);
     Locked locked(memory, block.get());
     if (!locked) {
         system_.Box(name.c_str(), kAssertionCaption);

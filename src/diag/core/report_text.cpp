@@ -16,8 +16,8 @@ void PutClock(ReportSink &out, const std::u16string &time) {
 
 } // namespace
 
-void WriteReport(const std::vector<Sample> &samples, const char16_t *totalText, uint32_t flags,
-                 System &system, ReportSink &out) {
+void WriteReport(const std::vector<Sample> &samples, const char16_t *totalText, uint32_t flags, System &system,
+                 ReportSink &out) {
     const size_t count = samples.size();
     const bool clock = (flags & kClockTime) != 0;
     uint32_t start = 0;

@@ -15,7 +15,7 @@ namespace zk::diag {
 // `flags` decides what a line shows (kElapsed, kClockTime) and whether the
 // total ends with two line feeds (not in a box); clock times are asked of
 // `system`, once per sample.
-void WriteReport(const std::vector<Sample> &samples, const char16_t *totalText, uint32_t flags,
-                 System &system, ReportSink &out);
+void WriteReport(const std::vector<Sample> &samples, const char16_t *totalText, uint32_t flags, System &system,
+                 ReportSink &out);
 
 } // namespace zk::diag

@@ -12,7 +12,7 @@
 
 namespace zk::diag {
 
-inline constexpr uint32_t kSampleBufferStart = 512; // bytes of a new buffer
+inline constexpr uint32_t kSampleBufferStart = 512;  // bytes of a new buffer
 inline constexpr uint32_t kSampleBufferGrowth = 512; // bytes added beyond the sample that needs room
 
 class SampleBuffer {

@@ -56,8 +56,8 @@ uint16_t CArchive::ReadU16() {
 uint32_t CArchive::ReadU32() {
     uint8_t b[4];
     Read(b, 4);
-    return static_cast<uint32_t>(b[0]) | static_cast<uint32_t>(b[1]) << 8 |
-           static_cast<uint32_t>(b[2]) << 16 | static_cast<uint32_t>(b[3]) << 24;
+    return static_cast<uint32_t>(b[0]) | static_cast<uint32_t>(b[1]) << 8 | static_cast<uint32_t>(b[2]) << 16 |
+           static_cast<uint32_t>(b[3]) << 24;
 }
 
 void CArchive::WriteCount(size_t count) {

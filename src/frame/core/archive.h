@@ -23,11 +23,11 @@ namespace zk {
 
 struct ArchiveException {
     enum Cause {
-        endOfFile,   // the record goes on past the end of the file
-        badIndex,    // a tag refers to nothing read before, or to an object
-        badClass,    // a class name that is not the one expected there
-        badSchema,   // too many objects for the index space
-        wrongMode,   // reading a storing archive, writing a loading one, or after Close
+        endOfFile, // the record goes on past the end of the file
+        badIndex,  // a tag refers to nothing read before, or to an object
+        badClass,  // a class name that is not the one expected there
+        badSchema, // too many objects for the index space
+        wrongMode, // reading a storing archive, writing a loading one, or after Close
     };
     Cause cause;
 };

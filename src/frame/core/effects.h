@@ -54,14 +54,12 @@ protected:
 };
 
 // Virtual-key codes the controls' input tables use.
-inline constexpr uint32_t kKeyBack = 0x08, kKeyTab = 0x09, kKeyReturn = 0x0D, kKeyShift = 0x10,
-                          kKeyControl = 0x11, kKeyMenu = 0x12, kKeyEscape = 0x1B, kKeySpace = 0x20,
-                          kKeyPrior = 0x21, kKeyNext = 0x22, kKeyEnd = 0x23, kKeyHome = 0x24, kKeyLeft = 0x25,
-                          kKeyUp = 0x26, kKeyRight = 0x27, kKeyDown = 0x28, kKeyInsert = 0x2D,
-                          kKeyDelete = 0x2E, kKeyF4 = 0x73;
+inline constexpr uint32_t kKeyBack = 0x08, kKeyTab = 0x09, kKeyReturn = 0x0D, kKeyShift = 0x10, kKeyControl = 0x11,
+                          kKeyMenu = 0x12, kKeyEscape = 0x1B, kKeySpace = 0x20, kKeyPrior = 0x21, kKeyNext = 0x22,
+                          kKeyEnd = 0x23, kKeyHome = 0x24, kKeyLeft = 0x25, kKeyUp = 0x26, kKeyRight = 0x27,
+                          kKeyDown = 0x28, kKeyInsert = 0x2D, kKeyDelete = 0x2E, kKeyF4 = 0x73;
 // Mouse-key bits of the mouse messages.
-inline constexpr uint32_t kMouseLeft = 0x0001, kMouseRight = 0x0002, kMouseShift = 0x0004,
-                          kMouseControl = 0x0008;
+inline constexpr uint32_t kMouseLeft = 0x0001, kMouseRight = 0x0002, kMouseShift = 0x0004, kMouseControl = 0x0008;
 // Messages the controls post for the application.
 inline constexpr uint32_t kHostMsgSelect = 0x2006, kHostMsgDoubleClick = 0x2009;
 

@@ -14,10 +14,10 @@
 namespace zk {
 
 enum class LiveKind : uint8_t {
-    OutlineItem = 1, // LbxItem
-    OutlineNode = 2, // LbxNode: the item handle
-    Picture = 3,     // PIC: the picture handle
-    Accelerator = 4, // the local block of an accelerator record
+    OutlineItem = 1,   // LbxItem
+    OutlineNode = 2,   // LbxNode: the item handle
+    Picture = 3,       // PIC: the picture handle
+    Accelerator = 4,   // the local block of an accelerator record
     MessageButton = 5, // a button object of the message box
 };
 

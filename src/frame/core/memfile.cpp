@@ -27,8 +27,7 @@ size_t CMemFile::Seek(int64_t offset, SeekFrom from) {
         base = static_cast<int64_t>(position_);
     else if (from == end)
         base = static_cast<int64_t>(data_.size());
-    if ((offset < 0 && base + offset < 0) ||
-        (offset > 0 && base > std::numeric_limits<int64_t>::max() - offset))
+    if ((offset < 0 && base + offset < 0) || (offset > 0 && base > std::numeric_limits<int64_t>::max() - offset))
         throw FileException{FileException::badSeek};
     const int64_t target = base + offset;
     if (static_cast<uint64_t>(target) > std::numeric_limits<size_t>::max())

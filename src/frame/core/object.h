@@ -37,12 +37,11 @@ std::unique_ptr<CObject> CreateObject() {
 
 // In a class body: the class's runtime information. The class must be
 // default-constructible.
-#define ZK_DECLARE_SERIAL(Class)                                                                   \
-public:                                                                                            \
-    static const ::zk::RuntimeClass classInfo;                                                     \
+#define ZK_DECLARE_SERIAL(Class)                                                                                       \
+public:                                                                                                                \
+    static const ::zk::RuntimeClass classInfo;                                                                         \
     const ::zk::RuntimeClass &GetRuntimeClass() const override { return classInfo; }
 
 // In one source file: the name under which the class is stored.
-#define ZK_IMPLEMENT_SERIAL(Class)                                                                 \
-    const ::zk::RuntimeClass Class::classInfo = {#Class, ::zk::kSerialSchema,                      \
-                                                 &::zk::CreateObject<Class>};
+#define ZK_IMPLEMENT_SERIAL(Class)                                                                                     \
+    const ::zk::RuntimeClass Class::classInfo = {#Class, ::zk::kSerialSchema, &::zk::CreateObject<Class>};

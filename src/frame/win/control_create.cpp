@@ -13,8 +13,7 @@ bool OnOwnProcedure(HWND window, const wchar_t *className) {
     wchar_t name[64] = {};
     if (!GetClassNameW(window, name, 64) || lstrcmpiW(name, className) != 0)
         return false;
-    return static_cast<ULONG_PTR>(GetWindowLongPtrW(window, GWLP_WNDPROC)) ==
-           GetClassLongPtrW(window, GCLP_WNDPROC);
+    return static_cast<ULONG_PTR>(GetWindowLongPtrW(window, GWLP_WNDPROC)) == GetClassLongPtrW(window, GCLP_WNDPROC);
 }
 
 Window *MakeObject(ControlMaker make, LPARAM &announced) {

@@ -15,8 +15,7 @@ void ControlWindow::ControlNotify(int code) {
     if (!window || !notifyWindow)
         return;
     const auto id = static_cast<WORD>(GetDlgCtrlID(window) & 0xFFFF);
-    PostMessageW(notifyWindow, WM_COMMAND, MAKEWPARAM(id, static_cast<WORD>(code)),
-                 reinterpret_cast<LPARAM>(window));
+    PostMessageW(notifyWindow, WM_COMMAND, MAKEWPARAM(id, static_cast<WORD>(code)), reinterpret_cast<LPARAM>(window));
 }
 
 Rect ControlWindow::ClientArea() const {

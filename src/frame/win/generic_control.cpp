@@ -37,8 +37,7 @@ COLORREF CGenericControl::GetRoleColor(int role) {
     // Every entry of the base table is a system colour; a derived class's
     // table may have following roles, which follow the text for role 1 and
     // the window for the others.
-    return roles.Get(role, &SysColor,
-                     [](int32_t r) { return GetSysColor(r == 1 ? COLOR_WINDOWTEXT : COLOR_WINDOW); });
+    return roles.Get(role, &SysColor, [](int32_t r) { return GetSysColor(r == 1 ? COLOR_WINDOWTEXT : COLOR_WINDOW); });
 }
 
 COLORREF CGenericControl::SetRoleColor(int role, COLORREF colour, int redraw) {

@@ -12,8 +12,7 @@ HFONT MakeDefaultFont(HWND window) {
     if (ClientDC dc(window); dc)
         pixelsPerInch = GetDeviceCaps(dc, LOGPIXELSY);
     const int height = (-8 * pixelsPerInch) / 72; // truncated toward zero
-    return CreateFontW(height, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, VARIABLE_PITCH | FF_SWISS,
-                       L"MS Sans Serif");
+    return CreateFontW(height, 0, 0, 0, FW_BOLD, 0, 0, 0, 0, 0, 0, 0, VARIABLE_PITCH | FF_SWISS, L"MS Sans Serif");
 }
 
 } // namespace

@@ -83,8 +83,7 @@ auto NullChecked(const wchar_t *functionName, Control *control, Body &body) {
 }
 
 template <class R, class Control, class Body>
-R GuardedControl(const wchar_t *functionName, UINT traceId, R failure, Control *control,
-                 Body &&body) noexcept {
+R GuardedControl(const wchar_t *functionName, UINT traceId, R failure, Control *control, Body &&body) noexcept {
     return Guarded(functionName, traceId, failure, NullChecked<R>(functionName, control, body));
 }
 

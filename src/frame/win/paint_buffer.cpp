@@ -45,8 +45,7 @@ void PaintBuffer::Paint(HWND window, HDC dc, const Rect &client, const Rect &are
     BitBlt(dc, clip.left, clip.top, clip.Width(), clip.Height(), off, clip.left, clip.top, SRCCOPY);
 }
 
-void PaintBuffer::PaintMessage(HWND window, const Rect &client,
-                               const std::function<void(HDC, const Rect &)> &paint) {
+void PaintBuffer::PaintMessage(HWND window, const Rect &client, const std::function<void(HDC, const Rect &)> &paint) {
     PaintDC dc(window);
     if (dc)
         Paint(window, dc, client, ClipBox(dc), paint);

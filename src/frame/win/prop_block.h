@@ -9,9 +9,9 @@
 
 #include <windows.h>
 
+#include "controls/core/spin_block.h"
 #include "frame/core/block_io.h"
 #include "frame/core/memfile.h"
-#include "controls/core/spin_block.h"
 #include "zkhost.h"
 
 namespace zk {

@@ -16,8 +16,7 @@ INT_PTR CALLBACK RecoveryDialogProc(HWND dialog, UINT message, WPARAM wParam, LP
         // Closing would leave the application without an answer: the
         // close command stays visible but cannot be chosen.
         HMENU system = GetSystemMenu(dialog, FALSE);
-        ModifyMenuW(system, SC_CLOSE, MF_BYCOMMAND | MF_STRING | MF_GRAYED, SC_CLOSE,
-                    L"&Close Alt+F4");
+        ModifyMenuW(system, SC_CLOSE, MF_BYCOMMAND | MF_STRING | MF_GRAYED, SC_CLOSE, L"&Close Alt+F4");
         return TRUE;
     }
     case WM_COMMAND:
@@ -40,7 +39,6 @@ extern "C" int32_t ZKAPI ZelErrorRecovery(const wchar_t *caption) {
     // The caller's text may live in host memory that the dialog's message
     // loop could move: keep a copy for the dialog's lifetime.
     const std::wstring copy = caption ? caption : L"";
-    return static_cast<int32_t>(DialogBoxParamW(zk::ModuleInstance, MAKEINTRESOURCEW(IDD_RECOVERY),
-                                                GetActiveWindow(), RecoveryDialogProc,
-                                                reinterpret_cast<LPARAM>(copy.c_str())));
+    return static_cast<int32_t>(DialogBoxParamW(zk::ModuleInstance, MAKEINTRESOURCEW(IDD_RECOVERY), GetActiveWindow(),
+                                                RecoveryDialogProc, reinterpret_cast<LPARAM>(copy.c_str())));
 }

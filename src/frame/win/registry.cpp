@@ -12,8 +12,8 @@ const int SmallIconWidth = 16, SmallIconHeight = 16;
 namespace {
 
 constexpr std::array<const wchar_t *, 9> paletteNames = {
-    L"ZK_LOGO",   L"ZK_CAL",            L"ZK_CALDROPDOWN", L"ZK_CLRPAL",  L"ZK_CLRPALDROPDOWN",
-    L"ZK_LISTVW", L"ZK_LISTVWDROPDOWN", L"ZK_METER",       L"ZK_SPINFLD",
+    L"ZK_LOGO",           L"ZK_CAL",   L"ZK_CALDROPDOWN", L"ZK_CLRPAL", L"ZK_CLRPALDROPDOWN", L"ZK_LISTVW",
+    L"ZK_LISTVWDROPDOWN", L"ZK_METER", L"ZK_SPINFLD",
 };
 std::array<HBITMAP, 9> paletteBitmaps{};
 
@@ -31,9 +31,7 @@ HBITMAP PaletteBitmap(int index) {
     return paletteBitmaps[static_cast<size_t>(index)];
 }
 
-bool IsHostListClassName(const wchar_t *name) {
-    return name && classNameMapFilled && classNameMap.count(name) != 0;
-}
+bool IsHostListClassName(const wchar_t *name) { return name && classNameMapFilled && classNameMap.count(name) != 0; }
 
 void LoadProcessState(HINSTANCE instance) {
     IconHeight = GetSystemMetrics(SM_CYICON);

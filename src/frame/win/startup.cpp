@@ -10,9 +10,9 @@
 #include "calendar/win/calendar_bootstrap.h"
 #include "controls/win/controls_bootstrap.h"
 #include "frame/win/host.h"
-#include "headerlist/win/headerlist_bootstrap.h"
 #include "frame/win/registry.h"
 #include "frame/win/window.h"
+#include "headerlist/win/headerlist_bootstrap.h"
 #include "palette/win/palette_bootstrap.h"
 
 namespace zk {

@@ -2,7 +2,6 @@
 
 #include "frame/win/host.h"
 
-
 namespace zk {
 
 namespace {
@@ -19,9 +18,7 @@ Window *pendingCreation = nullptr;
 // The innermost message being handled, for Default().
 const MSG *currentMessage = nullptr;
 
-WNDPROC ProcedureOf(HWND window) {
-    return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC));
-}
+WNDPROC ProcedureOf(HWND window) { return reinterpret_cast<WNDPROC>(GetWindowLongPtrW(window, GWLP_WNDPROC)); }
 
 } // namespace
 
@@ -85,8 +82,8 @@ HWND Window::CreateEx(DWORD exStyle, const wchar_t *className, const wchar_t *ti
     pendingCreation = this;
     // The library's own classes are found through its instance.
     HINSTANCE instance = ModuleInstance ? ModuleInstance : GetModuleHandleW(nullptr);
-    HWND window = CreateWindowExW(exStyle, className, title, style, x, y, width, height, parent, menuOrId,
-                                  instance, param);
+    HWND window =
+        CreateWindowExW(exStyle, className, title, style, x, y, width, height, parent, menuOrId, instance, param);
     const bool reached = pendingCreation != this;
     if (!reached)
         pendingCreation = nullptr;
@@ -202,8 +199,7 @@ WNDPROC ReplaceProcedure(HWND window, WNDPROC procedure) {
     if (!IsWindow(window) || !procedure || !GetWindowThreadProcessId(window, &process) ||
         process != GetCurrentProcessId())
         return nullptr;
-    return reinterpret_cast<WNDPROC>(
-        SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+    return reinterpret_cast<WNDPROC>(SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
 }
 
 } // namespace zk

@@ -57,8 +57,8 @@ public:
     // procedure is FrameProcedure (or passes to it), with this object
     // attached from its first message. Null on failure: PostNcDestroy has
     // then run, so an object that deletes itself is already gone.
-    HWND CreateEx(DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, int x, int y,
-                  int width, int height, HWND parent, HMENU menuOrId, void *param = nullptr);
+    HWND CreateEx(DWORD exStyle, const wchar_t *className, const wchar_t *title, DWORD style, int x, int y, int width,
+                  int height, HWND parent, HMENU menuOrId, void *param = nullptr);
 
     // Ties the object to a window whose procedure passes its messages to
     // the family's procedure. False when the window has an object of the

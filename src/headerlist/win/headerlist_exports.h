@@ -20,7 +20,8 @@ inline LRESULT Send(const CHeaderListBox &list, UINT message, WPARAM wParam = 0,
 }
 
 // A required out pointer: a null one is the caller's mistake.
-template <class T> T &Required(T *pointer) {
+template <class T>
+T &Required(T *pointer) {
     if (!pointer)
         throw UserException();
     return *pointer;

@@ -5,8 +5,8 @@
 namespace zk::menu {
 
 bool ModifiersMatch(uint32_t modifiers, KeyState held) {
-    const uint32_t value = (held.shift ? ACCEL_Shift : 0) | (held.control ? ACCEL_Control : 0) |
-                           (held.alt ? ACCEL_Alt : 0);
+    const uint32_t value =
+        (held.shift ? ACCEL_Shift : 0) | (held.control ? ACCEL_Control : 0) | (held.alt ? ACCEL_Alt : 0);
     return modifiers == value;
 }
 
@@ -17,7 +17,8 @@ void AccelIndex::Remove(uint16_t key, std::uintptr_t handle) noexcept {
     if (found == byKey_.end())
         return;
     std::vector<AccelEntry> &entries = found->second;
-    const auto at = std::find_if(entries.begin(), entries.end(), [&](const AccelEntry &e) { return e.handle == handle; });
+    const auto at =
+        std::find_if(entries.begin(), entries.end(), [&](const AccelEntry &e) { return e.handle == handle; });
     if (at != entries.end())
         entries.erase(at);
     if (entries.empty())

@@ -30,13 +30,13 @@ inline constexpr int32_t kRecordStep = 10;
 
 #pragma pack(push, 1)
 struct MenuRecord {
-    void *menu;             // HMENU holding the item
-    int32_t id;             // its command id
-    uint16_t flags;         // kRecordReported
-    void *text;             // HLOCAL of the wide text, or 0
-    PIC *picture;           // normal state; not owned
-    PIC *selectedPicture;   // selected state; not owned
-    void *font;             // HFONT; not owned
+    void *menu;           // HMENU holding the item
+    int32_t id;           // its command id
+    uint16_t flags;       // kRecordReported
+    void *text;           // HLOCAL of the wide text, or 0
+    PIC *picture;         // normal state; not owned
+    PIC *selectedPicture; // selected state; not owned
+    void *font;           // HFONT; not owned
 };
 #pragma pack(pop)
 static_assert(sizeof(void *) != 4 || sizeof(MenuRecord) == 26, "the record is packed: 26 bytes on 32 bits");
@@ -44,12 +44,12 @@ static_assert(sizeof(void *) != 4 || sizeof(MenuRecord) == 26, "the record is pa
 class CMenuStack;
 
 struct MenuBlock {
-    void *oldProc;         // WNDPROC the subclass replaced
-    int32_t lastId;        // highest command id known
-    void *records;         // HLOCAL of `capacity` MenuRecord
-    int32_t count;         // records in use
-    int32_t capacity;      // records allocated
-    CMenuStack *freeIds;   // ids given back by deletion
+    void *oldProc;       // WNDPROC the subclass replaced
+    int32_t lastId;      // highest command id known
+    void *records;       // HLOCAL of `capacity` MenuRecord
+    int32_t count;       // records in use
+    int32_t capacity;    // records allocated
+    CMenuStack *freeIds; // ids given back by deletion
 };
 static_assert(sizeof(void *) != 4 || sizeof(MenuBlock) == 24, "the block is 24 bytes on 32 bits");
 

@@ -3,7 +3,7 @@
 #ifndef ZK_MESSAGE_BOX_IDS_H
 #define ZK_MESSAGE_BOX_IDS_H
 
-#define IDD_MSGBOX      301
+#define IDD_MSGBOX 301
 #define IDC_MSGBOX_ICON 302
 #define IDC_MSGBOX_TEXT 303
 

@@ -51,8 +51,8 @@ MsgBoxLayout LayOutMessageBox(const MsgBoxMetrics &m, bool hasIcon, std::u16stri
             out.buttonWidth = std::max(out.buttonWidth, measure.ButtonText(*caption) + buttonGap);
     // A row wider than the screen is cut to it; the buttons keep their
     // places and run off the edge.
-    out.row = std::min(count * out.buttonWidth + (count - 1) * buttonGap + 2 * sideMargin,
-                       m.screenWidth - 2 * m.frameY);
+    out.row =
+        std::min(count * out.buttonWidth + (count - 1) * buttonGap + 2 * sideMargin, m.screenWidth - 2 * m.frameY);
 
     const int32_t width =
         std::max(out.row, size.width + iconTextGap + rightMargin + iconLeft + iconWidth) + 2 * m.frameX;

@@ -13,10 +13,10 @@
 namespace zk::menu {
 
 struct MsgBoxMetrics {
-    int32_t baseX = 0, baseY = 0;             // the dialog base units
-    int32_t iconWidth = 0, iconHeight = 0;    // SM_CXICON, SM_CYICON
-    int32_t frameX = 0, frameY = 0;           // SM_CXDLGFRAME, SM_CYDLGFRAME
-    int32_t caption = 0;                      // SM_CYCAPTION
+    int32_t baseX = 0, baseY = 0;              // the dialog base units
+    int32_t iconWidth = 0, iconHeight = 0;     // SM_CXICON, SM_CYICON
+    int32_t frameX = 0, frameY = 0;            // SM_CXDLGFRAME, SM_CYDLGFRAME
+    int32_t caption = 0;                       // SM_CYCAPTION
     int32_t screenWidth = 0, screenHeight = 0; // SM_CXFULLSCREEN, SM_CYFULLSCREEN
 };
 
@@ -42,9 +42,9 @@ struct MsgBoxLayout {
     Rect dialog;
     Point icon;
     Rect text;
-    int32_t textLimit = 0;  // the widest the text may be
-    bool wrapped = false;   // measured as broken lines
-    int32_t row = 0;        // the width of the button row
+    int32_t textLimit = 0; // the widest the text may be
+    bool wrapped = false;  // measured as broken lines
+    int32_t row = 0;       // the width of the button row
     int32_t buttonWidth = 0, buttonHeight = 0, buttonY = 0;
     std::vector<int32_t> buttonX; // one per place in the row, blank ones too
 };

@@ -26,9 +26,9 @@ std::uintptr_t Word(HLOCAL handle) { return reinterpret_cast<std::uintptr_t>(han
 HHOOK InstallHook() {
     HMODULE module = GetModuleHandleW(L"ZKLIB");
     FARPROC procedure = module ? GetProcAddress(module, "KeyboardHookProc") : nullptr;
-    return procedure ? SetWindowsHookExW(WH_KEYBOARD, reinterpret_cast<HOOKPROC>(procedure), module,
-                                         GetCurrentThreadId())
-                     : nullptr;
+    return procedure
+               ? SetWindowsHookExW(WH_KEYBOARD, reinterpret_cast<HOOKPROC>(procedure), module, GetCurrentThreadId())
+               : nullptr;
 }
 
 bool SetNext(HLOCAL record, HLOCAL next) {

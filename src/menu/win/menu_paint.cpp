@@ -147,7 +147,7 @@ bool DrawMenuItem(HLOCAL block, const DRAWITEMSTRUCT &item) {
         if (record.font)
             oldFont = SelectObject(dc, static_cast<HFONT>(record.font));
         const bool greyed = (item.itemState & (ODS_DISABLED | ODS_GRAYED)) != 0;
-        oldText = SetTextColor(dc, greyed      ? GetSysColor(COLOR_GRAYTEXT)
+        oldText = SetTextColor(dc, greyed     ? GetSysColor(COLOR_GRAYTEXT)
                                    : selected ? GetSysColor(COLOR_HIGHLIGHTTEXT)
                                               : RGB(0, 0, 0));
         oldMode = SetBkMode(dc, TRANSPARENT);
@@ -166,8 +166,8 @@ bool DrawMenuItem(HLOCAL block, const DRAWITEMSTRUCT &item) {
                   &box, format);
         if (parts.hasTab) {
             box = ToRECT(at.afterTab);
-            DrawTextW(dc, reinterpret_cast<const wchar_t *>(parts.after.data()),
-                      static_cast<int>(parts.after.size()), &box, format);
+            DrawTextW(dc, reinterpret_cast<const wchar_t *>(parts.after.data()), static_cast<int>(parts.after.size()),
+                      &box, format);
         }
     }
     DrawPicture(dc, *picture, LayoutItem(m));

@@ -16,8 +16,8 @@ BOOL CALLBACK FirstPopup(HWND window, LPARAM lParam) {
 }
 
 BOOL CALLBACK RepaintPopup(HWND window, LPARAM lParam) {
-    if (IsOpenPopup(window) && reinterpret_cast<HMENU>(SendMessageW(window, MN_GETHMENU, 0, 0)) ==
-                                   reinterpret_cast<HMENU>(lParam))
+    if (IsOpenPopup(window) &&
+        reinterpret_cast<HMENU>(SendMessageW(window, MN_GETHMENU, 0, 0)) == reinterpret_cast<HMENU>(lParam))
         RedrawWindow(window, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
     return TRUE;
 }

@@ -87,8 +87,8 @@ int32_t SetPicture(HWND window, HMENU menu, int32_t selector, INT_PTR picture, I
     HWND frame = t.open.frame;
     if (ZelMenuInFrame(frame, menu)) {
         const int32_t done = normal->type == PIC_TypeBitmap
-                                 ? HostFrameSetMenuPictureBitmap(frame, t.id, Wide(value), normal->bitmap,
-                                                                 normal->mask, normal->width, normal->height)
+                                 ? HostFrameSetMenuPictureBitmap(frame, t.id, Wide(value), normal->bitmap, normal->mask,
+                                                                 normal->width, normal->height)
                                  : HostFrameSetMenuPictureIcon(frame, t.id, Wide(value), normal->icon);
         if (!done) {
             FreeText(copy);

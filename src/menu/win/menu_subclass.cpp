@@ -10,8 +10,8 @@ namespace zk::menu {
 namespace {
 
 char16_t CaseOf(char16_t key, bool upper) {
-    const auto mapped = reinterpret_cast<ULONG_PTR>((upper ? CharUpperW : CharLowerW)(
-        reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(key))));
+    const auto mapped = reinterpret_cast<ULONG_PTR>(
+        (upper ? CharUpperW : CharLowerW)(reinterpret_cast<LPWSTR>(static_cast<ULONG_PTR>(key))));
     return static_cast<char16_t>(LOWORD(mapped));
 }
 
@@ -48,9 +48,8 @@ LRESULT MenuChar(HWND window, HLOCAL block, WNDPROC old, WPARAM wParam, LPARAM l
 void ReportCommand(HWND window, HLOCAL block, WPARAM wParam) {
     std::vector<int32_t> ids;
     try {
-        WithTable(block, [&](MenuBlock &b, MenuRecord *records) {
-            ids = CommandTargets(records, b.count, LOWORD(wParam));
-        });
+        WithTable(block,
+                  [&](MenuBlock &b, MenuRecord *records) { ids = CommandTargets(records, b.count, LOWORD(wParam)); });
     } catch (...) {
         return;
     }

@@ -80,7 +80,8 @@ int32_t SetText(HWND window, HMENU menu, int32_t selector, const wchar_t *text) 
     const bool popup = state != static_cast<UINT>(-1) && (state & MF_POPUP);
     BOOL modified = FALSE;
     if (state != static_cast<UINT>(-1)) {
-        const UINT_PTR item = popup ? reinterpret_cast<UINT_PTR>(GetSubMenu(menu, selector)) : static_cast<UINT_PTR>(id);
+        const UINT_PTR item =
+            popup ? reinterpret_cast<UINT_PTR>(GetSubMenu(menu, selector)) : static_cast<UINT_PTR>(id);
         modified = ModifyMenuW(menu, static_cast<UINT>(selector), (popup ? MF_POPUP : state) | by, item, Wide(value));
     }
     int32_t result = modified ? 1 : 0;

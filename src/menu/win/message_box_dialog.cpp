@@ -17,7 +17,7 @@ COLORREF MessageColour = 0x00FFFFFF;
 
 MsgButton *ButtonFromHandle(INT_PTR handle) noexcept {
     return IsLive(LiveKind::MessageButton, static_cast<std::uintptr_t>(handle)) ? reinterpret_cast<MsgButton *>(handle)
-                                                                                 : nullptr;
+                                                                                : nullptr;
 }
 
 namespace {
@@ -149,10 +149,10 @@ bool InitDialog(HWND dialog, HLOCAL blockHandle) {
             continue;
         const int32_t id = MsgBoxButtonId(button->result, place, count);
         button->controlId = static_cast<uint32_t>(id);
-        HWND control = CreateWindowExW(0, L"button", button->text.c_str(),
-                                       WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP, layout.buttonX[place],
-                                       layout.buttonY, layout.buttonWidth, layout.buttonHeight, dialog,
-                                       reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ModuleInstance, nullptr);
+        HWND control =
+            CreateWindowExW(0, L"button", button->text.c_str(), WS_CHILD | WS_VISIBLE | WS_GROUP | WS_TABSTOP,
+                            layout.buttonX[place], layout.buttonY, layout.buttonWidth, layout.buttonHeight, dialog,
+                            reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), ModuleInstance, nullptr);
         if (!control)
             return false;
         if (isDefault)
@@ -180,8 +180,8 @@ INT_PTR Command(HWND dialog, WPARAM wParam) {
 // system draws them.
 INT_PTR Colour(HWND dialog, UINT message, HDC dc, HWND control) {
     MsgBoxBlock block{};
-    const bool ours = message == WM_CTLCOLORDLG ? control == dialog
-                                                : message == WM_CTLCOLORSTATIC && GetParent(control) == dialog;
+    const bool ours =
+        message == WM_CTLCOLORDLG ? control == dialog : message == WM_CTLCOLORSTATIC && GetParent(control) == dialog;
     if (!ours || !LocalCopy(PropGet(dialog, kMsgBoxProp), &block))
         return 0;
     SetBkColor(dc, block.colour);

@@ -130,9 +130,8 @@ bool SetFlags(HWND window, uint32_t flags, bool set) {
     if (set && (flags & WF_RequiredButton) && !PrepareParentSide(window))
         return false;
     const HLOCAL block = SubclassWithRecord<FlagsField>(window, kWinFlagsProp, &WinFlagsBlock::oldProc);
-    if (!block || !LocalWith<WinFlagsBlock>(block, [&](WinFlagsBlock &b) {
-            b.flags = set ? b.flags | flags : b.flags & ~flags;
-        }))
+    if (!block ||
+        !LocalWith<WinFlagsBlock>(block, [&](WinFlagsBlock &b) { b.flags = set ? b.flags | flags : b.flags & ~flags; }))
         return false;
     if (flags & WF_ReadOnly)
         SetReadOnly(window, set);

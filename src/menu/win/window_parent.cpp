@@ -50,8 +50,8 @@ void UpdateRequiredButtons(HWND window) {
         });
     } else if (IsTopLevelForm(type)) {
         ForEachChild(GetParent(form), [&](HWND sibling) {
-            if (HWND bar = FindChild(sibling, 0x7FFFFFFF,
-                                     [](HWND child) { return HostWinType(child) == HOST_WT_TOOLBAR; }))
+            if (HWND bar =
+                    FindChild(sibling, 0x7FFFFFFF, [](HWND child) { return HostWinType(child) == HOST_WT_TOOLBAR; }))
                 ApplyTo(bar, requiredNull);
         });
     }

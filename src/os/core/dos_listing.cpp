@@ -31,7 +31,7 @@ std::optional<DosWords> ToDosWords(const CivilTime &t) {
 }
 
 CivilTime FromDosWords(DosWords words) {
-    return CivilTime{1980 + (words.date >> 9), (words.date >> 5) & 0xF, words.date & 0x1F,
+    return CivilTime{1980 + (words.date >> 9), (words.date >> 5) & 0xF,  words.date & 0x1F,
                      words.time >> 11,         (words.time >> 5) & 0x3F, (words.time & 0x1F) * 2};
 }
 

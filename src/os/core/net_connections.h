@@ -14,9 +14,9 @@
 namespace zk::os {
 
 // The platform's codes that the walk tells apart.
-inline constexpr uint32_t kNetMoreData = 234;  // ERROR_MORE_DATA: the block is too small
-inline constexpr int32_t kDriveRemote = 4;     // DRIVE_REMOTE
-inline constexpr int32_t kNetNoMemory = -8;    // ERROR_NOT_ENOUGH_MEMORY, negated
+inline constexpr uint32_t kNetMoreData = 234; // ERROR_MORE_DATA: the block is too small
+inline constexpr int32_t kDriveRemote = 4;    // DRIVE_REMOTE
+inline constexpr int32_t kNetNoMemory = -8;   // ERROR_NOT_ENOUGH_MEMORY, negated
 // Characters of the first answer block, and of each step it grows by.
 inline constexpr size_t kNetBlockStep = 256;
 

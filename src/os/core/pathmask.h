@@ -32,9 +32,9 @@ public:
 };
 
 struct SplitResult {
-    int32_t code = 0;     // 0, -15 unknown drive, -3 unknown directory
-    std::u16string dir;   // with its final backslash, or empty
-    std::u16string name;  // name mask, or empty
+    int32_t code = 0;    // 0, -15 unknown drive, -3 unknown directory
+    std::u16string dir;  // with its final backslash, or empty
+    std::u16string name; // name mask, or empty
 };
 
 // Splits a destination. An existing directory written without a final

@@ -64,8 +64,7 @@ int32_t ZKAPI ZelDosGetDriveType(const wchar_t *root) {
 int32_t ZKAPI ZelDosGetDriveSize(const wchar_t *root, HostNumber *totalBytes, HostNumber *freeBytes) {
     if (!root)
         return ZEL_INVALID_DRIVE;
-    return zk::Quietly([&] { return DriveSize(root, totalBytes, freeBytes); },
-                       [] { return ZEL_NOT_ENOUGH_MEMORY; });
+    return zk::Quietly([&] { return DriveSize(root, totalBytes, freeBytes); }, [] { return ZEL_NOT_ENOUGH_MEMORY; });
 }
 
 HostStr ZKAPI ZelDosGetVolumeLabel(const wchar_t *root) {

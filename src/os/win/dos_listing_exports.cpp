@@ -57,9 +57,8 @@ int32_t ZKAPI ZelDosEnumDrives(HostArray names) {
 
 int32_t ZKAPI ZelDosEnumDirs(const wchar_t *pattern, HostArray names) {
     return Listing([&] {
-        return Enumerate(pattern, {names}, TakeDirectory, [&](const WIN32_FIND_DATAW &entry, int32_t index) {
-            SetName(names, index, entry.cFileName);
-        });
+        return Enumerate(pattern, {names}, TakeDirectory,
+                         [&](const WIN32_FIND_DATAW &entry, int32_t index) { SetName(names, index, entry.cFileName); });
     });
 }
 
@@ -77,7 +76,8 @@ int32_t ZKAPI ZelDosEnumDirInfo(const wchar_t *pattern, HostArray names, HostArr
 int32_t ZKAPI ZelDosEnumFiles(const wchar_t *pattern, uint16_t mask, HostArray names) {
     return Listing([&] {
         return Enumerate(
-            pattern, {names}, [&](const WIN32_FIND_DATAW &entry) { return core::TakesFile(mask, entry.dwFileAttributes); },
+            pattern, {names},
+            [&](const WIN32_FIND_DATAW &entry) { return core::TakesFile(mask, entry.dwFileAttributes); },
             [&](const WIN32_FIND_DATAW &entry, int32_t index) { SetName(names, index, entry.cFileName); });
     });
 }

@@ -104,7 +104,9 @@ int32_t ZKAPI ZelDosIsParent(const wchar_t *directory) {
     return zk::Quietly([&] { return IsParent(directory); }, [] { return 0; });
 }
 
-HostStr ZKAPI ZelDosGetCurDir(const wchar_t *) { return zk::StringResult([] { return CurrentDirectory(); }); }
+HostStr ZKAPI ZelDosGetCurDir(const wchar_t *) {
+    return zk::StringResult([] { return CurrentDirectory(); });
+}
 
 HostStr ZKAPI ZelDosGetEnvString(const wchar_t *name) {
     return zk::StringResult([&] { return name && *name ? Variable(name) : ZelStrEmpty(); });

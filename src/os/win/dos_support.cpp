@@ -37,8 +37,7 @@ void SetDate(HostArray array, int32_t index, const FILETIME &created) {
     if (FileTimeToLocalFileTime(&created, &local) && FileTimeToSystemTime(&local, &parts)) {
         const os::CivilTime civil{parts.wYear, parts.wMonth, parts.wDay, parts.wHour, parts.wMinute, parts.wSecond};
         if (const std::optional<os::CivilTime> shown = os::ListingTime(civil))
-            HostDateConstruct(&date, shown->year, shown->month, shown->day, shown->hour, shown->minute,
-                              shown->second);
+            HostDateConstruct(&date, shown->year, shown->month, shown->day, shown->hour, shown->minute, shown->second);
     }
     HostArraySetDateTime(array, &date, index);
 }

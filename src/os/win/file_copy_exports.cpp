@@ -1,7 +1,7 @@
 // ZelFileCopy: copies the files a pattern matches, as the shell's copy does.
 #include "frame/win/guard.h"
-#include "os/win/file_walk.h"
 #include "os/core/filesums.h"
+#include "os/win/file_walk.h"
 
 namespace {
 

@@ -1,8 +1,8 @@
 // ZelFileSetDateTime: one date-time as the creation, access and write time
 // of the files a pattern matches, at the two-second grain of a DOS time.
 #include "frame/win/guard.h"
-#include "os/win/file_walk.h"
 #include "os/core/filesums.h"
+#include "os/win/file_walk.h"
 
 namespace {
 

@@ -6,8 +6,8 @@
 #include <string>
 
 #include "frame/win/guard.h"
-#include "os/win/file_walk.h"
 #include "os/core/filesums.h"
+#include "os/win/file_walk.h"
 
 namespace {
 

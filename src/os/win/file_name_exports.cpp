@@ -1,7 +1,7 @@
 // ZelFileCreateTemp and ZelFileFind: file names as host strings.
 #include "frame/win/guard.h"
-#include "os/win/file_walk.h"
 #include "os/core/filesums.h"
+#include "os/win/file_walk.h"
 
 namespace {
 

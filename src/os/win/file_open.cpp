@@ -47,11 +47,10 @@ HANDLE ZelFileOpenEx(const wchar_t *name, wchar_t *foundPath, uint32_t foundPath
         return nullptr;
 
     const DWORD access = (flags & OF_READWRITE) ? GENERIC_READ | GENERIC_WRITE
-                         : (flags & OF_WRITE)  ? GENERIC_WRITE
-                                               : GENERIC_READ;
+                         : (flags & OF_WRITE)   ? GENERIC_WRITE
+                                                : GENERIC_READ;
     const DWORD share = (flags & OF_SHARE_EXCLUSIVE)    ? 0
                         : (flags & OF_SHARE_DENY_WRITE) ? FILE_SHARE_READ
                                                         : FILE_SHARE_READ | FILE_SHARE_WRITE;
-    return CreateFileW(path, access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL,
-                       nullptr);
+    return CreateFileW(path, access, share, nullptr, disposition, FILE_ATTRIBUTE_NORMAL, nullptr);
 }

@@ -1,7 +1,7 @@
 // The path routines on the real file system: the sums of os/pathmask with
 // the directory test and the drive list of this machine.
-#include "os/win/files.h"
 #include "os/core/pathmask.h"
+#include "os/win/files.h"
 
 namespace {
 

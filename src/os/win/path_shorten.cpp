@@ -21,8 +21,7 @@ private:
 } // namespace
 
 std::wstring ZelPathShorten(HDC dc, const RECT &rectangle, std::wstring_view path) {
-    const std::u16string shortened =
-        zk::os::ShortenPath({reinterpret_cast<const char16_t *>(path.data()), path.size()},
-                            rectangle.right - rectangle.left, DcWidth(dc));
+    const std::u16string shortened = zk::os::ShortenPath({reinterpret_cast<const char16_t *>(path.data()), path.size()},
+                                                         rectangle.right - rectangle.left, DcWidth(dc));
     return std::wstring(reinterpret_cast<const wchar_t *>(shortened.data()), shortened.size());
 }

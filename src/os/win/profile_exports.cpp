@@ -53,8 +53,7 @@ int32_t EnumStrings(const wchar_t *file, const wchar_t *section, HostArray keys)
 } // namespace
 
 int32_t ZKAPI ZelProfileEnumStrings(const wchar_t *file, const wchar_t *section, HostArray keys) {
-    return zk::Quietly([&] { return EnumStrings(file, section, keys); },
-                       [] { return int32_t{ZEL_NOT_ENOUGH_MEMORY}; });
+    return zk::Quietly([&] { return EnumStrings(file, section, keys); }, [] { return int32_t{ZEL_NOT_ENOUGH_MEMORY}; });
 }
 
 int32_t ZKAPI ZelProfileDelete(const wchar_t *file, const wchar_t *section, const wchar_t *key) {

@@ -10,9 +10,7 @@ namespace {
 
 constexpr int32_t kInvalid = ZEL_INVALID_PARAMETER;
 
-int32_t Read(HostFile file, void *buffer, int32_t bytes) {
-    return file ? HostFileRead(file, buffer, bytes) : kInvalid;
-}
+int32_t Read(HostFile file, void *buffer, int32_t bytes) { return file ? HostFileRead(file, buffer, bytes) : kInvalid; }
 
 int32_t Write(HostFile file, const void *buffer, int32_t bytes) {
     if (!file)

@@ -124,8 +124,7 @@ std::optional<IcoImage> ReadIcoFirstImage(const uint8_t *data, size_t size) {
     if (!info || info->height % 2 != 0)
         return std::nullopt;
     const int32_t rows = info->height / 2;
-    const uint64_t needed = kInfoHeader + uint64_t{info->colours} * 4 +
-                            RowBytes(info->width, info->bitCount) * rows +
+    const uint64_t needed = kInfoHeader + uint64_t{info->colours} * 4 + RowBytes(info->width, info->bitCount) * rows +
                             RowBytes(info->width, 1) * rows;
     if (needed > bytes)
         return std::nullopt;

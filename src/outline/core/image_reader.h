@@ -17,12 +17,12 @@ inline constexpr int32_t kMaxSide = 0x7FFF;
 // compression, the colour table and the pixel rows inside the buffer.
 struct Bmp {
     int32_t width = 0;
-    int32_t height = 0;          // rows, positive also for a top-down image
+    int32_t height = 0; // rows, positive also for a top-down image
     bool topDown = false;
     uint16_t bitCount = 0;
-    uint32_t colours = 0;        // entries of the colour table
-    size_t infoOffset = 0;       // the info header (and colour table after it)
-    size_t bitsOffset = 0;       // the pixel rows
+    uint32_t colours = 0;  // entries of the colour table
+    size_t infoOffset = 0; // the info header (and colour table after it)
+    size_t bitsOffset = 0; // the pixel rows
     size_t bitsBytes = 0;
 };
 std::optional<Bmp> ReadBmp(const uint8_t *data, size_t size);
@@ -31,10 +31,10 @@ std::optional<Bmp> ReadBmp(const uint8_t *data, size_t size);
 // inside the buffer, an info header of a DIB icon (double height: colour
 // rows then mask rows) whose parts fit the entry.
 struct IcoImage {
-    size_t offset = 0;           // the image's bytes: info header onward
+    size_t offset = 0; // the image's bytes: info header onward
     size_t bytes = 0;
     int32_t width = 0;
-    int32_t height = 0;          // half the header's height: the icon's own
+    int32_t height = 0; // half the header's height: the icon's own
     uint16_t bitCount = 0;
 };
 std::optional<IcoImage> ReadIcoFirstImage(const uint8_t *data, size_t size);

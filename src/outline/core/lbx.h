@@ -62,17 +62,17 @@ struct LbxChild {
 // takes it out of the table of live handles, so that LbxIsItem never reads
 // memory that is not an item.
 struct LbxItem {
-    LbxNode *node = nullptr;      // the tree node, or null in a list used flat
-    PIC *picNormal = nullptr;     // shown when the row is not selected; not owned
-    PIC *picSelected = nullptr;   // shown when the row is selected; not owned
-    void *font = nullptr;         // HFONT: 0 until the first measure stores the control's font
-    uint32_t color = 0;           // text colour, 24 bits used
-    uint32_t flags = 0;           // LBX_Item* bits and the application's bits 0 to 15
-    int32_t value = 0;            // the application's value for the row
-    LbxText text;                 // the row's text, kept normalised
-    int32_t textByRef = 0;        // one-shot switch of the text query
+    LbxNode *node = nullptr;    // the tree node, or null in a list used flat
+    PIC *picNormal = nullptr;   // shown when the row is not selected; not owned
+    PIC *picSelected = nullptr; // shown when the row is selected; not owned
+    void *font = nullptr;       // HFONT: 0 until the first measure stores the control's font
+    uint32_t color = 0;         // text colour, 24 bits used
+    uint32_t flags = 0;         // LBX_Item* bits and the application's bits 0 to 15
+    int32_t value = 0;          // the application's value for the row
+    LbxText text;               // the row's text, kept normalised
+    int32_t textByRef = 0;      // one-shot switch of the text query
     char16_t magic[4] = {u'L', u'B', u'X', 0};
-    LbxItem *self;                // the record's own address while it lives
+    LbxItem *self; // the record's own address while it lives
 
     LbxItem();
     ~LbxItem();
@@ -83,14 +83,14 @@ struct LbxItem {
 // One per entry of an outline, made with plain new; also entered into the
 // table of live handles, since its address is the item handle of the exports.
 struct LbxNode {
-    LbxItem *item = nullptr;      // owned by the node once linked
-    void *window = nullptr;       // HWND of the list it belongs to
-    int32_t level = 0;            // -1 root, 0 top level
-    LbxNode *parent = nullptr;    // null only on the root
+    LbxItem *item = nullptr;   // owned by the node once linked
+    void *window = nullptr;    // HWND of the list it belongs to
+    int32_t level = 0;         // -1 root, 0 top level
+    LbxNode *parent = nullptr; // null only on the root
     LbxNode *firstChild = nullptr;
     LbxNode *lastChild = nullptr;
-    LbxNode *next = nullptr;      // next sibling
-    LbxNode *prev = nullptr;      // previous sibling
+    LbxNode *next = nullptr; // next sibling
+    LbxNode *prev = nullptr; // previous sibling
 
     LbxNode();
     ~LbxNode();
@@ -102,9 +102,7 @@ struct LbxNode {
 // any address that is not a live item, and unless magic is "LBX" and self
 // is the pointer. Never reads memory that is not an item.
 bool LbxIsItem(const void *pointer) noexcept;
-inline bool LbxIsItem(std::uintptr_t word) noexcept {
-    return LbxIsItem(reinterpret_cast<const void *>(word));
-}
+inline bool LbxIsItem(std::uintptr_t word) noexcept { return LbxIsItem(reinterpret_cast<const void *>(word)); }
 
 // Whether a pointer is a live LbxNode (an item handle of the exports).
 bool LbxIsNode(const void *pointer) noexcept;

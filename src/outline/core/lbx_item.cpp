@@ -21,10 +21,8 @@ bool LbxIsItem(const void *pointer) noexcept {
         return false;
     }
     const auto *item = static_cast<const LbxItem *>(pointer);
-    return item->magic[0] == u'L' && item->magic[1] == u'B' && item->magic[2] == u'X' &&
-           item->magic[3] == 0 && item->self == item;
+    return item->magic[0] == u'L' && item->magic[1] == u'B' && item->magic[2] == u'X' && item->magic[3] == 0 &&
+           item->self == item;
 }
 
-bool LbxIsNode(const void *pointer) noexcept {
-    return pointer && zk::IsLive(zk::LiveKind::OutlineNode, pointer);
-}
+bool LbxIsNode(const void *pointer) noexcept { return pointer && zk::IsLive(zk::LiveKind::OutlineNode, pointer); }

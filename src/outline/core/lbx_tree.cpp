@@ -24,9 +24,9 @@ LbxNode *LbxNewRoot(void *window) noexcept {
 
 namespace {
 
-constexpr uint32_t kFirstBits = 0x00090000u;  // LeftLine | HasNext
-constexpr uint32_t kPrevBits = 0x00060000u;   // PrevA | PrevB
-constexpr uint32_t kLastBits = 0x00070000u;   // LeftLine | PrevA | PrevB
+constexpr uint32_t kFirstBits = 0x00090000u; // LeftLine | HasNext
+constexpr uint32_t kPrevBits = 0x00060000u;  // PrevA | PrevB
+constexpr uint32_t kLastBits = 0x00070000u;  // LeftLine | PrevA | PrevB
 
 // Step 1 of freeing a child: what must exist before anything changes.
 bool CanUnlink(const LbxNode *node) {

@@ -6,8 +6,8 @@
 #include <cstdint>
 #include <string_view>
 
-#include "outline/core/lbx_normalize.h"
 #include "outline/core/lbx.h"
+#include "outline/core/lbx_normalize.h"
 
 // One switch for the whole library, not per list: whether tree operations
 // turn painting back on when they end. Initially on.

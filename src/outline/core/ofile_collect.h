@@ -5,8 +5,8 @@
 
 #include <vector>
 
-#include "outline/core/ofile_stream.h"
 #include "outline/core/lbx.h"
+#include "outline/core/ofile_stream.h"
 
 namespace zk::ofile {
 

@@ -25,9 +25,9 @@ inline constexpr uint16_t kOutlineMagic = 34649; // 0x8759
 inline constexpr int32_t kMaxLevel = 255;
 
 struct OBPIC {
-    uint16_t flags = 0;     // the picture's load flags as loaded
-    std::u16string source;  // first load argument
-    std::u16string name;    // second load argument
+    uint16_t flags = 0;    // the picture's load flags as loaded
+    std::u16string source; // first load argument
+    std::u16string name;   // second load argument
     bool operator==(const OBPIC &) const = default;
 };
 
@@ -39,12 +39,12 @@ struct OBFONT {
 };
 
 struct OBITEM {
-    int32_t level = 0;        // -1 for the root
-    int32_t picNormal = -1;   // index into the pictures, -1 none
+    int32_t level = 0;      // -1 for the root
+    int32_t picNormal = -1; // index into the pictures, -1 none
     int32_t picSelected = -1;
-    int32_t font = -1;        // index into the fonts, -1 none
+    int32_t font = -1; // index into the fonts, -1 none
     uint32_t color = 0;
-    uint32_t flags = 0;       // all item bits
+    uint32_t flags = 0; // all item bits
     int32_t value = 0;
     std::u16string text;
     bool operator==(const OBITEM &) const = default;

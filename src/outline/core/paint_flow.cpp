@@ -2,8 +2,8 @@
 
 namespace zk::paint {
 
-PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode,
-                    uint32_t itemFlags, const LbxRect &row) {
+PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode, uint32_t itemFlags,
+                    const LbxRect &row) {
     PaintFlow f;
     const bool focusStyles = (style & (LBX_StyleDropSelection | LBX_StyleShowInactive)) != 0;
     const bool focusAction = (action & kActionFocus) != 0;

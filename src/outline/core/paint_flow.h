@@ -31,7 +31,7 @@ struct PaintFlow {
 
 // hasItem: the row's data is an item (else a foreign row); hasNode: the item
 // is in a tree.
-PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode,
-                    uint32_t itemFlags, const LbxRect &row);
+PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode, uint32_t itemFlags,
+                    const LbxRect &row);
 
 } // namespace zk::paint

@@ -66,8 +66,8 @@ StateLook ChooseLook(uint32_t style, uint32_t itemFlags, bool odsSelected) {
         return look;
     }
     if (odsSelected && !(itemFlags & LBX_ItemDisabled)) {
-        look.text = (style & (LBX_StyleKeepTextColor | LBX_StyleNoHighlight)) ? TextColour::Item
-                                                                               : TextColour::HighlightText;
+        look.text =
+            (style & (LBX_StyleKeepTextColor | LBX_StyleNoHighlight)) ? TextColour::Item : TextColour::HighlightText;
         look.back = (style & LBX_StyleNoHighlight)     ? BackColour::Background
                     : (style & LBX_StyleItemColorBack) ? BackColour::Item
                                                        : BackColour::Highlight;
@@ -79,8 +79,8 @@ StateLook ChooseLook(uint32_t style, uint32_t itemFlags, bool odsSelected) {
     return look;
 }
 
-PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH,
-                         int32_t gap, int32_t indentPx) {
+PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap,
+                         int32_t indentPx) {
     PicturePlace p;
     const int32_t rowH = row.bottom - row.top;
     if (style & LBX_StylePictureAbove) {
@@ -98,8 +98,7 @@ PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32
     return p;
 }
 
-PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH,
-                       int32_t gap, int32_t indentPx) {
+PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap, int32_t indentPx) {
     PicturePlace p;
     if (style & LBX_StylePictureAbove) {
         p.top = row.top;

@@ -12,14 +12,14 @@ namespace zk::paint {
 
 // What a row's layout depends on.
 struct RowInput {
-    LbxRect row{};          // the row's rectangle (rcItem)
-    uint32_t style = 0;     // LbxChild.style
-    int32_t indent = 0;     // LbxChild.indent, in half average character widths
-    int32_t ave = 0;        // tmAveCharWidth of the row's font
+    LbxRect row{};      // the row's rectangle (rcItem)
+    uint32_t style = 0; // LbxChild.style
+    int32_t indent = 0; // LbxChild.indent, in half average character widths
+    int32_t ave = 0;    // tmAveCharWidth of the row's font
     int32_t tmHeight = 0;
-    bool hasNode = false;   // an item of an outline
-    int32_t level = 0;      // the node's level
-    bool disabled = false;  // LBX_ItemDisabled of an item
+    bool hasNode = false;  // an item of an outline
+    int32_t level = 0;     // the node's level
+    bool disabled = false; // LBX_ItemDisabled of an item
     bool hasPicture = false;
     int32_t picW = 0;
     int32_t picH = 0;
@@ -27,13 +27,13 @@ struct RowInput {
 };
 
 struct RowLayout {
-    int32_t half = 0;       // ave / 2
-    int32_t step = 0;       // width of one tree level
-    int32_t indentPx = 0;   // level * indent * half; 0 without a node
-    int32_t gap = 0;        // between indent and picture: ave with a node, 5 flat, 0 without a picture
+    int32_t half = 0;     // ave / 2
+    int32_t step = 0;     // width of one tree level
+    int32_t indentPx = 0; // level * indent * half; 0 without a node
+    int32_t gap = 0;      // between indent and picture: ave with a node, 5 flat, 0 without a picture
     int32_t textX = 0;
     int32_t textY = 0;
-    LbxRect frame{};        // selection and focus
+    LbxRect frame{}; // selection and focus
 };
 
 RowLayout LayoutRow(const RowInput &in);
@@ -72,9 +72,7 @@ struct PicturePlace {
     bool fillColumn = false; // the picture's column takes the background first
 };
 
-PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH,
-                         int32_t gap, int32_t indentPx);
-PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH,
-                       int32_t gap, int32_t indentPx);
+PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap, int32_t indentPx);
+PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap, int32_t indentPx);
 
 } // namespace zk::paint

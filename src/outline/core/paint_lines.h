@@ -10,7 +10,7 @@
 
 namespace zk::paint {
 
-inline constexpr uint32_t kPlainLineColour = 0x000000;   // a tree without the outline style
+inline constexpr uint32_t kPlainLineColour = 0x000000; // a tree without the outline style
 inline constexpr uint32_t kOutlineLineColour = 0x808080;
 
 struct Segment {
@@ -23,11 +23,11 @@ struct Segment {
 constexpr bool DottedPointDrawn(int32_t x, int32_t y) { return ((x ^ y) & 1) != 0; }
 
 struct TreeBox {
-    LbxRect rect{};      // LbxBoxRect at the node's line and the row's middle
+    LbxRect rect{}; // LbxBoxRect at the node's line and the row's middle
     int32_t x = 0, y = 0;
-    Segment sides[4]{};  // solid, clockwise from the top-left corner
-    Segment across{};    // the minus bar, drawn with the DC's pen
-    bool down = false;   // collapsed: the vertical bar as well
+    Segment sides[4]{}; // solid, clockwise from the top-left corner
+    Segment across{};   // the minus bar, drawn with the DC's pen
+    bool down = false;  // collapsed: the vertical bar as well
     Segment downBar{};
 };
 
@@ -48,9 +48,9 @@ struct LineInput {
     int32_t step = 0;
     int32_t level = 0;
     std::vector<bool> lastChild;
-    bool outline = false;      // LBX_StyleOutline
-    bool boxShown = false;     // the node has children, or LBX_ItemPlus
-    bool expanded = false;     // LBX_ItemExpanded
+    bool outline = false;  // LBX_StyleOutline
+    bool boxShown = false; // the node has children, or LBX_ItemPlus
+    bool expanded = false; // LBX_ItemExpanded
 };
 
 TreeLines PlanTreeLines(const LineInput &in);

@@ -2,8 +2,8 @@
 
 namespace zk::paint {
 
-std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t tabCount,
-                                const int32_t *stops, int32_t unit) {
+std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t tabCount, const int32_t *stops,
+                                int32_t unit) {
     std::vector<TextRun> runs;
     int32_t pen = textX;
     int32_t n = 0;

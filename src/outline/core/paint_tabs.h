@@ -20,8 +20,8 @@ struct TextRun {
 // after that to pen + stops[0]. tabCount -1 (cleared stops, default
 // spacing): (n + 1) * unit * 2, unit being a quarter of the dialog base
 // width. The last run is the text after the last tab.
-std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t tabCount,
-                                const int32_t *stops, int32_t unit);
+std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t tabCount, const int32_t *stops,
+                                int32_t unit);
 
 // The part of a text that LbxTextExtent measures under tab expansion.
 std::u16string_view TextAfterLastTab(std::u16string_view text);

@@ -78,9 +78,9 @@ private:
 // What a tag of an object stream announces.
 struct ObjectTag {
     enum Kind { Null, NewClass, ClassRef, ObjectRef, Bad } kind = Bad;
-    uint32_t index = 0;      // ClassRef, ObjectRef: the map index
-    uint16_t schema = 0;     // NewClass
-    std::string className;   // NewClass
+    uint32_t index = 0;    // ClassRef, ObjectRef: the map index
+    uint16_t schema = 0;   // NewClass
+    std::string className; // NewClass
 };
 ObjectTag ReadObjectTag(Reader &in);
 

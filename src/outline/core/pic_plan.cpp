@@ -70,7 +70,7 @@ PicPlan PicPlanLoad(uint16_t flags, std::u16string_view source, int32_t largeWid
         // A file is read by what its name says, whatever the format bits.
         plan.format = plan.extension == PicExtension::Bitmap ? PicFormat::Bitmap
                       : plan.extension == PicExtension::Icon ? PicFormat::Icon
-                                                               : PicFormat::None;
+                                                             : PicFormat::None;
     } else if (flags & kPicFormatBitmap) {
         plan.format = PicFormat::Bitmap;
     } else if (flags & kPicFormatIcon) {

@@ -25,11 +25,11 @@ enum class PicFormat { None, Bitmap, Icon };
 enum class PicExtension { Other, Module, Icon, Bitmap };
 
 struct PicPlan {
-    uint16_t flags = 0;          // the caller's, with the bits of the extension added
+    uint16_t flags = 0; // the caller's, with the bits of the extension added
     PicExtension extension = PicExtension::Other;
     PicSource source = PicSource::None;
     PicFormat format = PicFormat::None;
-    int32_t targetWidth = 0;     // 0: keep the natural size
+    int32_t targetWidth = 0; // 0: keep the natural size
     int32_t targetHeight = 0;
 };
 

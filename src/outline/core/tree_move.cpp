@@ -58,8 +58,7 @@ int32_t LbxDemote(LbxTreeRows &rows, int32_t row, PIC *normal, PIC *selected) {
     prev->next = next;
     prev->item->picNormal = normal;
     prev->item->picSelected = selected;
-    prev->item->flags =
-        (prev->item->flags & ~LBX_ItemPlus) | LBX_ItemExpanded | LBX_ItemHasChildren | LBX_ItemMinus;
+    prev->item->flags = (prev->item->flags & ~LBX_ItemPlus) | LBX_ItemExpanded | LBX_ItemHasChildren | LBX_ItemMinus;
     if (formerLast) {
         formerLast->next = node;
         formerLast->item->flags |= LBX_ItemHasNext;

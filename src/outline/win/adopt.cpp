@@ -1,8 +1,8 @@
 // ZelListSetStyle: a host list box or combo box becomes an adopted list.
 // The parent is subclassed once for the owner-draw messages, the control
 // once for the list messages; later calls only add style bits.
-#include "frame/win/propcache.h"
 #include "frame/win/guard.h"
+#include "frame/win/propcache.h"
 #include "outline/win/lbx_adopted.h"
 #include "outline/win/lbx_procs.h"
 

@@ -6,16 +6,26 @@
 
 UINT LbxComboTwin(UINT message) {
     switch (message) {
-    case 1027: return CB_ADDSTRING;
-    case 1031: return CB_GETCURSEL;
-    case 1032: return CB_GETLBTEXT;
-    case 1033: return CB_GETLBTEXTLEN;
-    case 1034: return CB_INSERTSTRING;
-    case 1037: return CB_SELECTSTRING;
-    case 1038: return CB_SETCURSEL;
-    case 1040: return CB_GETITEMDATA;
-    case 1041: return CB_SETITEMDATA;
-    default: return message;
+    case 1027:
+        return CB_ADDSTRING;
+    case 1031:
+        return CB_GETCURSEL;
+    case 1032:
+        return CB_GETLBTEXT;
+    case 1033:
+        return CB_GETLBTEXTLEN;
+    case 1034:
+        return CB_INSERTSTRING;
+    case 1037:
+        return CB_SELECTSTRING;
+    case 1038:
+        return CB_SETCURSEL;
+    case 1040:
+        return CB_GETITEMDATA;
+    case 1041:
+        return CB_SETITEMDATA;
+    default:
+        return message;
     }
 }
 
@@ -24,8 +34,7 @@ namespace {
 LRESULT ComboSetCurSel(const LbxChild &child, HWND window, WPARAM row, LPARAM lParam) {
     const LRESULT answer = LbxCallBase(child, window, CB_SETCURSEL, row, lParam);
     if (!(child.style & LBX_StyleNoEditCopy) && child.editWindow) {
-        LbxSyncComboEdit(window, static_cast<int32_t>(answer), static_cast<HWND>(child.editWindow),
-                         LbxBaseProc(child));
+        LbxSyncComboEdit(window, static_cast<int32_t>(answer), static_cast<HWND>(child.editWindow), LbxBaseProc(child));
     }
     return answer;
 }

@@ -52,8 +52,8 @@ void Page(const LbxChild &child, HWND window, bool down) {
     const bool multi = LbxIsMultiSelect(window, false);
     const int32_t visible = LbxVisibleRange(window, nullptr, nullptr);
     const int32_t count = static_cast<int32_t>(LbxCallBase(child, window, LB_GETCOUNT, 0, 0));
-    const int32_t current = static_cast<int32_t>(
-        LbxCallBase(child, window, multi ? LB_GETCARETINDEX : LB_GETCURSEL, 0, 0));
+    const int32_t current =
+        static_cast<int32_t>(LbxCallBase(child, window, multi ? LB_GETCARETINDEX : LB_GETCURSEL, 0, 0));
     int32_t target = 0;
     if (down) {
         const int32_t from = current > 0 ? current : 0;

@@ -5,8 +5,8 @@
 // through the base procedure: the late delete notifications find no item.
 #include "frame/win/propcache.h"
 #include "outline/core/lbx_tree.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_procs.h"
+#include "outline/win/pic.h"
 
 namespace {
 

@@ -45,8 +45,7 @@ LRESULT LbxSelectString(const LbxChild &child, HWND window, bool combo, WPARAM s
         }
     }
     if (combo && !(child.style & LBX_StyleNoEditCopy) && child.editWindow) {
-        LbxSyncComboEdit(window, static_cast<int32_t>(answer), static_cast<HWND>(child.editWindow),
-                         LbxBaseProc(child));
+        LbxSyncComboEdit(window, static_cast<int32_t>(answer), static_cast<HWND>(child.editWindow), LbxBaseProc(child));
     }
     return answer;
 }

@@ -12,7 +12,8 @@ bool IsNoData(std::uintptr_t word) { return word == 0 || word == static_cast<std
 
 LRESULT LbxBaseAddRow(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM item) {
     const LRESULT added = LbxCallBase(child, window, message, row, item);
-    if (added >= 0 && LbxBaseRow(child, window, combo, static_cast<int32_t>(added)) != static_cast<std::uintptr_t>(item)) {
+    if (added >= 0 &&
+        LbxBaseRow(child, window, combo, static_cast<int32_t>(added)) != static_cast<std::uintptr_t>(item)) {
         LbxCallBase(child, window, combo ? CB_SETITEMDATA : LB_SETITEMDATA, static_cast<WPARAM>(added), item);
     }
     return added;

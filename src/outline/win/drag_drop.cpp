@@ -214,6 +214,5 @@ int32_t DragDrop(HWND sourceWindow, int32_t sourceRow, HWND targetWindow, int32_
 
 extern "C" int32_t ZKAPI ZelListDragDrop(HWND source, int32_t sourceRow, HWND target, int32_t targetRow,
                                          uint16_t mode) {
-    return zk::Quietly([&] { return DragDrop(source, sourceRow, target, targetRow, mode); },
-                       [] { return int32_t{0}; });
+    return zk::Quietly([&] { return DragDrop(source, sourceRow, target, targetRow, mode); }, [] { return int32_t{0}; });
 }

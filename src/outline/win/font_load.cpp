@@ -69,10 +69,9 @@ bool FontDescribe(HFONT font, FontFacts &facts) noexcept {
         return false;
     }
     facts.points = MulDiv(metrics.tmHeight - metrics.tmInternalLeading, 72, GetDeviceCaps(dc.get(), LOGPIXELSY));
-    facts.style = static_cast<uint16_t>((logical.lfWeight >= FW_BOLD ? FONT_Bold : 0) |
-                                        (logical.lfItalic ? FONT_Italic : 0) |
-                                        (logical.lfUnderline ? FONT_Underline : 0) |
-                                        (logical.lfStrikeOut ? FONT_StrikeOut : 0));
+    facts.style =
+        static_cast<uint16_t>((logical.lfWeight >= FW_BOLD ? FONT_Bold : 0) | (logical.lfItalic ? FONT_Italic : 0) |
+                              (logical.lfUnderline ? FONT_Underline : 0) | (logical.lfStrikeOut ? FONT_StrikeOut : 0));
     return true;
 }
 

@@ -1,8 +1,8 @@
 // The font registry of a list, in its property "ZK:FontList".
 #include <new>
 
-#include "frame/win/propcache.h"
 #include "frame/win/guard.h"
+#include "frame/win/propcache.h"
 #include "outline/win/pic.h"
 
 namespace zk {

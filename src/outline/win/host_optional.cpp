@@ -6,8 +6,7 @@ HWND LbxHostDlgItem(HWND window, int id) { return OrlGetDlgItemEx(window, id); }
 
 bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, const wchar_t *text) {
     HostStr value = 0;
-    if (!HostDesignGetAttribute(HostDesignGetOutline(window), HostDesignGetItem(window), attribute, index,
-                                &value) ||
+    if (!HostDesignGetAttribute(HostDesignGetOutline(window), HostDesignGetItem(window), attribute, index, &value) ||
         !value) {
         return false;
     }

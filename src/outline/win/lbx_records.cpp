@@ -5,8 +5,8 @@
 #include <iterator>
 #include <new>
 
-#include "frame/win/host.h"
 #include "frame/core/livehandles.h"
+#include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
 
 LbxKind LbxControlKind(HWND window) {
@@ -64,9 +64,8 @@ HLOCAL LbxFindParent(HWND list) {
 }
 
 bool LbxParentFlags(HLOCAL parent, uint16_t set, uint16_t clear) {
-    return zk::LocalWith<LbxParent>(parent, [&](LbxParent &p) {
-        p.parentFlags = static_cast<uint16_t>((p.parentFlags | set) & ~clear);
-    });
+    return zk::LocalWith<LbxParent>(
+        parent, [&](LbxParent &p) { p.parentFlags = static_cast<uint16_t>((p.parentFlags | set) & ~clear); });
 }
 
 std::uintptr_t LbxBaseRow(const LbxChild &child, HWND window, bool combo, int32_t row) {
@@ -127,8 +126,8 @@ LbxCaseRules &LbxPlatformCase() {
 
 void LbxRedrawRow(HWND window, bool combo, int32_t row, UINT flags) {
     RECT rect{};
-    if (!combo && SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) !=
-                      LB_ERR) {
+    if (!combo &&
+        SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) != LB_ERR) {
         RedrawWindow(window, &rect, nullptr, flags);
     } else {
         RedrawWindow(window, nullptr, nullptr, flags);

@@ -7,10 +7,10 @@
 
 #include <cstdint>
 
-#include "frame/win/propcache.h"
 #include "frame/win/localblock.h"
-#include "outline/core/lbx_normalize.h"
+#include "frame/win/propcache.h"
 #include "outline/core/lbx.h"
+#include "outline/core/lbx_normalize.h"
 
 inline constexpr const wchar_t *kLbxParentProp = L"ZK:ParentLbx";
 inline constexpr const wchar_t *kLbxChildProp = L"ZK:ChildLbx";
@@ -56,9 +56,7 @@ inline LRESULT LbxCallBase(const LbxChild &child, HWND window, UINT message, WPA
 std::uintptr_t LbxBaseRow(const LbxChild &child, HWND window, bool combo, int32_t row);
 
 // The item of a data word, or null.
-inline LbxItem *LbxItemOf(std::uintptr_t word) {
-    return LbxIsItem(word) ? reinterpret_cast<LbxItem *>(word) : nullptr;
-}
+inline LbxItem *LbxItemOf(std::uintptr_t word) { return LbxIsItem(word) ? reinterpret_cast<LbxItem *>(word) : nullptr; }
 
 // The outline root in "ZK:LbxRootLow", or null; a value that is no live
 // node is treated as none.

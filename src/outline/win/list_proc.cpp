@@ -7,19 +7,32 @@
 
 UINT LbxListTwin(UINT message) {
     switch (message) {
-    case 1025: return LB_ADDSTRING;
-    case 1026: return LB_INSERTSTRING;
-    case 1032: return LB_GETSEL;
-    case 1033: return LB_GETCURSEL;
-    case 1034: return LB_GETTEXT;
-    case 1035: return LB_GETTEXTLEN;
-    case 1037: return LB_SELECTSTRING;
-    case 1041: return LB_GETSELCOUNT;
-    case 1042: return LB_GETSELITEMS;
-    case 1043: return LB_SETTABSTOPS;
-    case 1050: return LB_GETITEMDATA;
-    case 1051: return LB_SETITEMDATA;
-    default: return message;
+    case 1025:
+        return LB_ADDSTRING;
+    case 1026:
+        return LB_INSERTSTRING;
+    case 1032:
+        return LB_GETSEL;
+    case 1033:
+        return LB_GETCURSEL;
+    case 1034:
+        return LB_GETTEXT;
+    case 1035:
+        return LB_GETTEXTLEN;
+    case 1037:
+        return LB_SELECTSTRING;
+    case 1041:
+        return LB_GETSELCOUNT;
+    case 1042:
+        return LB_GETSELITEMS;
+    case 1043:
+        return LB_SETTABSTOPS;
+    case 1050:
+        return LB_GETITEMDATA;
+    case 1051:
+        return LB_SETITEMDATA;
+    default:
+        return message;
     }
 }
 

@@ -49,7 +49,8 @@ int32_t Populate(HWND window, HostArray strings, bool withValues, HostArray numb
     Painting(window, list, FALSE);
     HostListClear(window);
     for (int32_t k = 0; k < count; ++k) {
-        const LRESULT added = t.Send(LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ElementText(strings, low + k)));
+        const LRESULT added =
+            t.Send(LB_ADDSTRING, CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(ElementText(strings, low + k)));
         if (added < 0) {
             return static_cast<int32_t>(added); // painting stays off over the half-filled list
         }
@@ -59,8 +60,7 @@ int32_t Populate(HWND window, HostArray strings, bool withValues, HostArray numb
         HostNumber number{};
         int32_t value = 0;
         if (!HostArrayGetNumber(numbers, &number, numberLow + k) || !HostNumberToLong(&number, &value) ||
-            t.Send(LB_SETITEMDATA, CB_SETITEMDATA, static_cast<WPARAM>(added), static_cast<LPARAM>(value)) ==
-                LB_ERR) {
+            t.Send(LB_SETITEMDATA, CB_SETITEMDATA, static_cast<WPARAM>(added), static_cast<LPARAM>(value)) == LB_ERR) {
             Painting(window, list, TRUE);
             return -1;
         }

@@ -34,7 +34,8 @@ int32_t DeleteSelected(const LbxTarget &t) {
         SendMessageW(t.window, WM_SETREDRAW, TRUE, 0);
         return ZEL_NOT_ENOUGH_MEMORY;
     }
-    const LRESULT got = SendMessageW(t.window, LB_GETSELITEMS, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(rows.data()));
+    const LRESULT got =
+        SendMessageW(t.window, LB_GETSELITEMS, static_cast<WPARAM>(count), reinterpret_cast<LPARAM>(rows.data()));
     if (got < 0) {
         SendMessageW(t.window, WM_SETREDRAW, TRUE, 0);
         return -1;
@@ -58,9 +59,7 @@ int32_t DeleteSelected(const LbxTarget &t) {
 
 extern "C" {
 
-int32_t ZKAPI ZelListDeleteSelected(HWND window) {
-    return LbxWithTarget(window, -1, DeleteSelected);
-}
+int32_t ZKAPI ZelListDeleteSelected(HWND window) { return LbxWithTarget(window, -1, DeleteSelected); }
 
 int32_t ZKAPI ZelListClearSelection(HWND window) {
     return LbxWithTarget(window, -1, [](const LbxTarget &t) {
@@ -85,9 +84,8 @@ int32_t ZKAPI ZelListIsMultiSelect(HWND window) {
 }
 
 int32_t ZKAPI ZelListGetFocusIndex(HWND window) {
-    return LbxWithTarget(window, -1, [](const LbxTarget &t) {
-        return static_cast<int32_t>(t.Send(LB_GETCARETINDEX, CB_GETCURSEL));
-    });
+    return LbxWithTarget(
+        window, -1, [](const LbxTarget &t) { return static_cast<int32_t>(t.Send(LB_GETCARETINDEX, CB_GETCURSEL)); });
 }
 
 int32_t ZKAPI ZelListSetFocusIndex(HWND window, int32_t row) {

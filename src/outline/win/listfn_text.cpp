@@ -21,8 +21,7 @@ HostStr EmptyInto(HostStr &slot) {
 LRESULT ReadByReference(const LbxTarget &t, int32_t row, LbxItem *item, const wchar_t **chars) {
     item->textByRef = 1;
     const void *field = nullptr;
-    const LRESULT got =
-        t.Send(LB_GETTEXT, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&field));
+    const LRESULT got = t.Send(LB_GETTEXT, CB_GETLBTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&field));
     if (LbxIsItem(item)) {
         item->textByRef = 0; // in case the query did not take it
     }
@@ -46,8 +45,7 @@ HostStr GetText(HWND window, int32_t row) {
         return EmptyInto(slot);
     }
     LbxChild child{};
-    LbxItem *item =
-        LbxGetChildCopy(window, &child) ? LbxItemOf(LbxBaseRow(child, window, t.combo, row)) : nullptr;
+    LbxItem *item = LbxGetChildCopy(window, &child) ? LbxItemOf(LbxBaseRow(child, window, t.combo, row)) : nullptr;
     LRESULT got = 0;
     if (item) {
         const wchar_t *chars = nullptr;

@@ -31,8 +31,8 @@ int32_t LbxAddValue(const LbxTarget &target, int32_t row, const wchar_t *text, i
         return static_cast<int32_t>(added);
     }
     // The value is a signed 32-bit word: widened with its sign, as the host reads it back.
-    const LRESULT set = target.Send(LB_SETITEMDATA, CB_SETITEMDATA, static_cast<WPARAM>(added),
-                                    static_cast<LPARAM>(value));
+    const LRESULT set =
+        target.Send(LB_SETITEMDATA, CB_SETITEMDATA, static_cast<WPARAM>(added), static_cast<LPARAM>(value));
     return set == LB_ERR ? -1 : static_cast<int32_t>(added);
 }
 
@@ -76,8 +76,8 @@ int32_t ZKAPI ZelListFindString(HWND window, int32_t start, const wchar_t *text)
             // The search starts after `start`: nothing lies after the last possible row.
             return start == INT32_MAX ? -1 : LbxFindString(child, t.window, t.combo, start, text);
         }
-        const LRESULT found = t.Send(LB_FINDSTRINGEXACT, CB_FINDSTRINGEXACT, static_cast<WPARAM>(start),
-                                     reinterpret_cast<LPARAM>(text));
+        const LRESULT found =
+            t.Send(LB_FINDSTRINGEXACT, CB_FINDSTRINGEXACT, static_cast<WPARAM>(start), reinterpret_cast<LPARAM>(text));
         return found < 0 ? -1 : static_cast<int32_t>(found);
     });
 }

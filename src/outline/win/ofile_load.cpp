@@ -6,9 +6,9 @@
 #include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
 #include "outline/core/ofile_stream.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/ofile_win.h"
+#include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 namespace zk::ofile {
@@ -69,9 +69,9 @@ bool BuildTree(HWND window, LbxNode *root, const OBLOB &blob, const std::vector<
             continue;
         }
         LbxNode *parent = parents[i] == kUnderRoot ? root : nodes[static_cast<size_t>(parents[i])];
-        LbxNode *node = LbxLoadChildWindow(window, parent, Entry(pics, record.picNormal),
-                                           Entry(pics, record.picSelected), Wide(record.text), record.value,
-                                           record.flags);
+        LbxNode *node =
+            LbxLoadChildWindow(window, parent, Entry(pics, record.picNormal), Entry(pics, record.picSelected),
+                               Wide(record.text), record.value, record.flags);
         if (!node)
             return false;
         // A new node has no row yet: storing font and colour is all that

@@ -7,9 +7,9 @@
 #include "frame/win/guard.h"
 #include "frame/win/host.h"
 #include "outline/core/ofile_collect.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/ofile_win.h"
+#include "outline/win/pic.h"
 
 namespace zk::ofile {
 namespace {
@@ -86,8 +86,7 @@ OBFONT FontRecord(HDC dc, HFONT font) {
         }
     }
     record.styleBits = static_cast<uint16_t>((logical.lfItalic ? 2 : 0) | (logical.lfUnderline ? 4 : 0) |
-                                             (logical.lfWeight >= FW_BOLD ? 8 : 0) |
-                                             (logical.lfStrikeOut ? 16 : 0));
+                                             (logical.lfWeight >= FW_BOLD ? 8 : 0) | (logical.lfStrikeOut ? 16 : 0));
     const size_t length = wcsnlen(logical.lfFaceName, LF_FACESIZE);
     record.faceName.assign(reinterpret_cast<const char16_t *>(logical.lfFaceName), length);
     return record;

@@ -7,9 +7,9 @@
 #include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
 #include "outline/core/ofile_text.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
 #include "outline/win/ofile_win.h"
+#include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 namespace zk::ofile {
@@ -29,8 +29,8 @@ bool ReadWhole(const wchar_t *name, std::string &bytes) {
     if (file == INVALID_HANDLE_VALUE)
         return false;
     LARGE_INTEGER size{};
-    bool ok = GetFileSizeEx(file, &size) && size.QuadPart >= 0 &&
-              static_cast<unsigned long long>(size.QuadPart) < kTextLimit;
+    bool ok =
+        GetFileSizeEx(file, &size) && size.QuadPart >= 0 && static_cast<unsigned long long>(size.QuadPart) < kTextLimit;
     if (ok) {
         try {
             bytes.resize(static_cast<size_t>(size.QuadPart));
@@ -80,12 +80,12 @@ bool BuildTree(HWND window, LbxNode *root, const std::vector<TextLine> &lines, c
         LbxNode *anchor = line.anchor == kTextRoot ? root : nodes[static_cast<size_t>(line.anchor)];
         LbxNode *node = nullptr;
         if (line.sibling) {
-            node = LbxLoadSiblingWindow(window, anchor, pictures.leafNormal, pictures.leafSelected,
-                                        Wide(line.text), 0, 0);
+            node =
+                LbxLoadSiblingWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
         } else {
             LbxSetItemPictureNode(anchor, pictures.parentNormal, pictures.parentSelected);
-            node = LbxLoadChildWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text),
-                                      0, 0);
+            node =
+                LbxLoadChildWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
         }
         if (!node)
             return false;
@@ -136,6 +136,5 @@ extern "C" ZelItemHandle ZKAPI ZelListLoadOutlineFile(HWND window, const wchar_t
                                                       ZelPicHandle parentSelected, ZelPicHandle leafNormal,
                                                       ZelPicHandle leafSelected) {
     const ZelPicHandle given[4] = {parentNormal, parentSelected, leafNormal, leafSelected};
-    return zk::Quietly([&] { return zk::ofile::LoadFile(window, fileName, given); },
-                       [] { return ZelItemHandle{0}; });
+    return zk::Quietly([&] { return zk::ofile::LoadFile(window, fileName, given); }, [] { return ZelItemHandle{0}; });
 }

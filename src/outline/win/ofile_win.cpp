@@ -4,8 +4,8 @@
 
 #include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
+#include "outline/win/pic.h"
 
 namespace zk::ofile {
 

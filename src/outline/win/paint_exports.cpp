@@ -3,8 +3,8 @@
 #include <vector>
 
 #include "frame/win/guard.h"
-#include "outline/win/paint_textrect.h"
 #include "outline/win/lbx_win.h"
+#include "outline/win/paint_textrect.h"
 
 namespace {
 
@@ -39,8 +39,7 @@ bool WidestAdopted(HWND window, const LbxChild &child, HDC dc, int32_t first, in
     for (int32_t row = first; row <= last; ++row) {
         RECT rect{};
         LbxItem *item = LbxItemOf(LbxBaseRow(child, window, false, row));
-        if (SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) ==
-                LB_ERR ||
+        if (SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) == LB_ERR ||
             !item)
             return false;
         LbxTextRect(window, item, &child, dc, &rect);
@@ -59,8 +58,8 @@ bool WidestPlain(HWND window, HDC dc, int32_t first, int32_t last, int32_t pad, 
             return false;
         if (static_cast<size_t>(length) + 1 > buffer.size())
             buffer.resize(static_cast<size_t>(length) + 1);
-        const LRESULT read = SendMessageW(window, LB_GETTEXT, static_cast<WPARAM>(row),
-                                          reinterpret_cast<LPARAM>(buffer.data()));
+        const LRESULT read =
+            SendMessageW(window, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(buffer.data()));
         SIZE size{};
         if (read <= 0 || read > length || !GetTextExtentPoint32W(dc, buffer.data(), static_cast<int>(read), &size))
             return false;
@@ -99,8 +98,8 @@ int32_t SetScrollWidth(HWND window, int32_t row) {
         const LONG style = GetWindowLongW(window, GWL_STYLE);
         if (!(style & WS_HSCROLL)) {
             SetWindowLongW(window, GWL_STYLE, style | WS_HSCROLL);
-            SCROLLINFO info{sizeof(info), SIF_RANGE | SIF_PAGE, 0, widest, static_cast<UINT>(std::max(clientW, 0)),
-                            0, 0};
+            SCROLLINFO info{
+                sizeof(info), SIF_RANGE | SIF_PAGE, 0, widest, static_cast<UINT>(std::max(clientW, 0)), 0, 0};
             SetScrollInfo(window, SB_HORZ, &info, FALSE);
             SetWindowPos(window, nullptr, 0, 0, 0, 0,
                          SWP_FRAMECHANGED | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER | SWP_NOACTIVATE);
@@ -151,8 +150,7 @@ int32_t ZKAPI ZelListSetScrollWidth(HWND window, int32_t row) {
 
 int32_t ZKAPI ZelListGetTextRectangle(HWND window, int32_t row, int32_t *top, int32_t *left, int32_t *bottom,
                                       int32_t *right) {
-    return zk::Quietly([&] { return GetTextRectangle(window, row, top, left, bottom, right); },
-                       [] { return 0; });
+    return zk::Quietly([&] { return GetTextRectangle(window, row, top, left, bottom, right); }, [] { return 0; });
 }
 
 } // extern "C"

@@ -79,8 +79,8 @@ bool DrawRowText(HDC dc, const LbxChild &child, std::u16string_view text, int32_
     return true;
 }
 
-void DrawRowPicture(HDC dc, const PIC &pic, const LbxRect &row, uint32_t style, COLORREF background,
-                    int32_t gap, int32_t indentPx) {
+void DrawRowPicture(HDC dc, const PIC &pic, const LbxRect &row, uint32_t style, COLORREF background, int32_t gap,
+                    int32_t indentPx) {
     const bool bitmap = pic.type == PIC_TypeBitmap && pic.bitmap;
     const bool icon = (pic.type == PIC_TypeIcon || pic.type == PIC_TypeMemoryIcon) && pic.icon;
     if (!bitmap && !icon)

@@ -6,8 +6,8 @@
 
 #include <string_view>
 
-#include "outline/core/paint_layout.h"
 #include "outline/core/lbx.h"
+#include "outline/core/paint_layout.h"
 #include "outline/win/pic.h"
 
 namespace zk::paint {
@@ -21,8 +21,8 @@ bool DrawRowText(HDC dc, const LbxChild &child, std::u16string_view text, int32_
                  const RECT &frame);
 
 // The picture of a row (types 1 to 3; an empty picture paints nothing).
-void DrawRowPicture(HDC dc, const PIC &pic, const LbxRect &row, uint32_t style, COLORREF background,
-                    int32_t gap, int32_t indentPx);
+void DrawRowPicture(HDC dc, const PIC &pic, const LbxRect &row, uint32_t style, COLORREF background, int32_t gap,
+                    int32_t indentPx);
 
 // Tree lines and box of an item with a node (LbxDrawLines).
 void DrawTreeLines(HDC dc, const LbxRect &row, const LbxChild &child, const LbxItem &item, int32_t step);

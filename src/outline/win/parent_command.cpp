@@ -59,8 +59,7 @@ void ListSetFocus(HLOCAL parentRecord, HWND control, const LbxChild *child) {
     const uint32_t style = child ? child->style : 0;
     if (record.parentFlags & LBX_ParentFocusKnown) {
         if (style & LBX_StyleDropSelection) {
-            SendMessageW(control, LB_SETCURSEL, static_cast<WPARAM>(SendMessageW(control, LB_GETCARETINDEX, 0, 0)),
-                         0);
+            SendMessageW(control, LB_SETCURSEL, static_cast<WPARAM>(SendMessageW(control, LB_GETCARETINDEX, 0, 0)), 0);
         }
         return;
     }
@@ -100,9 +99,8 @@ void ListKillFocus(HWND control, const LbxChild *child) {
         return;
     }
     RECT rect{};
-    const bool haveRect =
-        SendMessageW(control, LB_GETITEMRECT, static_cast<WPARAM>(selection), reinterpret_cast<LPARAM>(&rect)) !=
-        LB_ERR;
+    const bool haveRect = SendMessageW(control, LB_GETITEMRECT, static_cast<WPARAM>(selection),
+                                       reinterpret_cast<LPARAM>(&rect)) != LB_ERR;
     if (style & LBX_StyleShowInactive) {
         item->flags |= LBX_ItemInactive;
         InvalidateRect(control, haveRect ? &rect : nullptr, TRUE);
@@ -160,8 +158,8 @@ int LbxSyncComboEdit(HWND combo, int32_t row, HWND edit, WNDPROC base) {
         clearEdit();
         return 0;
     }
-    LbxItem *item = LbxItemOf(static_cast<std::uintptr_t>(
-        CallWindowProcW(base, combo, CB_GETITEMDATA, static_cast<WPARAM>(row), 0)));
+    LbxItem *item = LbxItemOf(
+        static_cast<std::uintptr_t>(CallWindowProcW(base, combo, CB_GETITEMDATA, static_cast<WPARAM>(row), 0)));
     if (!item) {
         return 0;
     }

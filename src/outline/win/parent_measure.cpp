@@ -1,11 +1,11 @@
 // WM_MEASUREITEM at the parent: a row is as high as its font, or its
 // pictures where they are higher.
 #include "frame/win/host.h"
-#include "outline/win/pic.h"
-#include "outline/win/lbx_procs.h"
-#include "outline/win/lbx_metrics.h"
 #include "outline/win/host_optional.h"
+#include "outline/win/lbx_metrics.h"
+#include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
+#include "outline/win/pic.h"
 
 namespace {
 

@@ -1,7 +1,7 @@
 // LbxParentWndProc: the parent of adopted lists paints, measures, frees and
 // compares their rows, and steers focus and selection on their commands.
-#include "frame/win/propcache.h"
 #include "frame/win/host.h"
+#include "frame/win/propcache.h"
 #include "outline/win/lbx_paint_entry.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
@@ -59,8 +59,8 @@ LRESULT ParentDispatch(HWND window, const LbxParent &record, UINT message, WPARA
         break;
     }
     case WM_CTLCOLOREDIT:
-        if (HBRUSH brush = LbxComboEditColor(GetParent(reinterpret_cast<HWND>(lParam)),
-                                             reinterpret_cast<HDC>(wParam))) {
+        if (HBRUSH brush =
+                LbxComboEditColor(GetParent(reinterpret_cast<HWND>(lParam)), reinterpret_cast<HDC>(wParam))) {
             return reinterpret_cast<LRESULT>(brush);
         }
         break;

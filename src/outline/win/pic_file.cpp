@@ -8,8 +8,8 @@ namespace zk {
 bool PicFromFile(PIC &pic, const PicPlan &plan) {
     if (plan.format == PicFormat::Bitmap) {
         pic.type = PIC_TypeBitmap;
-        pic.bitmap = static_cast<HBITMAP>(LoadImageW(nullptr, pic.source.c_str(), IMAGE_BITMAP,
-                                                     plan.targetWidth, plan.targetHeight, LR_LOADFROMFILE));
+        pic.bitmap = static_cast<HBITMAP>(LoadImageW(nullptr, pic.source.c_str(), IMAGE_BITMAP, plan.targetWidth,
+                                                     plan.targetHeight, LR_LOADFROMFILE));
         int width = 0, height = 0;
         if (!PicBitmapSize(pic.bitmap, width, height))
             return false;
@@ -19,8 +19,8 @@ bool PicFromFile(PIC &pic, const PicPlan &plan) {
     }
     if (plan.format == PicFormat::Icon) {
         pic.type = PIC_TypeIcon;
-        pic.icon = static_cast<HICON>(LoadImageW(nullptr, pic.source.c_str(), IMAGE_ICON, plan.targetWidth,
-                                                 plan.targetHeight, LR_LOADFROMFILE));
+        pic.icon = static_cast<HICON>(
+            LoadImageW(nullptr, pic.source.c_str(), IMAGE_ICON, plan.targetWidth, plan.targetHeight, LR_LOADFROMFILE));
         ICONINFO info;
         BITMAP maskBits;
         if (!PicIconInfo(pic.icon, info, maskBits))

@@ -82,8 +82,8 @@ bool PicFromPointer(PIC &pic, const PicPlan &plan, const void *pointer) {
     // Headers first, then as much as they claim, but never beyond readable memory.
     constexpr size_t kHeaders = 64;
     const size_t head = PicReadableBytes(bytes, kHeaders);
-    const size_t claimed = plan.format == PicFormat::Bitmap ? image::BmpClaimedSize(bytes, head)
-                                                            : image::IcoClaimedSize(bytes, head);
+    const size_t claimed =
+        plan.format == PicFormat::Bitmap ? image::BmpClaimedSize(bytes, head) : image::IcoClaimedSize(bytes, head);
     if (claimed == 0)
         return false;
     return PicFromMemory(pic, plan, bytes, PicReadableBytes(bytes, claimed));

@@ -73,8 +73,7 @@ bool PicFromModule(PIC &pic, const PicPlan &plan) {
         return false;
     bool ok = false;
     try {
-        ok = plan.format == PicFormat::Bitmap ? BitmapFromModule(pic, plan, module)
-                                              : IconFromModule(pic, plan, module);
+        ok = plan.format == PicFormat::Bitmap ? BitmapFromModule(pic, plan, module) : IconFromModule(pic, plan, module);
     } catch (...) {
         FreeLibrary(module);
         throw;

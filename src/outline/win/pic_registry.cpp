@@ -2,8 +2,8 @@
 #include <algorithm>
 #include <new>
 
-#include "frame/win/propcache.h"
 #include "frame/win/guard.h"
+#include "frame/win/propcache.h"
 #include "outline/win/pic.h"
 
 namespace zk {

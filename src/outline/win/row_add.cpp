@@ -3,8 +3,8 @@
 #include <utility>
 
 #include "frame/win/guard.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_win.h"
+#include "outline/win/pic.h"
 #include "outline/win/row_exports.h"
 
 int32_t LbxAddRow(HWND window, int32_t row, const wchar_t *text, const LbxRowFields &fields) {
@@ -27,9 +27,9 @@ int32_t LbxAddRow(HWND window, int32_t row, const wchar_t *text, const LbxRowFie
         delete item;
         throw;
     }
-    const LRESULT answer = row == -2 ? SendMessageW(window, ZKM_LbxAddRow, 0, reinterpret_cast<LPARAM>(item))
-                                     : SendMessageW(window, ZKM_LbxInsertRow, static_cast<WPARAM>(row),
-                                                    reinterpret_cast<LPARAM>(item));
+    const LRESULT answer =
+        row == -2 ? SendMessageW(window, ZKM_LbxAddRow, 0, reinterpret_cast<LPARAM>(item))
+                  : SendMessageW(window, ZKM_LbxInsertRow, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(item));
     if (answer < 0) {
         delete item;
     }
@@ -90,8 +90,7 @@ int32_t ZKAPI ZelListInsertColor(HWND window, int32_t row, const wchar_t *text, 
     return Add([&] { return AddColour(window, row, text, color, 0); });
 }
 
-int32_t ZKAPI ZelListInsertColorValue(HWND window, int32_t row, const wchar_t *text, COLORREF color,
-                                      int32_t value) {
+int32_t ZKAPI ZelListInsertColorValue(HWND window, int32_t row, const wchar_t *text, COLORREF color, int32_t value) {
     return Add([&] { return AddColour(window, row, text, color, value); });
 }
 
@@ -99,8 +98,8 @@ int32_t ZKAPI ZelListAddPicture(HWND window, const wchar_t *text, ZelPicHandle n
     return Add([&] { return AddPicture(window, -2, text, normal, selected, 0); });
 }
 
-int32_t ZKAPI ZelListAddPictureValue(HWND window, const wchar_t *text, ZelPicHandle normal,
-                                     ZelPicHandle selected, int32_t value) {
+int32_t ZKAPI ZelListAddPictureValue(HWND window, const wchar_t *text, ZelPicHandle normal, ZelPicHandle selected,
+                                     int32_t value) {
     return Add([&] { return AddPicture(window, -2, text, normal, selected, value); });
 }
 

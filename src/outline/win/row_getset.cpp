@@ -1,8 +1,8 @@
 // Reading and changing the colour, pictures and font of a row, and enabling
 // or disabling it.
 #include "frame/win/guard.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_procs.h"
+#include "outline/win/pic.h"
 
 namespace {
 

@@ -49,9 +49,8 @@ int32_t ZKAPI ZelListEnumChildren(ZelItemHandle item, HostArray handles) {
 }
 
 int32_t ZKAPI ZelListEnumDescendents(ZelItemHandle item, HostArray handles) {
-    return Enumerate(item, handles, [](LbxNode *node, LbxNode *current) {
-        return LbxNextBelow(node, current ? current : node);
-    });
+    return Enumerate(item, handles,
+                     [](LbxNode *node, LbxNode *current) { return LbxNextBelow(node, current ? current : node); });
 }
 
 ZelItemHandle ZKAPI ZelListFindItemValue(ZelItemHandle item, int32_t value) {

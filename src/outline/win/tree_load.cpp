@@ -15,10 +15,8 @@ struct ShellFolder {
 };
 
 constexpr ShellFolder kShellFolders[] = {
-    {-2, L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}", 9216},
-    {-3, L"{208D2C60-3AEA-1069-A2D7-08002B30309D}", 9217},
-    {-4, L"{450D8FBA-AD25-11D0-98A8-0800361B1103}", 9227},
-    {-5, L"{645FF040-5081-101B-9F08-00AA002F954E}", 8964},
+    {-2, L"{20D04FE0-3AEA-1069-A2D8-08002B30309D}", 9216}, {-3, L"{208D2C60-3AEA-1069-A2D7-08002B30309D}", 9217},
+    {-4, L"{450D8FBA-AD25-11D0-98A8-0800361B1103}", 9227}, {-5, L"{645FF040-5081-101B-9F08-00AA002F954E}", 8964},
     {-6, L"{871C5380-42A0-1069-A2EA-08002B30309D}", 9222},
 };
 
@@ -32,8 +30,7 @@ std::wstring FromRegistry(const wchar_t *classId) {
     wchar_t buffer[257] = {}; // 512 bytes and a terminator of our own
     DWORD bytes = 512;
     DWORD type = 0;
-    const LONG status =
-        RegQueryValueExW(handle, nullptr, nullptr, &type, reinterpret_cast<BYTE *>(buffer), &bytes);
+    const LONG status = RegQueryValueExW(handle, nullptr, nullptr, &type, reinterpret_cast<BYTE *>(buffer), &bytes);
     RegCloseKey(handle);
     if (status != ERROR_SUCCESS || (type != REG_SZ && type != REG_EXPAND_SZ)) {
         return {};
@@ -64,8 +61,8 @@ std::wstring FromShell(UINT resource) {
 // the shell's name where one is found.
 std::wstring ChooseText(const wchar_t *text, int32_t value) {
     const std::wstring given = text ? text : L"";
-    const bool replace = given.empty() || (value == -2 && given == L"My Computer") ||
-                         (value == -3 && given == L"Network Neighborhood");
+    const bool replace =
+        given.empty() || (value == -2 && given == L"My Computer") || (value == -3 && given == L"Network Neighborhood");
     if (replace && value >= -6 && value <= -2) {
         const std::wstring name = LbxShellFolderName(value);
         if (!name.empty()) {
@@ -82,8 +79,7 @@ bool Pictures(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC *
 }
 
 template <class Load>
-ZelItemHandle LoadExport(HWND window, ZelItemHandle anchor, ZelPicHandle normal, ZelPicHandle selected,
-                         Load &&load) {
+ZelItemHandle LoadExport(HWND window, ZelItemHandle anchor, ZelPicHandle normal, ZelPicHandle selected, Load &&load) {
     return zk::Quietly(
         [&]() -> ZelItemHandle {
             PIC *n = nullptr, *s = nullptr;
@@ -96,8 +92,8 @@ ZelItemHandle LoadExport(HWND window, ZelItemHandle anchor, ZelPicHandle normal,
         [] { return ZelItemHandle{0}; });
 }
 
-int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, ZelPicHandle selected,
-                 HostArray texts, HostArray values, HostArray flags) {
+int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, ZelPicHandle selected, HostArray texts,
+                 HostArray values, HostArray flags) {
     // The host gives each array's element count; 0 is an empty array, not a
     // failure, so three empty arrays load nothing and answer 0.
     int32_t lows[3] = {}, highs[3] = {}, counts[3] = {};
@@ -175,16 +171,15 @@ LbxNode *LbxLoadSiblingWindow(HWND window, LbxNode *sibling, PIC *normal, PIC *s
 
 extern "C" {
 
-ZelItemHandle ZKAPI ZelListLoadChild(HWND window, ZelItemHandle parent, ZelPicHandle normal,
-                                     ZelPicHandle selected, const wchar_t *text, int32_t value, uint32_t flags) {
+ZelItemHandle ZKAPI ZelListLoadChild(HWND window, ZelItemHandle parent, ZelPicHandle normal, ZelPicHandle selected,
+                                     const wchar_t *text, int32_t value, uint32_t flags) {
     return LoadExport(window, parent, normal, selected, [&](LbxNode *node, PIC *n, PIC *s) {
         return LbxLoadChildWindow(window, node, n, s, text, value, flags);
     });
 }
 
-ZelItemHandle ZKAPI ZelListLoadSibling(HWND window, ZelItemHandle sibling, ZelPicHandle normal,
-                                       ZelPicHandle selected, const wchar_t *text, int32_t value,
-                                       uint32_t flags) {
+ZelItemHandle ZKAPI ZelListLoadSibling(HWND window, ZelItemHandle sibling, ZelPicHandle normal, ZelPicHandle selected,
+                                       const wchar_t *text, int32_t value, uint32_t flags) {
     return LoadExport(window, sibling, normal, selected, [&](LbxNode *node, PIC *n, PIC *s) {
         return LbxLoadSiblingWindow(window, node, n, s, text, value, flags);
     });

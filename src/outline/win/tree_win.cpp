@@ -5,9 +5,7 @@
 #include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 
-void WinTreeRows::Reset() {
-    SendMessageW(window_, IsCombo() ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0);
-}
+void WinTreeRows::Reset() { SendMessageW(window_, IsCombo() ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0); }
 
 void WinTreeRows::Reserve(int32_t count) {
     if (count > 0) {

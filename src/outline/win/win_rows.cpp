@@ -28,9 +28,7 @@ void WinRows::EndKeepItems() {
 
 bool WinRows::IsMultiSelect() { return LbxIsMultiSelect(window_, combo_); }
 
-void WinRows::SetSel(int32_t row, bool select) {
-    SendMessageW(window_, LB_SETSEL, select ? TRUE : FALSE, row);
-}
+void WinRows::SetSel(int32_t row, bool select) { SendMessageW(window_, LB_SETSEL, select ? TRUE : FALSE, row); }
 
 void WinRows::SetCurSel(int32_t row) {
     SendMessageW(window_, combo_ ? CB_SETCURSEL : LB_SETCURSEL, static_cast<WPARAM>(row), 0);

@@ -26,7 +26,7 @@ struct GroupCode {
     std::size_t percent; // position of the %
     std::size_t end;     // position after the code letter
     bool comma;
-    char16_t letter;     // n, s or u
+    char16_t letter; // n, s or u
 };
 
 struct Group {

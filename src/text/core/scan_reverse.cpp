@@ -2,13 +2,12 @@
 
 namespace zk::text {
 
-int32_t ScanReverse(std::u16string_view text, int32_t start, std::u16string_view search,
-                    ReverseScanner &scanner) {
+int32_t ScanReverse(std::u16string_view text, int32_t start, std::u16string_view search, ReverseScanner &scanner) {
     const int64_t length = static_cast<int64_t>(text.size());
     if (length > INT32_MAX || start < -1 || start > length - 1)
         return -1;
-    std::size_t position = start == -1 ? (text.empty() ? 0 : scanner.Previous(text, text.size()))
-                                       : static_cast<std::size_t>(start);
+    std::size_t position =
+        start == -1 ? (text.empty() ? 0 : scanner.Previous(text, text.size())) : static_cast<std::size_t>(start);
     if (position > text.size())
         position = text.size();
     for (;;) {

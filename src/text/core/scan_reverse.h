@@ -21,7 +21,6 @@ public:
 // The last position at or before `start` where search matches, or -1.
 // start -1 stands for the last character; a start below -1 or past the last
 // character gives -1. An empty search matches at the start position.
-int32_t ScanReverse(std::u16string_view text, int32_t start, std::u16string_view search,
-                    ReverseScanner &scanner);
+int32_t ScanReverse(std::u16string_view text, int32_t start, std::u16string_view search, ReverseScanner &scanner);
 
 } // namespace zk::text

@@ -50,14 +50,12 @@ std::size_t CountOccurrences(std::u16string_view text, std::u16string_view searc
     return count;
 }
 
-std::u16string Substitute(std::u16string_view text, std::u16string_view search,
-                          std::u16string_view replacement) {
+std::u16string Substitute(std::u16string_view text, std::u16string_view search, std::u16string_view replacement) {
     const OccurrenceFinder finder(search);
     std::u16string out;
     out.reserve(text.size());
     std::size_t copied = 0;
-    for (std::size_t at = finder.Next(text, 0); at != std::u16string_view::npos;
-         at = finder.Next(text, copied)) {
+    for (std::size_t at = finder.Next(text, 0); at != std::u16string_view::npos; at = finder.Next(text, copied)) {
         out.append(text.substr(copied, at - copied));
         out.append(replacement);
         copied = at + search.size();

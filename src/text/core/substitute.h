@@ -28,7 +28,6 @@ std::size_t CountOccurrences(std::u16string_view text, std::u16string_view searc
 
 // The text with every such occurrence replaced. Its length is
 // (replacement - search) * count + text characters.
-std::u16string Substitute(std::u16string_view text, std::u16string_view search,
-                          std::u16string_view replacement);
+std::u16string Substitute(std::u16string_view text, std::u16string_view search, std::u16string_view replacement);
 
 } // namespace zk::text

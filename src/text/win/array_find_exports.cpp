@@ -51,8 +51,7 @@ int32_t ZKAPI ZelArrayFindString(HostArray array, const wchar_t *text) {
     // folds them; a missing string reads as the empty text.
     return FindFirst(array, [&](int32_t index) {
         const std::u16string_view element = elements.String(index);
-        return element.size() == wanted.size() &&
-               _wcsnicmp(zk::text::WideText(element), text, wanted.size()) == 0;
+        return element.size() == wanted.size() && _wcsnicmp(zk::text::WideText(element), text, wanted.size()) == 0;
     });
 }
 

@@ -18,8 +18,7 @@ ArrayBounds ReadBounds(HostArray array) {
 
 bool IsStringType(int32_t type) { return type == HOST_TYPE_STRING || type == HOST_TYPE_LONGSTRING; }
 
-bool MoveElement(int32_t type, HostArray from, int32_t fromIndex, HostArray to, int32_t toIndex,
-                 RefTiming timing) {
+bool MoveElement(int32_t type, HostArray from, int32_t fromIndex, HostArray to, int32_t toIndex, RefTiming timing) {
     switch (type) {
     case HOST_TYPE_BOOLEAN: {
         uint32_t word = 0;

@@ -30,8 +30,7 @@ enum class RefTiming { AfterWrite, BeforeWrite };
 // Moves one element from one slot to another by the type's read and write
 // operations; false, with nothing moved, for a code that is no element type.
 // A moved string ends up in both slots, each with a reference.
-bool MoveElement(int32_t type, HostArray from, int32_t fromIndex, HostArray to, int32_t toIndex,
-                 RefTiming timing);
+bool MoveElement(int32_t type, HostArray from, int32_t fromIndex, HostArray to, int32_t toIndex, RefTiming timing);
 
 // Writes the empty value of the type to a slot: 0, a null record, no string.
 void ClearElement(int32_t type, HostArray array, int32_t index);

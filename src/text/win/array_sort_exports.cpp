@@ -12,9 +12,9 @@
 #include <vector>
 
 #include "frame/win/guard.h"
-#include "text/win/array_host.h"
 #include "text/core/array_order.h"
 #include "text/core/array_text_order.h"
+#include "text/win/array_host.h"
 
 namespace {
 
@@ -37,13 +37,11 @@ void SortRecords(HostArray array, const zk::text::ArrayBounds &b, bool descendin
         HostNumberToDouble(&records[k], &items[k].value);
     }
     if (descending)
-        zk::text::StableMergeSort(items, [](const ValueItem &later, const ValueItem &earlier) {
-            return later.value > earlier.value;
-        });
+        zk::text::StableMergeSort(
+            items, [](const ValueItem &later, const ValueItem &earlier) { return later.value > earlier.value; });
     else
-        zk::text::StableMergeSort(items, [](const ValueItem &later, const ValueItem &earlier) {
-            return earlier.value > later.value;
-        });
+        zk::text::StableMergeSort(
+            items, [](const ValueItem &later, const ValueItem &earlier) { return earlier.value > later.value; });
     for (uint32_t p = 0; p < n; ++p) {
         if (items[p].position == p)
             continue;

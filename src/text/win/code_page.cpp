@@ -12,8 +12,8 @@ const wchar_t *Wide(std::u16string_view text) { return reinterpret_cast<const wc
 std::size_t WinCodePage::ByteLength(std::u16string_view text) {
     if (text.empty() || text.size() > INT32_MAX)
         return 0;
-    const int n = WideCharToMultiByte(CP_ACP, 0, Wide(text), static_cast<int>(text.size()), nullptr, 0,
-                                      nullptr, nullptr);
+    const int n =
+        WideCharToMultiByte(CP_ACP, 0, Wide(text), static_cast<int>(text.size()), nullptr, 0, nullptr, nullptr);
     return n > 0 ? static_cast<std::size_t>(n) : 0;
 }
 

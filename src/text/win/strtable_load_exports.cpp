@@ -81,8 +81,7 @@ intptr_t Load(const wchar_t *name) {
     // nothing is refused.
     int length = 0;
     if (got > 0)
-        length = MultiByteToWideChar(CP_ACP, 0, bytes, static_cast<int>(got), reinterpret_cast<wchar_t *>(chars),
-                                     size);
+        length = MultiByteToWideChar(CP_ACP, 0, bytes, static_cast<int>(got), reinterpret_cast<wchar_t *>(chars), size);
     if (got > 0 && length <= 0) {
         GlobalUnlock(table.Get());
         return ZEL_NOT_ENOUGH_MEMORY;

@@ -43,18 +43,21 @@ std::u16string ResourceText(uint32_t id) {
 }
 
 HostDateTime Record(int year, int month, int day, int hour, int minute, int second, int microsecond) {
-    return zkh::dateFromParts(year, month, day, hour, minute, second, microsecond);
+    return zkh::DateFromParts(year, month, day, hour, minute, second, microsecond);
 }
 
-std::ostream &operator<<(std::ostream &out, const Ymd &d) {
-    return out << d.year << '-' << d.month << '-' << d.day;
-}
+std::ostream &operator<<(std::ostream &out, const Ymd &d) { return out << d.year << '-' << d.month << '-' << d.day; }
 
 std::string PartName(const zk::cal::CalLayout &layout, const zk::Rect &r) {
     using A = zk::cal::CalArea;
     const std::pair<A, const char *> areas[] = {
-        {A::Window, "window"}, {A::Grid, "grid"},     {A::Caption, "caption"}, {A::WeekdayHeader, "header"},
-        {A::CaptionAndHeader, "caption+header"},      {A::Buttons, "buttons"}, {A::Body, "body"},
+        {A::Window, "window"},
+        {A::Grid, "grid"},
+        {A::Caption, "caption"},
+        {A::WeekdayHeader, "header"},
+        {A::CaptionAndHeader, "caption+header"},
+        {A::Buttons, "buttons"},
+        {A::Body, "body"},
     };
     for (const auto &[area, name] : areas)
         if (layout.AreaRect(area) == r)

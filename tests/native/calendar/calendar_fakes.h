@@ -34,8 +34,7 @@ std::u16string ResourceText(uint32_t id);
 inline uint32_t SysColor(int32_t index) { return 0x00C0FF00u + static_cast<uint32_t>(index); }
 
 // A record straight from the reference host, bypassing the classes.
-HostDateTime Record(int year, int month, int day, int hour = 0, int minute = 0, int second = 0,
-                    int microsecond = 0);
+HostDateTime Record(int year, int month, int day, int hour = 0, int minute = 0, int second = 0, int microsecond = 0);
 
 inline std::chrono::sys_days Days(int year, int month, int day) {
     return std::chrono::sys_days(std::chrono::year(year) / std::chrono::month(static_cast<unsigned>(month)) /
@@ -45,9 +44,8 @@ inline std::chrono::sys_days Days(int year, int month, int day) {
 inline int Weekday(std::chrono::sys_days d) { return static_cast<int>(std::chrono::weekday(d).c_encoding()) + 1; }
 inline int MonthLength(int year, int month) {
     const auto first = Days(year, month, 1);
-    return static_cast<int>((std::chrono::sys_days((std::chrono::year_month_day(first) + std::chrono::months(1))) -
-                             first)
-                                .count());
+    return static_cast<int>(
+        (std::chrono::sys_days((std::chrono::year_month_day(first) + std::chrono::months(1))) - first).count());
 }
 struct Ymd {
     int year, month, day;

@@ -2,7 +2,6 @@
 // dates, keys and special rules, cell by cell, over many months.
 #include <gtest/gtest.h>
 
-
 #include "calendar/core/calendar_nav.h"
 #include "ctl_control_fakes.h"
 

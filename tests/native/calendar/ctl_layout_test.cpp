@@ -6,10 +6,10 @@
 
 namespace {
 
-using zk::cal::ArrowCorners;
-using zk::cal::CalLayout;
 using zk::Point;
 using zk::Rect;
+using zk::cal::ArrowCorners;
+using zk::cal::CalLayout;
 
 CalLayout Laid(int w, int h, int column = 8, int row = 12) {
     CalLayout layout;

@@ -4,9 +4,9 @@
 
 #include <cstring>
 
-#include "frame/core/errors.h"
 #include "calendar_fakes.h"
 #include "core/hostnum.h"
+#include "frame/core/errors.h"
 
 namespace {
 
@@ -115,11 +115,11 @@ TEST(DateTimeSpan, DaysInTheHostsOwnFormWhateverTheTimeOfDay) {
     HostNumber raw{};
     CDateTimeSpan().GetRecord(&raw);
     EXPECT_EQ(raw.length, 0);
-    for (const HostDateTime now : {Record(2024, 3, 15, 0, 0, 0), Record(2024, 3, 15, 23, 59, 59, 999999),
-                                   Record(1850, 6, 1, 12, 0, 0)}) {
+    for (const HostDateTime now :
+         {Record(2024, 3, 15, 0, 0, 0), Record(2024, 3, 15, 23, 59, 59, 999999), Record(1850, 6, 1, 12, 0, 0)}) {
         caltest::ClockAt clock(now);
         CDateTimeSpan(0, 5, 6, 7).GetRecord(&raw);
-        const HostNumber hostZero = zkh::numberZero();
+        const HostNumber hostZero = zkh::NumberZero();
         EXPECT_EQ(raw.length, hostZero.length) << "zero as the host writes it, not the empty record";
         EXPECT_EQ(std::memcmp(raw.digits, hostZero.digits, raw.length), 0);
         EXPECT_EQ(CDateTimeSpan(-40, 23, 0, 0).GetDays(), -40) << "hours are dropped";

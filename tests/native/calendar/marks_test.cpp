@@ -87,8 +87,8 @@ TEST(Marks, ClearingSelectExtraUnmarksTheExtraCellsOnDisplay) {
     s.cal.MarkDate(CDateTime(2024, 4, 7), 1, 0, 0); // not on the grid
     s.window.Take();
     s.cal.SetStyle(CALS_SelectExtra, 0);
-    EXPECT_EQ(s.window.Take(),
-              (Events{"inv cell 2", "inv cell 2", "inv cell 3", "inv cell 3", "inv cell 4", "inv cell 4", "inv cell 41", "inv cell 41"}));
+    EXPECT_EQ(s.window.Take(), (Events{"inv cell 2", "inv cell 2", "inv cell 3", "inv cell 3", "inv cell 4",
+                                       "inv cell 4", "inv cell 41", "inv cell 41"}));
     EXPECT_EQ(s.cal.Marks().size(), 3u) << "1 and 2 March and 7 April stay";
 }
 

@@ -6,8 +6,8 @@
 
 #include <cstdio>
 
-#include "frame/core/errors.h"
 #include "calendar_fakes.h"
+#include "frame/core/errors.h"
 
 namespace {
 
@@ -17,8 +17,8 @@ using Events = std::vector<std::string>;
 using zk::cal::CDateTime;
 
 constexpr uint32_t kAllBits = 0x1FFF;
-constexpr uint32_t kDefaults = CALS_EnableButtons | CALS_EnableKeyboard | CALS_ShowFocus | CALS_SelectExtra |
-                               CALS_SelectSpecial | CALS_ShowExtra;
+constexpr uint32_t kDefaults =
+    CALS_EnableButtons | CALS_EnableKeyboard | CALS_ShowFocus | CALS_SelectExtra | CALS_SelectSpecial | CALS_ShowExtra;
 
 TEST(Style, AFlagCountsAboveZeroAutoSizeWhenNotZeroAndUnknownBitsAreIgnored) {
     Shown s(2024, 3, false);
@@ -38,8 +38,8 @@ TEST(Style, EffectsOfEveryFlagInTheirOrder) {
     s.cal.SetStyle(kAllBits, 1);
     // Alternate Buttons, Enable Buttons, Etched Look, Show Extra (set, Select
     // Extra on), Show Focus, Show Gridlines, Show Special (set, Select Special on).
-    EXPECT_EQ(s.window.Take(), (Events{"inv buttons", "inv buttons", "inv window", "inv grid", "inv grid",
-                                       "inv body", "inv grid"}));
+    EXPECT_EQ(s.window.Take(),
+              (Events{"inv buttons", "inv buttons", "inv window", "inv grid", "inv grid", "inv body", "inv grid"}));
     s.cal.SetStyle(kAllBits, 0);
     // ... then Multiple Selection cleared: the marks go and the focus date is
     // marked again (cell 19); Show Extra cleared moves no focus that is in the month.
@@ -123,8 +123,8 @@ TEST(Roles, SetReturnsTheColourInForceBeforeAndEndsTheDefault) {
 
 TEST(Roles, EachRoleRedrawsItsArea) {
     Shown s(2024, 3);
-    const char *areas[] = {"window", "grid",  "grid",   "caption+header", "grid",    "buttons", "buttons", "buttons",
-                           "buttons", "grid", "header", "grid",           "window",  "caption", "grid",    "window"};
+    const char *areas[] = {"window",  "grid", "grid",   "caption+header", "grid",   "buttons", "buttons", "buttons",
+                           "buttons", "grid", "header", "grid",           "window", "caption", "grid",    "window"};
     for (int role = 0; role < 16; ++role) {
         s.cal.SetRoleColor(role, 1, 1);
         EXPECT_EQ(s.window.Take(), (Events{std::string("inv ") + areas[role]})) << "role " << role;

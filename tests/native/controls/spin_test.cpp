@@ -15,12 +15,12 @@ using namespace zk::ctl;
 
 bool Valid(std::u16string_view text) {
     HostNumber n{};
-    return zkh::numberFromText(text, n);
+    return zkh::NumberFromText(text, n);
 }
 bool Integer(std::u16string_view text, int32_t &value) {
     HostNumber n{};
     int64_t v = 0;
-    const bool ok = zkh::numberFromText(text, n) && zkh::numberToInt64(n, v) && v >= INT32_MIN && v <= INT32_MAX;
+    const bool ok = zkh::NumberFromText(text, n) && zkh::NumberToInt64(n, v) && v >= INT32_MIN && v <= INT32_MAX;
     value = ok ? static_cast<int32_t>(v) : 0;
     return ok;
 }
@@ -34,10 +34,19 @@ TEST(SpinText, ValuesShowTheirDecimalPlaces) {
         const char *text;
     };
     const Case cases[] = {
-        {1234, -2, "12.34"}, {1205, -2, "12.05"}, {1200, -2, "12"},   {5, -2, "0.05"},
-        {-5, -2, "0.05"} /* the sign goes with the zero whole part */,  {-1234, -2, "-12.34"},
-        {12, 2, "1200"},     {0, 0, "0"},         {-7, 0, "-7"},      {1000000, -1, "100000"},
-        {999999, -1, "99999.9"}, {INT32_MIN, 0, "-2147483648"},       {INT32_MIN, -3, "-2147483.648"},
+        {1234, -2, "12.34"},
+        {1205, -2, "12.05"},
+        {1200, -2, "12"},
+        {5, -2, "0.05"},
+        {-5, -2, "0.05"} /* the sign goes with the zero whole part */,
+        {-1234, -2, "-12.34"},
+        {12, 2, "1200"},
+        {0, 0, "0"},
+        {-7, 0, "-7"},
+        {1000000, -1, "100000"},
+        {999999, -1, "99999.9"},
+        {INT32_MIN, 0, "-2147483648"},
+        {INT32_MIN, -3, "-2147483.648"},
     };
     for (const Case &c : cases)
         EXPECT_EQ(Narrow(FormatValue(c.value, c.adjust)), c.text) << c.value << " adjust " << c.adjust;
@@ -50,9 +59,12 @@ TEST(SpinText, TextsParseWithTheKeptQuirks) {
         int32_t adjust, value;
     };
     const Case cases[] = {
-        {u"12.34", -2, 1234}, {u"12.5", -2, 1205} /* the fraction is not scaled */, {u"-1.25", -2, -75},
-        {u"12.345", -2, 1234}, {u"12", -2, 1200},  {u"1200", 2, 12}, {u"7", 0, 7},
-        {u"abc", -2, 0},      {u"", 0, 0},         {u"99999.9", -1, 999999}, {u".5", -1, 5},
+        {u"12.34", -2, 1234}, {u"12.5", -2, 1205} /* the fraction is not scaled */,
+        {u"-1.25", -2, -75},  {u"12.345", -2, 1234},
+        {u"12", -2, 1200},    {u"1200", 2, 12},
+        {u"7", 0, 7},         {u"abc", -2, 0},
+        {u"", 0, 0},          {u"99999.9", -1, 999999},
+        {u".5", -1, 5},
     };
     for (const Case &c : cases)
         EXPECT_EQ(ParseValue(c.text, c.adjust, kReader), c.value) << Narrow(c.text) << " adjust " << c.adjust;
@@ -68,15 +80,16 @@ TEST(SpinSteps, EndsAndEmptyEdits) {
         int32_t after;
     };
     const Case cases[] = {
-        {0, 1, 0x7FFFFFFF, 1, u"", true, 1},   // the defaults: an empty edit shows the minimum
+        {0, 1, 0x7FFFFFFF, 1, u"", true, 1}, // the defaults: an empty edit shows the minimum
         {1, 1, 0x7FFFFFFF, 1, u"1", true, 2},
-        {10, 1, 10, 1, u"10", true, 10},       {1, 1, 10, 1, u"1", false, 1},
-        {9, 1, 10, 3, u"9", true, 10},         // 12 is cut to the maximum
-        {5, 1, 10, 1, u"", false, 1},          // down from an empty edit gives the minimum too
-        {4, 1, 10, 1, u"x", true, 5},          // no number: the stored value steps
-        {4, 1, 10, 1, u"7", true, 8},          // the edit's number wins over the stored value
+        {10, 1, 10, 1, u"10", true, 10},
+        {1, 1, 10, 1, u"1", false, 1},
+        {9, 1, 10, 3, u"9", true, 10}, // 12 is cut to the maximum
+        {5, 1, 10, 1, u"", false, 1},  // down from an empty edit gives the minimum too
+        {4, 1, 10, 1, u"x", true, 5},  // no number: the stored value steps
+        {4, 1, 10, 1, u"7", true, 8},  // the edit's number wins over the stored value
         {0, -10, 10, 4, u"-8", false, -10},
-        {4, 1, 10, 0, u"7", true, 4},          // increment 0 does not read the edit
+        {4, 1, 10, 0, u"7", true, 4},                                  // increment 0 does not read the edit
         {0x7FFFFFFF, INT32_MIN, 0x7FFFFFFF, 1, u"x", true, INT32_MIN}, // the sum wraps, unchecked
     };
     for (const Case &c : cases) {

@@ -31,10 +31,9 @@ TEST(SplitterBlock, BytesAndRoundTrip) {
     block.orientation = kHorizontalBar;
     block.displayHandle = 1;
     block.invertWhenDragging = 0;
-    const Bytes expected = {1,    0,    0,    0,    3,    2,    1,    0,    0xC0, 0xC0, 0xC0, 0,    0xFF,
-                            0xFF, 0xFF, 0,    0x80, 0x80, 0x80, 0,    2,    0,    0,    0,    0xFE, 0xFF,
-                            0xFF, 0xFF, 1,    0,    0,    0,    1,    0,    0,    0,    0,    0,    0,
-                            0,    1,    0};
+    const Bytes expected = {1,    0, 0,    0,    3,    2, 1, 0, 0xC0, 0xC0, 0xC0, 0,    0xFF, 0xFF,
+                            0xFF, 0, 0x80, 0x80, 0x80, 0, 2, 0, 0,    0,    0xFE, 0xFF, 0xFF, 0xFF,
+                            1,    0, 0,    0,    1,    0, 0, 0, 0,    0,    0,    0,    1,    0};
     const Bytes bytes = Stored(block);
     EXPECT_EQ(bytes, expected);
     SPropSplitter back;
@@ -122,13 +121,13 @@ TEST(SplitterChildren, TheRunTimeWalk) {
     };
     const Case cases[] = {
         {{"a", "b", "c"}, 1, 2},
-        {{"S", "a", "S", "b"}, 2, 4},           // splitters and handles are passed over
+        {{"S", "a", "S", "b"}, 2, 4}, // splitters and handles are passed over
         {{"a"}, 1, 0},
-        {{"P>", "a"}, 2, 1},                    // a pane right of the bar: child two, and the count restarts
-        {{"P>", "a", "b"}, 2, 3},               // so a later plain window takes child two from it
-        {{"P>b", "P<", "a"}, 2, 3},             // a pane left of the bar: child one, counting on from it
+        {{"P>", "a"}, 2, 1},        // a pane right of the bar: child two, and the count restarts
+        {{"P>", "a", "b"}, 2, 3},   // so a later plain window takes child two from it
+        {{"P>b", "P<", "a"}, 2, 3}, // a pane left of the bar: child one, counting on from it
         {{"P<", "P>", "a"}, 1, 2},
-        {{"h", "x", "a"}, 1, 3},                // after a hidden directly moved window, one more is unseen
+        {{"h", "x", "a"}, 1, 3}, // after a hidden directly moved window, one more is unseen
         {{"a", "h", "x", "b"}, 1, 2},
     };
     for (const Case &c : cases) {

@@ -110,8 +110,8 @@ TEST_F(Stopwatch, ATotalTextIsNotCutButALabelIs) {
     ASSERT_EQ(diag.SetTime(longText.c_str()), 1);
     ASSERT_EQ(diag.SetTime(u"x"), 1);
     ASSERT_EQ(diag.EndTime(longText.c_str(), 0), 1);
-    EXPECT_EQ(system.DebugText(), std::u16string(254, u't') + u": 0:00.00\nx: 0:00.00\nTotal " + longText +
-                                      u": 0:00.00\n\n");
+    EXPECT_EQ(system.DebugText(),
+              std::u16string(254, u't') + u": 0:00.00\nx: 0:00.00\nTotal " + longText + u": 0:00.00\n\n");
 }
 
 TEST_F(Stopwatch, BlocksThatCannotBeHadGiveZero) {

@@ -10,12 +10,12 @@
 
 #include <gtest/gtest.h>
 
+#include <cctype>
 #include <cstdio>
 #include <cstring>
 #include <fstream>
 #include <map>
 #include <memory>
-#include <cctype>
 #include <set>
 
 namespace {
@@ -25,7 +25,7 @@ struct Declared {
     bool hidden = false;
 };
 
-std::map<std::string, Declared> readAbiTable(const std::string &path) {
+std::map<std::string, Declared> ReadAbiTable(const std::string &path) {
     std::map<std::string, Declared> table;
     std::ifstream in(path, std::ios::binary);
     char record[64];
@@ -50,7 +50,7 @@ struct Block {
     bool indirectTailCall = false;
 };
 
-bool startsWith(const std::string &text, size_t at, const char *prefix) {
+bool StartsWith(const std::string &text, size_t at, const char *prefix) {
     return text.compare(at, std::strlen(prefix), prefix) == 0;
 }
 
@@ -79,14 +79,14 @@ std::map<uint64_t, Block> disassemble(const std::string &objdump, const std::str
             continue;
         size_t at = tab + 2;
         for (const char *prefix : {"repz ", "rep "})
-            if (startsWith(line, at, prefix))
+            if (StartsWith(line, at, prefix))
                 at += std::strlen(prefix);
-        if (startsWith(line, at, "ret")) {
+        if (StartsWith(line, at, "ret")) {
             const size_t dollar = line.find("$0x", at);
             current->rets.push_back(dollar == std::string::npos
                                         ? 0u
                                         : static_cast<uint32_t>(std::stoul(line.substr(dollar + 3), nullptr, 16)));
-        } else if (startsWith(line, at, "jmp ")) {
+        } else if (StartsWith(line, at, "jmp ")) {
             const size_t target = line.find_first_not_of(' ', at + 4);
             if (target == std::string::npos)
                 continue;
@@ -102,8 +102,7 @@ std::map<uint64_t, Block> disassemble(const std::string &objdump, const std::str
 // The pops of a function: its own returns, or those of the blocks its
 // direct jumps reach when it has none (a tail call to a function of its
 // own). Empty with `tailCall` set when it leaves only through a pointer.
-std::set<uint32_t> popsOf(const std::map<uint64_t, Block> &blocks, uint64_t address, bool &tailCall,
-                          int depth = 0) {
+std::set<uint32_t> PopsOf(const std::map<uint64_t, Block> &blocks, uint64_t address, bool &tailCall, int depth = 0) {
     std::set<uint32_t> pops;
     const auto found = blocks.find(address);
     if (found == blocks.end() || depth > 4)
@@ -113,7 +112,7 @@ std::set<uint32_t> popsOf(const std::map<uint64_t, Block> &blocks, uint64_t addr
         tailCall = tailCall || found->second.indirectTailCall;
         for (uint64_t target : found->second.jumps)
             if (target != address) {
-                const std::set<uint32_t> more = popsOf(blocks, target, tailCall, depth + 1);
+                const std::set<uint32_t> more = PopsOf(blocks, target, tailCall, depth + 1);
                 pops.insert(more.begin(), more.end());
             }
     }
@@ -121,15 +120,15 @@ std::set<uint32_t> popsOf(const std::map<uint64_t, Block> &blocks, uint64_t addr
 }
 
 // "Name@N == Name" entries: the exported name and its N.
-std::map<std::string, uint32_t> defBytes(const std::vector<std::string> &files) {
+std::map<std::string, uint32_t> DefBytes(const std::vector<std::string> &files) {
     std::map<std::string, uint32_t> bytes;
     for (const std::string &file : files) {
-        const auto text = decl::readText(file);
+        const auto text = decl::ReadText(file);
         EXPECT_TRUE(text) << "cannot read " << file;
         if (!text)
             continue;
         const bool part = file.find("/exports/") != std::string::npos;
-        for (const decl::DefEntry &e : decl::defEntries(*text, part)) {
+        for (const decl::DefEntry &e : decl::DefEntries(*text, part)) {
             const size_t at = e.internal.rfind('@');
             EXPECT_NE(at, std::string::npos) << e.exported << " has no argument bytes in " << file;
             if (at != std::string::npos)
@@ -145,19 +144,19 @@ struct Dll {
 };
 
 TEST(I686CallingConvention, EveryExportPopsTheBytesItsDeclarationPushes) {
-    const std::string bin = locations::win32Bin(), objdump = locations::i686Objdump();
-    ASSERT_FALSE(bin.empty()) << locations::howToConfigure();
+    const std::string bin = locations::Win32Bin(), objdump = locations::I686Objdump();
+    ASSERT_FALSE(bin.empty()) << locations::HowToConfigure();
     ASSERT_FALSE(objdump.empty()) << "i686-w64-mingw32-objdump was not found when the native build was configured";
-    const auto declared = readAbiTable(bin + "/abi-table.bin");
+    const auto declared = ReadAbiTable(bin + "/abi-table.bin");
     ASSERT_FALSE(declared.empty()) << "no declarations in " << bin << "/abi-table.bin";
-    const std::string src = locations::sourceDir();
-    const Dll dlls[] = {{"ZKLIB.dll", decl::defFiles(src + "/res/ZKLIB.def", src + "/res/exports")},
+    const std::string src = locations::SourceDir();
+    const Dll dlls[] = {{"ZKLIB.dll", decl::DefFiles(src + "/res/ZKLIB.def", src + "/res/exports")},
                         {"zkhost.dll", {src + "/host/win/zkhost.def"}}};
     for (const Dll &dll : dlls) {
         std::string error;
         const auto image = pe::load(bin + "/" + dll.file, error);
         ASSERT_TRUE(image) << error;
-        const auto listed = defBytes(dll.defs);
+        const auto listed = DefBytes(dll.defs);
         const auto blocks = disassemble(objdump, bin + "/" + dll.file);
         ASSERT_FALSE(blocks.empty()) << "no disassembly of " << dll.file;
         int checked = 0;
@@ -168,12 +167,11 @@ TEST(I686CallingConvention, EveryExportPopsTheBytesItsDeclarationPushes) {
                 ADD_FAILURE() << dll.file << " exports " << e.name << ", which the .def or the headers lack";
                 continue;
             }
-            EXPECT_EQ(d->second.bytes, n->second)
-                << e.name << ": the header's declaration pushes " << d->second.bytes << " bytes, the .def says "
-                << n->second;
+            EXPECT_EQ(d->second.bytes, n->second) << e.name << ": the header's declaration pushes " << d->second.bytes
+                                                  << " bytes, the .def says " << n->second;
             const uint32_t expected = d->second.bytes + (d->second.hidden ? 4 : 0);
             bool tailCall = false;
-            const std::set<uint32_t> pops = popsOf(blocks, image->imageBase + e.rva, tailCall);
+            const std::set<uint32_t> pops = PopsOf(blocks, image->imageBase + e.rva, tailCall);
             if (pops.empty() && tailCall) {
                 ++checked;
                 continue;

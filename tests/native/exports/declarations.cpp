@@ -12,7 +12,7 @@ namespace {
 
 // Comments may mention ZKAPI functions that are not declared: blank them,
 // keeping line breaks.
-std::string withoutComments(const std::string &text) {
+std::string WithoutComments(const std::string &text) {
     std::string out;
     out.reserve(text.size());
     for (std::size_t i = 0; i < text.size();) {
@@ -46,9 +46,9 @@ std::string trim(const std::string &s) {
 
 } // namespace
 
-std::vector<std::string> zkapiFunctions(const std::string &header) {
+std::vector<std::string> ZkapiFunctions(const std::string &header) {
     static const std::regex declaration(R"(\bZKAPI\s+([A-Za-z_][A-Za-z0-9_]*)\s*\()");
-    const std::string text = withoutComments(header);
+    const std::string text = WithoutComments(header);
     std::vector<std::string> names;
     for (std::sregex_iterator it(text.begin(), text.end(), declaration), end; it != end; ++it) {
         names.push_back((*it)[1].str());
@@ -56,9 +56,8 @@ std::vector<std::string> zkapiFunctions(const std::string &header) {
     return names;
 }
 
-std::vector<DefEntry> defEntries(const std::string &def, bool part) {
-    static const std::regex entry(
-        R"(^([A-Za-z_][A-Za-z0-9_@?$]*)(\s*==\s*([A-Za-z_][A-Za-z0-9_@?$]*))?(\s+.*)?$)");
+std::vector<DefEntry> DefEntries(const std::string &def, bool part) {
+    static const std::regex entry(R"(^([A-Za-z_][A-Za-z0-9_@?$]*)(\s*==\s*([A-Za-z_][A-Za-z0-9_@?$]*))?(\s+.*)?$)");
     std::vector<DefEntry> entries;
     std::istringstream in(def);
     std::string raw;
@@ -78,9 +77,9 @@ std::vector<DefEntry> defEntries(const std::string &def, bool part) {
             if (line.empty()) {
                 continue;
             }
-        } else if (keyword == "LIBRARY" || keyword == "NAME" || keyword == "IMPORTS" ||
-                   keyword == "SECTIONS" || keyword == "HEAPSIZE" || keyword == "STACKSIZE" ||
-                   keyword == "VERSION" || keyword == "DESCRIPTION") {
+        } else if (keyword == "LIBRARY" || keyword == "NAME" || keyword == "IMPORTS" || keyword == "SECTIONS" ||
+                   keyword == "HEAPSIZE" || keyword == "STACKSIZE" || keyword == "VERSION" ||
+                   keyword == "DESCRIPTION") {
             inExports = false;
             continue;
         }
@@ -105,7 +104,7 @@ std::vector<DefEntry> defEntries(const std::string &def, bool part) {
     return entries;
 }
 
-std::optional<std::string> readText(const std::string &path) {
+std::optional<std::string> ReadText(const std::string &path) {
     std::ifstream file(path, std::ios::binary);
     if (!file) {
         return std::nullopt;
@@ -115,9 +114,9 @@ std::optional<std::string> readText(const std::string &path) {
     return out.str();
 }
 
-std::optional<std::string> readHeaderTree(const std::string &path) {
+std::optional<std::string> ReadHeaderTree(const std::string &path) {
     static const std::regex include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"]+)"[^\n]*$)re");
-    auto text = readText(path);
+    auto text = ReadText(path);
     if (!text) {
         return std::nullopt;
     }
@@ -127,7 +126,7 @@ std::optional<std::string> readHeaderTree(const std::string &path) {
     while (std::getline(in, line)) {
         std::smatch m;
         if (std::regex_match(line, m, include) && std::filesystem::exists(dir / m[1].str())) {
-            auto inner = readHeaderTree((dir / m[1].str()).string());
+            auto inner = ReadHeaderTree((dir / m[1].str()).string());
             if (!inner) {
                 return std::nullopt;
             }
@@ -140,7 +139,7 @@ std::optional<std::string> readHeaderTree(const std::string &path) {
     return out;
 }
 
-std::vector<std::string> defFiles(const std::string &head, const std::string &partsDir) {
+std::vector<std::string> DefFiles(const std::string &head, const std::string &partsDir) {
     std::vector<std::string> files{head};
     std::vector<std::string> parts;
     std::error_code error;

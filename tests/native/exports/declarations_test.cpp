@@ -20,9 +20,9 @@ TEST(Declarations, ReadersSkipCommentsAndOtherSections) {
                                "int32_t ZKAPI First(const wchar_t *text);\n"
                                "HostStr    ZKAPI\n    Second (void);\n"
                                "int32_t __stdcall NotZkapi(void);\n";
-    EXPECT_EQ((Names{"First", "Second"}), decl::zkapiFunctions(header));
+    EXPECT_EQ((Names{"First", "Second"}), decl::ZkapiFunctions(header));
     const auto entries =
-        decl::defEntries("LIBRARY x\nNotAnExport\nEXPORTS\n  Alpha@4 == Alpha ; note\nBeta\nSECTIONS\n.data READ\n");
+        decl::DefEntries("LIBRARY x\nNotAnExport\nEXPORTS\n  Alpha@4 == Alpha ; note\nBeta\nSECTIONS\n.data READ\n");
     ASSERT_EQ(2u, entries.size());
     EXPECT_EQ("Alpha", entries[0].exported);
     EXPECT_EQ("Alpha@4", entries[0].internal);
@@ -31,14 +31,12 @@ TEST(Declarations, ReadersSkipCommentsAndOtherSections) {
     EXPECT_EQ("", entries[1].internal);
 }
 
-std::string source(const std::string &relative) {
-    return locations::sourceDir() + "/" + relative;
-}
+std::string source(const std::string &relative) { return locations::SourceDir() + "/" + relative; }
 
-Names readHeader(const std::string &relative) {
-    const auto text = decl::readHeaderTree(source(relative));
+Names ReadHeader(const std::string &relative) {
+    const auto text = decl::ReadHeaderTree(source(relative));
     EXPECT_TRUE(text) << "cannot read " << source(relative);
-    return text ? decl::zkapiFunctions(*text) : Names{};
+    return text ? decl::ZkapiFunctions(*text) : Names{};
 }
 
 // One .def file as the build joins it: its head and its parts.
@@ -55,14 +53,14 @@ struct NamedEntry {
     decl::DefEntry entry;
 };
 
-std::vector<NamedEntry> readDef(const DefSource &def) {
+std::vector<NamedEntry> ReadDef(const DefSource &def) {
     std::vector<NamedEntry> out;
-    const auto files = decl::defFiles(source(def.head), def.parts.empty() ? "" : source(def.parts));
+    const auto files = decl::DefFiles(source(def.head), def.parts.empty() ? "" : source(def.parts));
     for (std::size_t i = 0; i < files.size(); ++i) {
-        const auto text = decl::readText(files[i]);
+        const auto text = decl::ReadText(files[i]);
         EXPECT_TRUE(text) << "cannot read " << files[i];
         if (text) {
-            for (decl::DefEntry &e : decl::defEntries(*text, i > 0)) {
+            for (decl::DefEntry &e : decl::DefEntries(*text, i > 0)) {
                 out.push_back({files[i], std::move(e)});
             }
         }
@@ -72,44 +70,42 @@ std::vector<NamedEntry> readDef(const DefSource &def) {
 
 // Every entry of a .def is "Name@N == Name": stdcall inside on i686, the
 // plain name outside; each name once over the head and all parts.
-void expectStdcallForm(const DefSource &def) {
+void ExpectStdcallForm(const DefSource &def) {
     static const std::regex decorated(R"(([A-Za-z_][A-Za-z0-9_]*)@([0-9]+))");
-    const auto entries = readDef(def);
+    const auto entries = ReadDef(def);
     EXPECT_FALSE(entries.empty()) << def.head << " exports nothing";
     std::set<std::string> seen;
     for (const NamedEntry &n : entries) {
         const decl::DefEntry &e = n.entry;
         std::smatch m;
         EXPECT_TRUE(std::regex_match(e.internal, m, decorated) && m[1] == e.exported)
-            << n.file << ":" << e.line << ": \"" << e.exported
-            << "\" is not of the form Name@N == Name";
+            << n.file << ":" << e.line << ": \"" << e.exported << "\" is not of the form Name@N == Name";
         EXPECT_TRUE(seen.insert(e.exported).second)
             << n.file << ":" << e.line << ": " << e.exported << " is listed twice";
     }
 }
 
 TEST(DefFiles, AreInTheStdcallForm) {
-    expectStdcallForm(kZklibDef);
-    expectStdcallForm(kZkhostDef);
+    ExpectStdcallForm(kZklibDef);
+    ExpectStdcallForm(kZkhostDef);
 }
 
 TEST(DefFiles, ZklibDefNamesAreDeclaredInZklibH) {
-    const Names names = readHeader("include/zklib.h");
+    const Names names = ReadHeader("include/zklib.h");
     const std::set<std::string> declared(names.begin(), names.end());
-    for (const NamedEntry &n : readDef(kZklibDef)) {
+    for (const NamedEntry &n : ReadDef(kZklibDef)) {
         const decl::DefEntry &e = n.entry;
         EXPECT_TRUE(declared.count(e.exported))
-            << n.file << ":" << e.line << ": " << e.exported
-            << " is not declared ZKAPI in include/zklib.h";
+            << n.file << ":" << e.line << ": " << e.exported << " is not declared ZKAPI in include/zklib.h";
     }
 }
 
 TEST(DefFiles, ZkhostDefNamesAreDeclaredInTheHostHeaders) {
-    const Names host = readHeader("include/zkhost.h");
-    const Names controls = readHeader("include/zkhostctl.h");
+    const Names host = ReadHeader("include/zkhost.h");
+    const Names controls = ReadHeader("include/zkhostctl.h");
     std::set<std::string> declared(host.begin(), host.end());
     declared.insert(controls.begin(), controls.end());
-    for (const NamedEntry &n : readDef(kZkhostDef)) {
+    for (const NamedEntry &n : ReadDef(kZkhostDef)) {
         const decl::DefEntry &e = n.entry;
         EXPECT_TRUE(declared.count(e.exported))
             << n.file << ":" << e.line << ": " << e.exported

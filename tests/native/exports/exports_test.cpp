@@ -27,13 +27,12 @@ struct Target {
 void PrintTo(const Target &target, std::ostream *out) { *out << target.name; }
 
 const Target kTargets[] = {
-    {"x86_64", locations::win64Bin, "ZK_WIN64_BIN", pe::kMachineAmd64, true},
-    {"i686", locations::win32Bin, "ZK_WIN32_BIN", pe::kMachineI386, false},
+    {"x86_64", locations::Win64Bin, "ZK_WIN64_BIN", pe::kMachineAmd64, true},
+    {"i686", locations::Win32Bin, "ZK_WIN32_BIN", pe::kMachineI386, false},
 };
 
 std::string lower(std::string s) {
-    std::transform(s.begin(), s.end(), s.begin(),
-                   [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+    std::transform(s.begin(), s.end(), s.begin(), [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
     return s;
 }
 
@@ -52,7 +51,7 @@ NameSet minus(const NameSet &a, const NameSet &b) {
     return out;
 }
 
-NameSet exportNames(const pe::Image &image) {
+NameSet ExportNames(const pe::Image &image) {
     NameSet out;
     for (const pe::Export &e : image.exports) {
         out.insert(e.name);
@@ -60,17 +59,17 @@ NameSet exportNames(const pe::Image &image) {
     return out;
 }
 
-NameSet sourceNames(const std::string &relative, bool header) {
-    const std::string path = locations::sourceDir() + "/" + relative;
-    const auto text = header ? decl::readHeaderTree(path) : decl::readText(path);
+NameSet SourceNames(const std::string &relative, bool header) {
+    const std::string path = locations::SourceDir() + "/" + relative;
+    const auto text = header ? decl::ReadHeaderTree(path) : decl::ReadText(path);
     EXPECT_TRUE(text) << "cannot read " << path;
     NameSet out;
     if (text && header) {
-        for (const std::string &n : decl::zkapiFunctions(*text)) {
+        for (const std::string &n : decl::ZkapiFunctions(*text)) {
             out.insert(n);
         }
     } else if (text) {
-        for (const decl::DefEntry &e : decl::defEntries(*text)) {
+        for (const decl::DefEntry &e : decl::DefEntries(*text)) {
             out.insert(e.exported);
         }
     }
@@ -82,8 +81,8 @@ protected:
     void SetUp() override {
         const Target &t = GetParam();
         const std::string bin = t.bin();
-        ASSERT_FALSE(bin.empty()) << t.variable << " is empty: the " << t.name
-                                  << " DLLs cannot be checked; " << locations::howToConfigure();
+        ASSERT_FALSE(bin.empty()) << t.variable << " is empty: the " << t.name << " DLLs cannot be checked; "
+                                  << locations::HowToConfigure();
         std::string error;
         zklib = pe::load(bin + "/ZKLIB.dll", error);
         ASSERT_TRUE(zklib) << error;
@@ -140,8 +139,8 @@ TEST_P(DllTables, TheReaderRefusesBrokenImages) {
 }
 
 TEST_P(DllTables, ZklibExportsExactlyTheFunctionsOfZklibH) {
-    const NameSet expected = sourceNames("include/zklib.h", true);
-    const NameSet exported = exportNames(*zklib);
+    const NameSet expected = SourceNames("include/zklib.h", true);
+    const NameSet exported = ExportNames(*zklib);
     EXPECT_EQ(zklib->exports.size(), exported.size()) << "a name is exported twice";
     EXPECT_TRUE(minus(expected, exported).empty())
         << "declared ZKAPI in include/zklib.h but not exported:" << list(minus(expected, exported));
@@ -150,8 +149,8 @@ TEST_P(DllTables, ZklibExportsExactlyTheFunctionsOfZklibH) {
 }
 
 TEST_P(DllTables, ZkhostExportsExactlyTheNamesOfItsDef) {
-    const NameSet expected = sourceNames("host/win/zkhost.def", false);
-    const NameSet exported = exportNames(*zkhost);
+    const NameSet expected = SourceNames("host/win/zkhost.def", false);
+    const NameSet exported = ExportNames(*zkhost);
     EXPECT_EQ(zkhost->exports.size(), exported.size()) << "a name is exported twice";
     EXPECT_TRUE(minus(expected, exported).empty())
         << "listed in host/win/zkhost.def but not exported:" << list(minus(expected, exported));
@@ -160,7 +159,7 @@ TEST_P(DllTables, ZkhostExportsExactlyTheNamesOfItsDef) {
 }
 
 TEST_P(DllTables, ZklibImportsFromZkhostOnlyNamesItExports) {
-    const NameSet exported = exportNames(*zkhost);
+    const NameSet exported = ExportNames(*zkhost);
     int found = 0;
     for (const pe::ImportedDll &dll : zklib->imports) {
         if (lower(dll.dll) != "zkhost.dll") {
@@ -174,8 +173,7 @@ TEST_P(DllTables, ZklibImportsFromZkhostOnlyNamesItExports) {
             EXPECT_EQ(std::string::npos, name.find('@')) << "decorated import " << name;
         }
         EXPECT_TRUE(minus(imported, exported).empty())
-            << "imported by ZKLIB.dll but not exported by zkhost.dll:"
-            << list(minus(imported, exported));
+            << "imported by ZKLIB.dll but not exported by zkhost.dll:" << list(minus(imported, exported));
     }
     EXPECT_EQ(1, found) << "ZKLIB.dll must import zkhost.dll exactly once";
 }

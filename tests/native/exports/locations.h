@@ -18,7 +18,7 @@ namespace locations {
 
 // The source tree; without the generated header it is found from where
 // this header lies (tests/native/exports).
-inline std::string sourceDir() {
+inline std::string SourceDir() {
 #if ZK_EXPORTS_CONFIGURED
     return ZK_EXPORTS_SOURCE_DIR;
 #else
@@ -31,17 +31,16 @@ inline std::string sourceDir() {
 #endif
 }
 
-inline std::string win64Bin() { return ZK_EXPORTS_WIN64_BIN; }
-inline std::string win32Bin() { return ZK_EXPORTS_WIN32_BIN; }
+inline std::string Win64Bin() { return ZK_EXPORTS_WIN64_BIN; }
+inline std::string Win32Bin() { return ZK_EXPORTS_WIN32_BIN; }
 // The i686 disassembler of the cross tools.
-inline std::string i686Objdump() { return ZK_EXPORTS_I686_OBJDUMP; }
+inline std::string I686Objdump() { return ZK_EXPORTS_I686_OBJDUMP; }
 
-inline const char *howToConfigure() {
-    return ZK_EXPORTS_CONFIGURED
-               ? "set the CMake cache variables ZK_WIN64_BIN and ZK_WIN32_BIN of the native "
-                 "build to the bin folders of the x86_64 and i686 cross builds"
-               : "exports_config.h was not generated: the native build must configure "
-                 "tests/native/exports/exports_config.h.in for native_exports";
+inline const char *HowToConfigure() {
+    return ZK_EXPORTS_CONFIGURED ? "set the CMake cache variables ZK_WIN64_BIN and ZK_WIN32_BIN of the native "
+                                   "build to the bin folders of the x86_64 and i686 cross builds"
+                                 : "exports_config.h was not generated: the native build must configure "
+                                   "tests/native/exports/exports_config.h.in for native_exports";
 }
 
 } // namespace locations

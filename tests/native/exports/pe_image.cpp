@@ -22,9 +22,7 @@ class Bytes {
 public:
     explicit Bytes(const std::vector<std::uint8_t> &bytes) : b_(bytes) {}
 
-    bool has(std::size_t offset, std::size_t count) const {
-        return offset <= b_.size() && count <= b_.size() - offset;
-    }
+    bool has(std::size_t offset, std::size_t count) const { return offset <= b_.size() && count <= b_.size() - offset; }
     bool u16(std::size_t offset, std::uint16_t &v) const {
         if (!has(offset, 2)) {
             return false;
@@ -75,10 +73,10 @@ public:
         if (!headers(image, exports, imports)) {
             return std::nullopt;
         }
-        if (exports.rva && !readExports(image, exports)) {
+        if (exports.rva && !ReadExports(image, exports)) {
             return std::nullopt;
         }
-        if (imports.rva && !readImports(image, imports)) {
+        if (imports.rva && !ReadImports(image, imports)) {
             return std::nullopt;
         }
         return image;
@@ -101,8 +99,7 @@ private:
         }
         const std::size_t coff = static_cast<std::size_t>(peOffset) + 4;
         std::uint16_t sectionCount = 0, optionalSize = 0, magic = 0;
-        if (!in_.u16(coff, image.machine) || !in_.u16(coff + 2, sectionCount) ||
-            !in_.u16(coff + 16, optionalSize)) {
+        if (!in_.u16(coff, image.machine) || !in_.u16(coff + 2, sectionCount) || !in_.u16(coff + 16, optionalSize)) {
             return fail("truncated COFF header");
         }
         const std::size_t optional = coff + 20;
@@ -127,12 +124,11 @@ private:
             return fail("truncated optional header");
         }
         // Only the first two directories are read: exports and imports.
-        if (directoryCount > 0 && (!in_.u32(directoriesAt, exports.rva) ||
-                                   !in_.u32(directoriesAt + 4, exports.size))) {
+        if (directoryCount > 0 && (!in_.u32(directoriesAt, exports.rva) || !in_.u32(directoriesAt + 4, exports.size))) {
             return fail("truncated data directories");
         }
-        if (directoryCount > 1 && (!in_.u32(directoriesAt + 8, imports.rva) ||
-                                   !in_.u32(directoriesAt + 12, imports.size))) {
+        if (directoryCount > 1 &&
+            (!in_.u32(directoriesAt + 8, imports.rva) || !in_.u32(directoriesAt + 12, imports.size))) {
             return fail("truncated data directories");
         }
         if (directoriesAt + 8ull * directoryCount > optional + optionalSize) {
@@ -153,7 +149,7 @@ private:
 
     // The file offset of `count` bytes at `rva`, all inside one section's
     // file data.
-    bool offsetOf(std::uint32_t rva, std::size_t count, std::size_t &offset) const {
+    bool OffsetOf(std::uint32_t rva, std::size_t count, std::size_t &offset) const {
         for (const Section &s : sections_) {
             if (rva < s.virtualAddress) {
                 continue;
@@ -169,14 +165,14 @@ private:
         return false;
     }
 
-    bool textAt(std::uint32_t rva, std::string &out) const {
+    bool TextAt(std::uint32_t rva, std::string &out) const {
         std::size_t offset = 0;
-        return offsetOf(rva, 1, offset) && in_.text(offset, out);
+        return OffsetOf(rva, 1, offset) && in_.text(offset, out);
     }
 
-    bool readExports(Image &image, const Directory &dir) {
+    bool ReadExports(Image &image, const Directory &dir) {
         std::size_t at = 0;
-        if (!offsetOf(dir.rva, 40, at)) {
+        if (!OffsetOf(dir.rva, 40, at)) {
             return fail("export directory outside the file");
         }
         std::uint32_t nameRva = 0, base = 0, functionCount = 0, nameCount = 0;
@@ -188,14 +184,14 @@ private:
         in_.u32(at + 28, functionsRva);
         in_.u32(at + 32, namesRva);
         in_.u32(at + 36, ordinalsRva);
-        if (nameRva && !textAt(nameRva, image.exportDllName)) {
+        if (nameRva && !TextAt(nameRva, image.exportDllName)) {
             return fail("export directory name outside the file");
         }
         std::size_t functions = 0, names = 0, ordinals = 0;
         // The counts are checked against the file before anything is sized by them.
-        if ((functionCount && !offsetOf(functionsRva, 4ull * functionCount, functions)) ||
-            (nameCount && (!offsetOf(namesRva, 4ull * nameCount, names) ||
-                           !offsetOf(ordinalsRva, 2ull * nameCount, ordinals)))) {
+        if ((functionCount && !OffsetOf(functionsRva, 4ull * functionCount, functions)) ||
+            (nameCount &&
+             (!OffsetOf(namesRva, 4ull * nameCount, names) || !OffsetOf(ordinalsRva, 2ull * nameCount, ordinals)))) {
             return fail("export tables outside the file");
         }
         std::vector<bool> named(functionCount, false);
@@ -205,7 +201,7 @@ private:
             in_.u32(names + 4ull * i, rva);
             in_.u16(ordinals + 2ull * i, index);
             Export e;
-            if (!textAt(rva, e.name)) {
+            if (!TextAt(rva, e.name)) {
                 return fail("export name outside the file");
             }
             if (index >= functionCount) {
@@ -229,11 +225,11 @@ private:
         return true;
     }
 
-    bool readImports(Image &image, const Directory &dir) {
+    bool ReadImports(Image &image, const Directory &dir) {
         std::uint32_t rva = dir.rva;
         for (std::size_t n = 0; n <= limit_ / 20; ++n, rva += 20) {
             std::size_t at = 0;
-            if (!offsetOf(rva, 20, at)) {
+            if (!OffsetOf(rva, 20, at)) {
                 return fail("import directory outside the file");
             }
             std::uint32_t lookup = 0, nameRva = 0, thunks = 0;
@@ -244,10 +240,10 @@ private:
                 return true; // the terminating entry
             }
             ImportedDll dll;
-            if (!textAt(nameRva, dll.dll)) {
+            if (!TextAt(nameRva, dll.dll)) {
                 return fail("imported DLL name outside the file");
             }
-            if (!readThunks(image.pe32plus, lookup ? lookup : thunks, dll)) {
+            if (!ReadThunks(image.pe32plus, lookup ? lookup : thunks, dll)) {
                 return false;
             }
             image.imports.push_back(std::move(dll));
@@ -255,12 +251,12 @@ private:
         return fail("import directory without an end");
     }
 
-    bool readThunks(bool wide, std::uint32_t rva, ImportedDll &dll) {
+    bool ReadThunks(bool wide, std::uint32_t rva, ImportedDll &dll) {
         const unsigned step = wide ? 8 : 4;
         for (std::size_t n = 0; n <= limit_ / step; ++n, rva += step) {
             std::size_t at = 0;
             std::uint64_t entry = 0;
-            if (!offsetOf(rva, step, at)) {
+            if (!OffsetOf(rva, step, at)) {
                 return fail("import table of " + dll.dll + " outside the file");
             }
             if (wide) {
@@ -280,7 +276,7 @@ private:
             }
             std::string name;
             // Hint (two bytes), then the name.
-            if (entry > 0xFFFFFFFFull - 2 || !textAt(static_cast<std::uint32_t>(entry) + 2, name)) {
+            if (entry > 0xFFFFFFFFull - 2 || !TextAt(static_cast<std::uint32_t>(entry) + 2, name)) {
                 return fail("imported name from " + dll.dll + " outside the file");
             }
             dll.names.push_back(std::move(name));

@@ -30,8 +30,8 @@ struct Image {
     std::uint16_t machine = 0;
     bool pe32plus = false;
     std::uint64_t imageBase = 0;
-    std::string exportDllName;     // the name in the export directory
-    std::vector<Export> exports;   // named exports
+    std::string exportDllName;        // the name in the export directory
+    std::vector<Export> exports;      // named exports
     std::uint32_t unnamedExports = 0; // addresses reachable by ordinal only
     std::vector<ImportedDll> imports;
 };

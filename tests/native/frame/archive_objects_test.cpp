@@ -1,7 +1,7 @@
 // Tagged objects and object arrays: new-class tags, class indices shared
 // through one archive, null elements, and the reader's refusals.
-#include "frame/core/obarray.h"
 #include "designer_test.h"
+#include "frame/core/obarray.h"
 
 using namespace designertest;
 using zk::ArchiveException;
@@ -22,8 +22,14 @@ Bytes NewClass(const char *name) {
 }
 
 Bytes ColourBody(uint32_t value) {
-    return {0x01, 0x00, 0x00, 0x00, static_cast<uint8_t>(value), static_cast<uint8_t>(value >> 8),
-            static_cast<uint8_t>(value >> 16), static_cast<uint8_t>(value >> 24)};
+    return {0x01,
+            0x00,
+            0x00,
+            0x00,
+            static_cast<uint8_t>(value),
+            static_cast<uint8_t>(value >> 8),
+            static_cast<uint8_t>(value >> 16),
+            static_cast<uint8_t>(value >> 24)};
 }
 
 TEST(ArchiveObjects, IndicesCountClassesAndObjectsThroughTheWholeArchive) {
@@ -41,8 +47,14 @@ TEST(ArchiveObjects, IndicesCountClassesAndObjectsThroughTheWholeArchive) {
     });
     const Bytes textA = {0xFF, 0xFE, 0xFF, 0x01, 'A', 0x00};
     const Bytes textB = {0xFF, 0xFE, 0xFF, 0x01, 'B', 0x00};
-    EXPECT_EQ(got, Cat({NewClass("SColorItem"), ColourBody(1), NewClass("SMenuItem"), textA, {0x03, 0x80}, textB,
-                        {0x01, 0x80}, ColourBody(2)}));
+    EXPECT_EQ(got, Cat({NewClass("SColorItem"),
+                        ColourBody(1),
+                        NewClass("SMenuItem"),
+                        textA,
+                        {0x03, 0x80},
+                        textB,
+                        {0x01, 0x80},
+                        ColourBody(2)}));
 
     zk::CMemFile file = FileOf(got);
     CArchive ar(file, CArchive::load);
@@ -63,8 +75,10 @@ TEST(ArchiveObjects, IndicesFrom0x7FFFTakeTheBigTag) {
         ar.WriteObject(&first);
         ar.WriteObject(&second);
     });
-    const Bytes tail = Cat({NewClass("SMenuItem"), {0xFF, 0xFE, 0xFF, 0x00},
-                            {0xFF, 0x7F, 0x00, 0x80, 0x00, 0x80}, {0xFF, 0xFE, 0xFF, 0x00}});
+    const Bytes tail = Cat({NewClass("SMenuItem"),
+                            {0xFF, 0xFE, 0xFF, 0x00},
+                            {0xFF, 0x7F, 0x00, 0x80, 0x00, 0x80},
+                            {0xFF, 0xFE, 0xFF, 0x00}});
     ASSERT_GE(got.size(), tail.size());
     EXPECT_EQ(Bytes(got.end() - static_cast<long>(tail.size()), got.end()), tail);
 
@@ -82,8 +96,8 @@ TEST(ArchiveObjects, ArraysHoldACountAndTaggedElementsNullsIncluded) {
     array.Add(nullptr);
     array.Add(Colour(8));
     const Bytes got = Stored([&](CArchive &ar) { array.Serialize(ar); });
-    EXPECT_EQ(got, Cat({{0x03, 0x00}, NewClass("SColorItem"), ColourBody(7), {0x00, 0x00}, {0x01, 0x80},
-                        ColourBody(8)}));
+    EXPECT_EQ(got,
+              Cat({{0x03, 0x00}, NewClass("SColorItem"), ColourBody(7), {0x00, 0x00}, {0x01, 0x80}, ColourBody(8)}));
 
     zk::ObArray<SColorItem> back;
     zk::CMemFile file = FileOf(got);
@@ -97,8 +111,7 @@ TEST(ArchiveObjects, ArraysHoldACountAndTaggedElementsNullsIncluded) {
 
 TEST(ArchiveObjects, TheReaderRefusesWhatThisFormatCannotHold) {
     auto readColour = [](CArchive &ar) { ar.ReadObjectAs<SColorItem>(); };
-    EXPECT_EQ(FailureOf(Cat({NewClass("SMenuItem"), {0xFF, 0xFE, 0xFF, 0x00}}), readColour),
-              ArchiveException::badClass)
+    EXPECT_EQ(FailureOf(Cat({NewClass("SMenuItem"), {0xFF, 0xFE, 0xFF, 0x00}}), readColour), ArchiveException::badClass)
         << "another class than the one expected";
     EXPECT_EQ(FailureOf({0x05, 0x80}, readColour), ArchiveException::badIndex) << "a class never read";
     EXPECT_EQ(FailureOf(Cat({NewClass("SColorItem"), ColourBody(1), {0x02, 0x00}}),

@@ -42,8 +42,7 @@ TEST(Archive, CountsTakeTwoBytesUpTo0xFFFEAndSixBeyond) {
     EXPECT_EQ(Stored([](CArchive &ar) { ar.WriteCount(0); }), (Bytes{0x00, 0x00}));
     EXPECT_EQ(Stored([](CArchive &ar) { ar.WriteCount(0xFFFE); }), (Bytes{0xFE, 0xFF}));
     EXPECT_EQ(Stored([](CArchive &ar) { ar.WriteCount(0xFFFF); }), (Bytes{0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00}));
-    EXPECT_EQ(Stored([](CArchive &ar) { ar.WriteCount(0x12345); }),
-              (Bytes{0xFF, 0xFF, 0x45, 0x23, 0x01, 0x00}));
+    EXPECT_EQ(Stored([](CArchive &ar) { ar.WriteCount(0x12345); }), (Bytes{0xFF, 0xFF, 0x45, 0x23, 0x01, 0x00}));
     zk::CMemFile file = FileOf({0x03, 0x00, 0xFF, 0xFF, 0x45, 0x23, 0x01, 0x00});
     CArchive ar(file, CArchive::load);
     EXPECT_EQ(ar.ReadCount(), 3u);
@@ -98,9 +97,9 @@ TEST(ArchiveText, TextsWithoutTheTagHaveOneBytePerCharacter) {
 TEST(ArchiveText, ALengthBeyondTheFileIsRefusedBeforeAllocating) {
     EXPECT_EQ(FailureOf({0xFF, 0xFE, 0xFF, 0x05, 'a', 0}, [](CArchive &ar) { ar.ReadString(); }),
               ArchiveException::endOfFile);
-    EXPECT_EQ(FailureOf({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F},
-                        [](CArchive &ar) { ar.ReadString(); }),
-              ArchiveException::endOfFile);
+    EXPECT_EQ(
+        FailureOf({0xFF, 0xFE, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0x7F}, [](CArchive &ar) { ar.ReadString(); }),
+        ArchiveException::endOfFile);
     EXPECT_EQ(FailureOf({0xFF, 0xFE}, [](CArchive &ar) { ar.ReadString(); }), ArchiveException::endOfFile);
 }
 

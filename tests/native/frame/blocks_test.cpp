@@ -1,7 +1,7 @@
 // SPropGeneric and the block helpers: the byte image, versions, short and
 // damaged records.
-#include "frame/core/generic_block.h"
 #include "designer_test.h"
+#include "frame/core/generic_block.h"
 
 using namespace designertest;
 using zk::SPropGeneric;

@@ -20,13 +20,13 @@ HostNumber raw(std::initializer_list<uint8_t> bytes, int length) {
 
 TEST(HostDecimal, RecordLayout) {
     // 123.45 = 0.12345e3: exponent byte 0x43, BCD 12 34 50, the rest zero.
-    EXPECT_TRUE(sameRecord(num("123.45"), raw({0x43, 0x12, 0x34, 0x50}, 4)));
+    EXPECT_TRUE(SameRecord(num("123.45"), raw({0x43, 0x12, 0x34, 0x50}, 4)));
     const HostNumber n = num("123.45");
     for (int i = 4; i < 24; ++i)
         EXPECT_EQ(n.digits[i], 0) << i;
-    EXPECT_TRUE(sameRecord(num("-0.05"), raw({0x80 | (64 - 1), 0x50}, 2)));
-    EXPECT_TRUE(sameRecord(zkh::numberZero(), raw({0x40}, 1)));
-    EXPECT_FALSE(zkh::isNull(zkh::numberZero()));
+    EXPECT_TRUE(SameRecord(num("-0.05"), raw({0x80 | (64 - 1), 0x50}, 2)));
+    EXPECT_TRUE(SameRecord(zkh::NumberZero(), raw({0x40}, 1)));
+    EXPECT_FALSE(zkh::IsNull(zkh::NumberZero()));
     EXPECT_EQ(num("1234567890123456789012345678").length, 15) << "28 digits fill 15 bytes";
 }
 
@@ -35,24 +35,22 @@ TEST(HostDecimal, EqualValuesHaveEqualBytes) {
                                 num("001.1"),
                                 num("1.1e0"),
                                 num("0.011e2"),
-                                zkh::numberFromDouble(1.1),
+                                zkh::NumberFromDouble(1.1),
                                 add(num("1"), num("0.1")),
                                 sub(num("2.2"), num("1.1"))};
     for (const HostNumber &f : forms)
-        EXPECT_TRUE(sameRecord(f, forms[0])) << text(f);
-    EXPECT_TRUE(sameRecord(num("-0"), zkh::numberZero()));
-    EXPECT_TRUE(sameRecord(sub(num("0.3"), num("0.3")), zkh::numberZero()));
-    EXPECT_TRUE(sameRecord(zkh::numberFromInt64(1), zkh::numberFromDouble(1.0)));
+        EXPECT_TRUE(SameRecord(f, forms[0])) << text(f);
+    EXPECT_TRUE(SameRecord(num("-0"), zkh::NumberZero()));
+    EXPECT_TRUE(SameRecord(sub(num("0.3"), num("0.3")), zkh::NumberZero()));
+    EXPECT_TRUE(SameRecord(zkh::NumberFromInt64(1), zkh::NumberFromDouble(1.0)));
 }
 
 TEST(HostDecimal, RoundsHalfAwayFromZeroBeyondTwentyEightDigits) {
     const HostNumber big = num("1234567890123456789012345678");
     EXPECT_EQ(text(add(big, num("0.5"))), "1234567890123456789012345679");
     EXPECT_EQ(text(add(big, num("0.49"))), "1234567890123456789012345678");
-    EXPECT_EQ(text(sub(num("-1234567890123456789012345678"), num("0.5"))),
-              "-1234567890123456789012345679");
-    EXPECT_EQ(text(add(num("9999999999999999999999999999"), num("0.5"))),
-              "10000000000000000000000000000");
+    EXPECT_EQ(text(sub(num("-1234567890123456789012345678"), num("0.5"))), "-1234567890123456789012345679");
+    EXPECT_EQ(text(add(num("9999999999999999999999999999"), num("0.5"))), "10000000000000000000000000000");
     // Far apart: the small addend only matters through the rounding digit.
     EXPECT_EQ(text(add(num("1e30"), num("6e2"))), "1000000000000000000000000001000");
     EXPECT_EQ(text(add(num("1e30"), num("4.99e2"))), "1000000000000000000000000000000");
@@ -61,18 +59,16 @@ TEST(HostDecimal, RoundsHalfAwayFromZeroBeyondTwentyEightDigits) {
 
 TEST(HostDecimal, NullReadsAsZeroInSums) {
     const HostNumber null{};
-    EXPECT_TRUE(sameRecord(add(null, null), zkh::numberZero()));
+    EXPECT_TRUE(SameRecord(add(null, null), zkh::NumberZero()));
     EXPECT_EQ(text(sub(null, num("2.5"))), "-2.5");
 }
 
 TEST(HostDecimal, OutputMayBeAnOperand) {
     HostNumber a = num("10.5");
     const HostNumber b = num("0.25");
-    a.length =
-        static_cast<uint8_t>(zkh::numberAdd(a.digits, a.digits, a.length, b.digits, b.length));
+    a.length = static_cast<uint8_t>(zkh::NumberAdd(a.digits, a.digits, a.length, b.digits, b.length));
     EXPECT_EQ(text(a), "10.75");
-    a.length =
-        static_cast<uint8_t>(zkh::numberSubtract(a.digits, b.digits, b.length, a.digits, a.length));
+    a.length = static_cast<uint8_t>(zkh::NumberSubtract(a.digits, b.digits, b.length, a.digits, a.length));
     EXPECT_EQ(text(a), "-10.5");
 }
 
@@ -82,20 +78,20 @@ TEST(HostDecimal, ExponentLimits) {
     EXPECT_EQ(text(top).size(), 63u);
     EXPECT_EQ(add(top, top).length, 0);
     HostNumber n{};
-    EXPECT_FALSE(zkh::numberFromText(u"1e63", n));
+    EXPECT_FALSE(zkh::NumberFromText(u"1e63", n));
     EXPECT_EQ(n.length, 0);
     // Below 10^-65 values vanish into zero.
     EXPECT_EQ(text(num("1e-65")), "0." + std::string(64, '0') + "1");
-    EXPECT_TRUE(sameRecord(num("1e-66"), zkh::numberZero()));
+    EXPECT_TRUE(SameRecord(num("1e-66"), zkh::NumberZero()));
 }
 
 // Order beyond what the random sums reach: null first, the extremes.
 TEST(HostDecimal, CompareOrdersValuesAndPutsNullFirst) {
-    const HostNumber ordered[] = {HostNumber{}, num("-1e40"), num("-1e-30"), num("0"),
+    const HostNumber ordered[] = {HostNumber{}, num("-1e40"),     num("-1e-30"), num("0"),
                                   num("1e-30"), num("1.0000001"), num("9e62")};
     for (size_t i = 0; i + 1 < std::size(ordered); ++i) {
-        EXPECT_LT(zkh::numberCompare(ordered[i], ordered[i + 1]), 0) << i;
-        EXPECT_GT(zkh::numberCompare(ordered[i + 1], ordered[i]), 0) << i;
+        EXPECT_LT(zkh::NumberCompare(ordered[i], ordered[i + 1]), 0) << i;
+        EXPECT_GT(zkh::NumberCompare(ordered[i + 1], ordered[i]), 0) << i;
     }
 }
 
@@ -103,21 +99,21 @@ TEST(HostDecimal, OddRecordsAreReadSafely) {
     // A length beyond the 24 digit bytes is null, whatever the bytes say.
     HostNumber wild = num("5");
     wild.length = 200;
-    EXPECT_EQ(zkh::numberCompare(wild, HostNumber{}), 0);
-    EXPECT_EQ(zkh::numberToText(wild), u"");
+    EXPECT_EQ(zkh::NumberCompare(wild, HostNumber{}), 0);
+    EXPECT_EQ(zkh::NumberToText(wild), u"");
     EXPECT_EQ(text(add(wild, num("1"))), "1");
     // A nibble that is no digit makes the record unreadable, hence null.
-    EXPECT_EQ(zkh::numberToText(raw({0x41, 0x1A}, 2)), u"");
+    EXPECT_EQ(zkh::NumberToText(raw({0x41, 0x1A}, 2)), u"");
     // Leading zero digits and a negative zero are read for what they mean.
     EXPECT_EQ(text(raw({0x43, 0x01, 0x20}, 3)), "12");
-    EXPECT_EQ(zkh::numberCompare(raw({0xC5}, 1), zkh::numberZero()), 0);
+    EXPECT_EQ(zkh::NumberCompare(raw({0xC5}, 1), zkh::NumberZero()), 0);
     // A long record reads all 46 digits and rounds once when written again.
     HostNumber longest{};
     longest.length = 24;
     longest.digits[0] = 0x40 + 46;
     for (int i = 1; i < 24; ++i)
         longest.digits[i] = 0x99;
-    EXPECT_EQ(text(add(longest, zkh::numberZero())), "1" + std::string(46, '0'));
+    EXPECT_EQ(text(add(longest, zkh::NumberZero())), "1" + std::string(46, '0'));
 }
 
 TEST(HostDecimal, Int64Conversions) {
@@ -125,24 +121,24 @@ TEST(HostDecimal, Int64Conversions) {
                               std::numeric_limits<int64_t>::min()};
     for (int64_t v : values) {
         int64_t back = 42;
-        EXPECT_TRUE(zkh::numberToInt64(zkh::numberFromInt64(v), back)) << v;
+        EXPECT_TRUE(zkh::NumberToInt64(zkh::NumberFromInt64(v), back)) << v;
         EXPECT_EQ(back, v);
-        EXPECT_EQ(text(zkh::numberFromInt64(v)), std::to_string(v));
+        EXPECT_EQ(text(zkh::NumberFromInt64(v)), std::to_string(v));
     }
     int64_t out = 0;
-    EXPECT_TRUE(zkh::numberToInt64(num("-2.9"), out));
+    EXPECT_TRUE(zkh::NumberToInt64(num("-2.9"), out));
     EXPECT_EQ(out, -2);
-    EXPECT_TRUE(zkh::numberToInt64(num("-9223372036854775808.7"), out));
+    EXPECT_TRUE(zkh::NumberToInt64(num("-9223372036854775808.7"), out));
     EXPECT_EQ(out, std::numeric_limits<int64_t>::min());
-    EXPECT_FALSE(zkh::numberToInt64(num("9223372036854775808"), out));
-    EXPECT_FALSE(zkh::numberToInt64(num("-9223372036854775809"), out));
-    EXPECT_FALSE(zkh::numberToInt64(num("1e25"), out));
-    EXPECT_FALSE(zkh::numberToInt64(HostNumber{}, out));
+    EXPECT_FALSE(zkh::NumberToInt64(num("9223372036854775808"), out));
+    EXPECT_FALSE(zkh::NumberToInt64(num("-9223372036854775809"), out));
+    EXPECT_FALSE(zkh::NumberToInt64(num("1e25"), out));
+    EXPECT_FALSE(zkh::NumberToInt64(HostNumber{}, out));
 }
 
 // Scaled 128-bit integers as an independent oracle for sums of up to 27
 // digits each.
-std::string scaledText(__int128 value, int scale) {
+std::string ScaledText(__int128 value, int scale) {
     const bool negative = value < 0;
     unsigned __int128 m = negative ? -static_cast<unsigned __int128>(value) : value;
     std::string digits;
@@ -186,11 +182,11 @@ TEST(HostDecimal, RandomSumsMatchWideIntegers) {
         const __int128 limit = static_cast<__int128>(1000000000000000000) * 1000000000; // 10^27
         if (pa >= limit || pa <= -limit || pb >= limit || pb <= -limit)
             continue;
-        const HostNumber x = num(scaledText(a, sa)), y = num(scaledText(b, sb));
-        ASSERT_EQ(text(add(x, y)), scaledText(pa + pb, scale)) << text(x) << " + " << text(y);
-        ASSERT_EQ(text(sub(x, y)), scaledText(pa - pb, scale)) << text(x) << " - " << text(y);
+        const HostNumber x = num(ScaledText(a, sa)), y = num(ScaledText(b, sb));
+        ASSERT_EQ(text(add(x, y)), ScaledText(pa + pb, scale)) << text(x) << " + " << text(y);
+        ASSERT_EQ(text(sub(x, y)), ScaledText(pa - pb, scale)) << text(x) << " - " << text(y);
         const int order = pa < pb ? -1 : (pa > pb ? 1 : 0);
-        const int got = zkh::numberCompare(x, y);
+        const int got = zkh::NumberCompare(x, y);
         ASSERT_EQ((got > 0) - (got < 0), order) << text(x) << " <> " << text(y);
     }
 }

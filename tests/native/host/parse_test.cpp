@@ -10,40 +10,39 @@ namespace {
 
 HostDateTime parse(std::string_view text) {
     HostDateTime d{};
-    EXPECT_TRUE(zkh::dateParse(u16(text), d)) << text;
+    EXPECT_TRUE(zkh::DateParse(u16(text), d)) << text;
     return d;
 }
 
-void expectParsed(std::string_view text, const HostDateTime &expected) {
+void ExpectParsed(std::string_view text, const HostDateTime &expected) {
     const HostDateTime got = parse(text);
-    EXPECT_TRUE(sameRecord(got, expected))
-        << text << " -> " << ascii(zkh::dateFormat(got, u"yyyy-MM-dd-hh.mm.ss.mmmmmm"));
+    EXPECT_TRUE(SameRecord(got, expected))
+        << text << " -> " << ascii(zkh::DateFormat(got, u"yyyy-MM-dd-hh.mm.ss.mmmmmm"));
 }
 
 TEST(HostDateParse, AcceptedForms) {
-    expectParsed("2020-05-17", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
-    expectParsed("2020-05-17-13.45.10.000123", zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 123));
-    expectParsed("2020-05-17-13.45.10.5", zkh::dateFromParts(2020, 5, 17, 13, 45, 10, 500000));
-    expectParsed("2020-05-17 13:45", zkh::dateFromParts(2020, 5, 17, 13, 45, 0));
-    expectParsed("2020-05-17T13:45:10", zkh::dateFromParts(2020, 5, 17, 13, 45, 10));
-    expectParsed("2020-5-7T01:02:03.25", zkh::dateFromParts(2020, 5, 7, 1, 2, 3, 250000));
-    expectParsed("05/17/2020", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
-    expectParsed("5/7/2020 1:45 PM", zkh::dateFromParts(2020, 5, 7, 13, 45, 0));
-    expectParsed("05/17/2020 12:00:01 am", zkh::dateFromParts(2020, 5, 17, 0, 0, 1));
-    expectParsed("17 May 2020", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
-    expectParsed("17 Dec 2020 08:30", zkh::dateFromParts(2020, 12, 17, 8, 30, 0));
-    expectParsed("February 29, 2024 10:00 PM", zkh::dateFromParts(2024, 2, 29, 22, 0, 0));
-    expectParsed("   2020-05-17   ", zkh::dateFromParts(2020, 5, 17, 0, 0, 0));
-    expectParsed("-0044-03-15", zkh::dateFromParts(-44, 3, 15, 0, 0, 0));
-    expectParsed("-2147483648-01-01", zkh::dateFromParts(INT_MIN, 1, 1, 0, 0, 0));
-    expectParsed("2147483647-12-31-23.59.59.999999",
-                 zkh::dateFromParts(INT_MAX, 12, 31, 23, 59, 59, 999999));
+    ExpectParsed("2020-05-17", zkh::DateFromParts(2020, 5, 17, 0, 0, 0));
+    ExpectParsed("2020-05-17-13.45.10.000123", zkh::DateFromParts(2020, 5, 17, 13, 45, 10, 123));
+    ExpectParsed("2020-05-17-13.45.10.5", zkh::DateFromParts(2020, 5, 17, 13, 45, 10, 500000));
+    ExpectParsed("2020-05-17 13:45", zkh::DateFromParts(2020, 5, 17, 13, 45, 0));
+    ExpectParsed("2020-05-17T13:45:10", zkh::DateFromParts(2020, 5, 17, 13, 45, 10));
+    ExpectParsed("2020-5-7T01:02:03.25", zkh::DateFromParts(2020, 5, 7, 1, 2, 3, 250000));
+    ExpectParsed("05/17/2020", zkh::DateFromParts(2020, 5, 17, 0, 0, 0));
+    ExpectParsed("5/7/2020 1:45 PM", zkh::DateFromParts(2020, 5, 7, 13, 45, 0));
+    ExpectParsed("05/17/2020 12:00:01 am", zkh::DateFromParts(2020, 5, 17, 0, 0, 1));
+    ExpectParsed("17 May 2020", zkh::DateFromParts(2020, 5, 17, 0, 0, 0));
+    ExpectParsed("17 Dec 2020 08:30", zkh::DateFromParts(2020, 12, 17, 8, 30, 0));
+    ExpectParsed("February 29, 2024 10:00 PM", zkh::DateFromParts(2024, 2, 29, 22, 0, 0));
+    ExpectParsed("   2020-05-17   ", zkh::DateFromParts(2020, 5, 17, 0, 0, 0));
+    ExpectParsed("-0044-03-15", zkh::DateFromParts(-44, 3, 15, 0, 0, 0));
+    ExpectParsed("-2147483648-01-01", zkh::DateFromParts(INT_MIN, 1, 1, 0, 0, 0));
+    ExpectParsed("2147483647-12-31-23.59.59.999999", zkh::DateFromParts(INT_MAX, 12, 31, 23, 59, 59, 999999));
 }
 
 TEST(HostDateParse, TimeAloneFallsOnDayZero) {
-    expectParsed("01:45:10 PM", zkh::dateFromParts(1899, 12, 30, 13, 45, 10));
-    expectParsed("12:00AM", zkh::dateFromParts(1899, 12, 30, 0, 0, 0));
-    expectParsed(" 0:00 ", zkh::numberZero());
+    ExpectParsed("01:45:10 PM", zkh::DateFromParts(1899, 12, 30, 13, 45, 10));
+    ExpectParsed("12:00AM", zkh::DateFromParts(1899, 12, 30, 0, 0, 0));
+    ExpectParsed(" 0:00 ", zkh::NumberZero());
 }
 
 TEST(HostDateParse, RejectsAndLeavesNull) {
@@ -64,8 +63,8 @@ TEST(HostDateParse, RejectsAndLeavesNull) {
                          "999-01-01",
                          "2147483648-01-01"};
     for (const char *b : bad) {
-        HostDateTime d = zkh::dateFromParts(2000, 1, 1, 0, 0, 0);
-        EXPECT_FALSE(zkh::dateParse(u16(b), d)) << b;
+        HostDateTime d = zkh::DateFromParts(2000, 1, 1, 0, 0, 0);
+        EXPECT_FALSE(zkh::DateParse(u16(b), d)) << b;
         EXPECT_EQ(d.length, 0) << b;
     }
 }
@@ -73,23 +72,20 @@ TEST(HostDateParse, RejectsAndLeavesNull) {
 TEST(HostDateParse, DefaultTextsRoundTrip) {
     std::mt19937_64 rng(99);
     for (int i = 0; i < 3000; ++i) {
-        const int year = i % 3 == 0 ? static_cast<int>(rng() % 2000000) - 1000000
-                                    : static_cast<int>(rng() % 10000);
-        const HostDateTime d = zkh::dateFromParts(
-            year, 1 + static_cast<int>(rng() % 12), 1 + static_cast<int>(rng() % 31),
-            static_cast<int>(rng() % 24), static_cast<int>(rng() % 60),
-            static_cast<int>(rng() % 60), static_cast<int>(rng() % 1000000));
-        const std::u16string text = zkh::dateFormat(d, u"yyyy-MM-dd-hh.mm.ss.mmmmmm");
+        const int year = i % 3 == 0 ? static_cast<int>(rng() % 2000000) - 1000000 : static_cast<int>(rng() % 10000);
+        const HostDateTime d = zkh::DateFromParts(
+            year, 1 + static_cast<int>(rng() % 12), 1 + static_cast<int>(rng() % 31), static_cast<int>(rng() % 24),
+            static_cast<int>(rng() % 60), static_cast<int>(rng() % 60), static_cast<int>(rng() % 1000000));
+        const std::u16string text = zkh::DateFormat(d, u"yyyy-MM-dd-hh.mm.ss.mmmmmm");
         HostDateTime back{};
-        ASSERT_TRUE(zkh::dateParse(text, back)) << ascii(text);
-        ASSERT_TRUE(sameRecord(back, d)) << ascii(text);
+        ASSERT_TRUE(zkh::DateParse(text, back)) << ascii(text);
+        ASSERT_TRUE(SameRecord(back, d)) << ascii(text);
         // The American form with the twelve-hour clock comes back to the second.
-        const std::u16string us = zkh::dateFormat(d, u"MM/dd/yyyy hh:mm:ss AMPM");
+        const std::u16string us = zkh::DateFormat(d, u"MM/dd/yyyy hh:mm:ss AMPM");
         if (year >= 1000 && year <= 9999) {
-            const zkh::DateParts p = zkh::dateToParts(d);
-            ASSERT_TRUE(zkh::dateParse(us, back)) << ascii(us);
-            ASSERT_TRUE(sameRecord(
-                back, zkh::dateFromParts(p.year, p.month, p.day, p.hour, p.minute, p.second)))
+            const zkh::DateParts p = zkh::DateToParts(d);
+            ASSERT_TRUE(zkh::DateParse(us, back)) << ascii(us);
+            ASSERT_TRUE(SameRecord(back, zkh::DateFromParts(p.year, p.month, p.day, p.hour, p.minute, p.second)))
                 << ascii(us);
         }
     }

@@ -16,14 +16,23 @@ TEST(AccelMatch, ModifiersMatchExactly) {
         KeyState held;
         bool match;
     } cases[] = {
-        {0, kNone, true},          {1, kShift, true},     {2, kControl, true},
-        {3, kShiftControl, true},  {4, kAlt, true},       {7, kAll, true},
+        {0, kNone, true},
+        {1, kShift, true},
+        {2, kControl, true},
+        {3, kShiftControl, true},
+        {4, kAlt, true},
+        {7, kAll, true},
         // Extra keys held do not match a value without them.
-        {0, kShift, false},        {1, kShiftControl, false}, {3, kAll, false},
+        {0, kShift, false},
+        {1, kShiftControl, false},
+        {3, kAll, false},
         // Nor does a value with keys that are not held.
-        {3, kShift, false},        {4, kNone, false},
+        {3, kShift, false},
+        {4, kNone, false},
         // Values above 7 never match.
-        {8, kNone, false},         {9, kShift, false},    {0xFFFFFFFF, kAll, false},
+        {8, kNone, false},
+        {9, kShift, false},
+        {0xFFFFFFFF, kAll, false},
     };
     for (const Case &c : cases)
         EXPECT_EQ(ModifiersMatch(c.modifiers, c.held), c.match) << "modifiers " << c.modifiers;

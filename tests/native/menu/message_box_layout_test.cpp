@@ -32,9 +32,7 @@ public:
         }
         return {widest, count * 16};
     }
-    int32_t ButtonText(std::u16string_view caption) const override {
-        return static_cast<int32_t>(caption.size()) * 8;
-    }
+    int32_t ButtonText(std::u16string_view caption) const override { return static_cast<int32_t>(caption.size()) * 8; }
     mutable int lines = 0;
     mutable int32_t wrappedAt = -1;
 };

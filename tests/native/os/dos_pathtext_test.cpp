@@ -25,8 +25,8 @@ TEST(MakeAllDir, StepsFromTheOutsideInPassingTheRootAndNoneForARoot) {
         EXPECT_TRUE(MakeAllDirSteps(root).empty());
 }
 
-void ExpectParts(std::u16string_view path, std::u16string_view drive, std::u16string_view dir,
-                 std::u16string_view name, std::u16string_view ext) {
+void ExpectParts(std::u16string_view path, std::u16string_view drive, std::u16string_view dir, std::u16string_view name,
+                 std::u16string_view ext) {
     const PathParts p = SplitPathParts(path);
     EXPECT_EQ(drive, p.drive);
     EXPECT_EQ(dir, p.dir);

@@ -50,7 +50,7 @@ TEST(FileSums, TildeBeforeTheFileNameOrNothing) {
 TEST(FileSums, ProgramExtensionAfterTheFirstDotAnywhereInTheList) {
     const std::u16string_view list = u"COM EXE BAT PIF";
     EXPECT_TRUE(ProgramExtensionListed(u"C:\\RUN.BAT", list));
-    EXPECT_TRUE(ProgramExtensionListed(u"X.E", list)); // a short one matches inside a word
+    EXPECT_TRUE(ProgramExtensionListed(u"X.E", list));      // a short one matches inside a word
     EXPECT_FALSE(ProgramExtensionListed(u"A.B.EXE", list)); // the first dot: "B.EXE"
     EXPECT_FALSE(ProgramExtensionListed(u"NOTES.TXT", list));
     EXPECT_FALSE(ProgramExtensionListed(u"README", list));

@@ -18,17 +18,21 @@ inline char16_t Down(char16_t c) { return c >= u'A' && c <= u'Z' ? static_cast<c
 class AsciiRules final : public LbxCaseRules {
 public:
     void Upper(char16_t *text, std::size_t count) override {
-        for (std::size_t i = 0; i < count; ++i) text[i] = Up(text[i]);
+        for (std::size_t i = 0; i < count; ++i)
+            text[i] = Up(text[i]);
     }
     void Lower(char16_t *text, std::size_t count) override {
-        for (std::size_t i = 0; i < count; ++i) text[i] = Down(text[i]);
+        for (std::size_t i = 0; i < count; ++i)
+            text[i] = Down(text[i]);
     }
     bool IsLower(char16_t c) override { return c >= u'a' && c <= u'z'; }
     int CompareNoCase(const char16_t *a, const char16_t *b) override {
         for (;; ++a, ++b) {
             const char16_t x = Down(*a), y = Down(*b);
-            if (x != y) return x < y ? -1 : 1;
-            if (!x) return 0;
+            if (x != y)
+                return x < y ? -1 : 1;
+            if (!x)
+                return 0;
         }
     }
 };
@@ -50,13 +54,16 @@ public:
         return row >= 0 && row < static_cast<int32_t>(rows.size()) ? rows[static_cast<std::size_t>(row)] : kNoRow;
     }
     int32_t Insert(int32_t row, LbxItem *item) override {
-        if (row == refuseInsertAt) return -1;
-        if (row < 0 || row > static_cast<int32_t>(rows.size())) row = static_cast<int32_t>(rows.size());
+        if (row == refuseInsertAt)
+            return -1;
+        if (row < 0 || row > static_cast<int32_t>(rows.size()))
+            row = static_cast<int32_t>(rows.size());
         rows.insert(rows.begin() + row, reinterpret_cast<std::uintptr_t>(item));
         return row;
     }
     int32_t Delete(int32_t row) override {
-        if (row < 0 || row >= static_cast<int32_t>(rows.size())) return 0;
+        if (row < 0 || row >= static_cast<int32_t>(rows.size()))
+            return 0;
         const std::uintptr_t word = rows[static_cast<std::size_t>(row)];
         rows.erase(rows.begin() + row);
         if (!keeping && LbxIsItem(word)) {
@@ -75,7 +82,10 @@ public:
     bool IsCombo() override { return combo; }
     bool IsMultiSelect() override { return multi; }
     uint32_t Style() override { return style; }
-    void SetSel(int32_t row, bool on) override { if (on) selected.push_back(row); }
+    void SetSel(int32_t row, bool on) override {
+        if (on)
+            selected.push_back(row);
+    }
     void SetCurSel(int32_t row) override { curSel = row; }
     void SetCaret(int32_t row) override { caret = row; }
     void SetTopIndex(int32_t row) override { top = row; }
@@ -116,7 +126,8 @@ public:
             parent->firstChild = node;
             item->flags |= 0x00090000u;
         }
-        if (node->level == 0) item->flags &= ~LBX_ItemLeftLine;
+        if (node->level == 0)
+            item->flags &= ~LBX_ItemLeftLine;
         parent->lastChild = node;
         parent->item->flags |= LBX_ItemHasChildren | LBX_ItemPlus;
         return node;

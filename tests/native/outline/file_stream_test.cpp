@@ -14,17 +14,22 @@ namespace {
 // Little-endian pieces for vectors too long to spell out.
 struct Spell {
     Bytes b;
-    Spell &u8(uint8_t v) { b.push_back(v); return *this; }
+    Spell &u8(uint8_t v) {
+        b.push_back(v);
+        return *this;
+    }
     Spell &u16(uint16_t v) { return u8(v & 0xFF).u8(v >> 8); }
     Spell &u32(uint32_t v) { return u16(v & 0xFFFF).u16(v >> 16); }
     Spell &wide(std::u16string_view s) { // tag and a one-byte length
         u8(0xFF).u16(0xFFFE).u8(static_cast<uint8_t>(s.size()));
-        for (char16_t c : s) u16(c);
+        for (char16_t c : s)
+            u16(c);
         return *this;
     }
     Spell &narrow(std::string_view s) { // an older stream's string
         u8(static_cast<uint8_t>(s.size()));
-        for (char c : s) u8(static_cast<uint8_t>(c));
+        for (char c : s)
+            u8(static_cast<uint8_t>(c));
         return *this;
     }
     Spell &header(uint32_t pics, uint32_t fonts, uint32_t items) {
@@ -38,17 +43,148 @@ struct Spell {
 
 // A list with one picture, one font, the root and one child.
 const Bytes kGolden = {
-    0x59, 0x87, 0x11, 0x00, 0x02, 0x00, 0x08, 0x00, 0x00, 0x00, 0x03, 0x00, 0x00, 0x00, // magic style indent top
-    0x01, 0x00, 0x00, 0x00, 0x01, 0x00, 0x00, 0x00, 0x02, 0x00, 0x00, 0x00,             // counts
-    0x01, 0x82, 0xFF, 0xFE, 0xFF, 0x06, 'Z', 0, 'K', 0, '.', 0, 'd', 0, 'l', 0, 'l', 0, // OBPIC at 26
-    0xFF, 0xFE, 0xFF, 0x04, 'p', 0, 'l', 0, 'u', 0, 's', 0,
-    0x08, 0x00, 0x08, 0x00, 0xFF, 0xFE, 0xFF, 0x05, 'A', 0, 'r', 0, 'i', 0, 'a', 0, 'l', 0, // OBFONT
+    0x59,
+    0x87,
+    0x11,
+    0x00,
+    0x02,
+    0x00,
+    0x08,
+    0x00,
+    0x00,
+    0x00,
+    0x03,
+    0x00,
+    0x00,
+    0x00, // magic style indent top
+    0x01,
+    0x00,
+    0x00,
+    0x00,
+    0x01,
+    0x00,
+    0x00,
+    0x00,
+    0x02,
+    0x00,
+    0x00,
+    0x00, // counts
+    0x01,
+    0x82,
+    0xFF,
+    0xFE,
+    0xFF,
+    0x06,
+    'Z',
+    0,
+    'K',
+    0,
+    '.',
+    0,
+    'd',
+    0,
+    'l',
+    0,
+    'l',
+    0, // OBPIC at 26
+    0xFF,
+    0xFE,
+    0xFF,
+    0x04,
+    'p',
+    0,
+    'l',
+    0,
+    'u',
+    0,
+    's',
+    0,
+    0x08,
+    0x00,
+    0x08,
+    0x00,
+    0xFF,
+    0xFE,
+    0xFF,
+    0x05,
+    'A',
+    0,
+    'r',
+    0,
+    'i',
+    0,
+    'a',
+    0,
+    'l',
+    0, // OBFONT
     // the root: level -1, nothing, expanded parent, value 7, empty text
-    0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF, 0xFF,
-    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xC0, 0x07, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x00,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0xC0,
+    0x07,
+    0x00,
+    0x00,
+    0x00,
+    0xFF,
+    0xFE,
+    0xFF,
+    0x00,
     // "A": level 0, picture 0 normal, none selected, font 0, red, an application bit
-    0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0xFF, 0xFF, 0xFF, 0xFF, 0x00, 0x00, 0x00, 0x00,
-    0xFF, 0x00, 0x00, 0x00, 0x01, 0x00, 0x08, 0x00, 0x2A, 0x00, 0x00, 0x00, 0xFF, 0xFE, 0xFF, 0x01, 'A', 0,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0xFF,
+    0xFF,
+    0xFF,
+    0xFF,
+    0x00,
+    0x00,
+    0x00,
+    0x00,
+    0xFF,
+    0x00,
+    0x00,
+    0x00,
+    0x01,
+    0x00,
+    0x08,
+    0x00,
+    0x2A,
+    0x00,
+    0x00,
+    0x00,
+    0xFF,
+    0xFE,
+    0xFF,
+    0x01,
+    'A',
+    0,
 };
 
 OBLOB GoldenBlob() {
@@ -89,7 +225,8 @@ TEST(OutlineStream, OlderStreamsWithSingleByteStringsAreWidened) {
     s.u8(0xFF).u16(300); // a single-byte string of the u16 length form
     std::string long300(299, 'z');
     long300 += '\xE9';
-    for (char c : long300) s.u8(static_cast<uint8_t>(c));
+    for (char c : long300)
+        s.u8(static_cast<uint8_t>(c));
     OBLOB blob;
     std::vector<int32_t> parents;
     ASSERT_EQ(Read(s.b, blob, parents), ReadStatus::ok);
@@ -133,9 +270,9 @@ TEST(OutlineStream, BadHeadersAreRefused) {
     EXPECT_EQ(Read(Spell{}.header(0x10000000, 0, 0).u16(0).narrow("").narrow("").b, blob, parents),
               ReadStatus::corrupt);
     // A wide tag twice is no string.
-    EXPECT_EQ(Read(Spell{}.header(0, 1, 0).u16(8).u16(0).u8(0xFF).u16(0xFFFE).u8(0xFF).u16(0xFFFE).u8(0).b, blob,
-                   parents),
-              ReadStatus::corrupt);
+    EXPECT_EQ(
+        Read(Spell{}.header(0, 1, 0).u16(8).u16(0).u8(0xFF).u16(0xFFFE).u8(0xFF).u16(0xFFFE).u8(0).b, blob, parents),
+        ReadStatus::corrupt);
     // No items at all is a stream all the same; bytes after the records are left unread.
     ASSERT_EQ(Read(Spell{}.header(0, 0, 0).u32(0xDEADBEEF).b, blob, parents), ReadStatus::ok);
     EXPECT_TRUE(blob.items.empty());
@@ -144,7 +281,8 @@ TEST(OutlineStream, BadHeadersAreRefused) {
 
 std::vector<OBITEM> Levels(std::initializer_list<int32_t> levels) {
     std::vector<OBITEM> items;
-    for (int32_t l : levels) items.push_back({l, -1, -1, -1, 0, 0, 0, u""});
+    for (int32_t l : levels)
+        items.push_back({l, -1, -1, -1, 0, 0, 0, u""});
     return items;
 }
 
@@ -173,13 +311,14 @@ TEST(OutlineStream, ParentsFollowTheTableOfLevels) {
         EXPECT_EQ(parents, c.parents);
     }
     std::vector<OBITEM> deep = Levels({-1});
-    for (int32_t l = 0; l <= kMaxLevel; ++l) deep.push_back(Levels({l})[0]);
+    for (int32_t l = 0; l <= kMaxLevel; ++l)
+        deep.push_back(Levels({l})[0]);
     ASSERT_TRUE(OutlineParents(deep, parents));
     EXPECT_EQ(parents.back(), static_cast<int32_t>(deep.size()) - 2);
     // Levels outside the table, or a level no record went down to, refuse the whole stream.
     deep.push_back(Levels({kMaxLevel + 1})[0]);
-    for (auto levels : {deep, Levels({0, 2, 1}), Levels({0, -1}), Levels({-1, -1}), Levels({-2}),
-                        Levels({0, 0x7FFFFFFF})}) {
+    for (auto levels :
+         {deep, Levels({0, 2, 1}), Levels({0, -1}), Levels({-1, -1}), Levels({-2}), Levels({0, 0x7FFFFFFF})}) {
         parents = {5};
         EXPECT_FALSE(OutlineParents(levels, parents));
         EXPECT_EQ(parents, std::vector<int32_t>{5});

@@ -48,7 +48,8 @@ TEST(OutlineText, LinesFindTheirAnchors) {
 TEST(OutlineText, BytesAreWidenedByTheSystemCodePage) {
     auto widen = [](std::string_view b) {
         std::u16string out;
-        for (char c : b) out.push_back(c == '\x82' ? u'\u00E9' : static_cast<char16_t>(static_cast<unsigned char>(c)));
+        for (char c : b)
+            out.push_back(c == '\x82' ? u'\u00E9' : static_cast<char16_t>(static_cast<unsigned char>(c)));
         return out;
     };
     Lines lines;
@@ -71,7 +72,8 @@ TEST(OutlineText, SizeAndDepthLimitsRefuseTheWholeFile) {
     EXPECT_EQ(lines, before);
     // One blank deeper per line: level 255 is the deepest a line may take.
     std::string deep;
-    for (int level = 0; level <= 255; ++level) deep += std::string(static_cast<size_t>(level), ' ') + "n\r\n";
+    for (int level = 0; level <= 255; ++level)
+        deep += std::string(static_cast<size_t>(level), ' ') + "n\r\n";
     ASSERT_EQ(OutlineTextParse(deep, lines), TextStatus::ok);
     ASSERT_EQ(lines.size(), 256u);
     EXPECT_EQ(lines.back().level, 255);

@@ -95,25 +95,26 @@ TEST(ImageReader, LyingBitmapHeadersFail) {
         return !ReadBmp(b.data(), b.size());
     };
     EXPECT_TRUE(fails([](Bytes &b) { b[1] = 'A'; }));
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 2, static_cast<uint32_t>(b.size() + 1)); }));   // file size beyond the bytes
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 2, 100); }));                                   // file size short of the pixels
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 10, 54); }));                                   // pixels inside the colour table
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 10, static_cast<uint32_t>(b.size())); }));      // pixels past the end
+    EXPECT_TRUE(
+        fails([](Bytes &b) { Put32(b, 2, static_cast<uint32_t>(b.size() + 1)); })); // file size beyond the bytes
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 2, 100); }));                         // file size short of the pixels
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 10, 54); }));                         // pixels inside the colour table
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 10, static_cast<uint32_t>(b.size())); })); // pixels past the end
     EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 10, 0xFFFFFFF0u); }));
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 14, 108); }));                                  // another header size
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 0); }));                                    // width 0
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 0xFFFFFFFFu); }));                          // width -1
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 9); }));                                    // rows no longer fit
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0); }));                                    // height 0
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0x80000000u); }));                          // height INT_MIN
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0x8000); }));                               // beyond the side limit
-    EXPECT_TRUE(fails([](Bytes &b) { Put16(b, 26, 2); }));                                    // planes
-    EXPECT_TRUE(fails([](Bytes &b) { Put16(b, 28, 2); }));                                    // bit count
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 30, 1); }));                                    // compressed
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 34, 10); }));                                   // image size short of the rows
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 34, 100000); }));                               // image size past the end
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 46, 257); }));                                  // too many colours
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 50, 257); }));                                  // important beyond used
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 14, 108); }));         // another header size
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 0); }));           // width 0
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 0xFFFFFFFFu); })); // width -1
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 9); }));           // rows no longer fit
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0); }));           // height 0
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0x80000000u); })); // height INT_MIN
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 0x8000); }));      // beyond the side limit
+    EXPECT_TRUE(fails([](Bytes &b) { Put16(b, 26, 2); }));           // planes
+    EXPECT_TRUE(fails([](Bytes &b) { Put16(b, 28, 2); }));           // bit count
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 30, 1); }));           // compressed
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 34, 10); }));          // image size short of the rows
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 34, 100000); }));      // image size past the end
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 46, 257); }));         // too many colours
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 50, 257); }));         // important beyond used
     // What may legitimately vary passes.
     EXPECT_FALSE(fails([](Bytes &b) { Put32(b, 2, 0); }));
     EXPECT_FALSE(fails([](Bytes &b) { Put32(b, 34, 64); }));
@@ -155,12 +156,12 @@ TEST(ImageReader, ShortOrLyingIconsFail) {
     EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 14, 0xFFFFFFFFu); })); // bytes past the end
     EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 10); }));          // image inside the directory
     EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 18, 0xFFFFFFF0u); }));
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 8, 63); }));      // odd double height
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 8, 63); }));          // odd double height
     EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 8, 0xFFFFFFC0u); })); // negative height
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 4, 64); }));      // wider than its bytes
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 16, 1); }));      // compressed
-    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 12); }));          // an old core header
-    EXPECT_FALSE(fails([](Bytes &b) { Put16(b, 12, 0); }));          // bit count left open in the entry
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 4, 64); }));          // wider than its bytes
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22 + 16, 1); }));          // compressed
+    EXPECT_TRUE(fails([](Bytes &b) { Put32(b, 22, 12); }));              // an old core header
+    EXPECT_FALSE(fails([](Bytes &b) { Put16(b, 12, 0); }));              // bit count left open in the entry
 }
 
 TEST(ImageReader, ClaimedSizes) {

@@ -12,25 +12,23 @@ namespace {
 // Written by hand from the format: count, new-class tag with schema 1 and
 // "PICITEM", fields; then class tag 0x8001 and fields.
 const Bytes kTwoItems = {
-    0x02, 0x00,                                     // count
-    0xFF, 0xFF, 0x01, 0x00, 0x07, 0x00,             // new class, schema 1, name length 7
-    'P', 'I', 'C', 'I', 'T', 'E', 'M',              //
-    0x07, 0x00, 0x00, 0x00,                         // value 7
-    0x00, 0x04,                                     // flags PIC_LoadFile
-    0xFF, 0xFE, 0xFF, 0x02, 'O', 0, 'k', 0,         // title "Ok"
-    0xFF, 0xFE, 0xFF, 0x05, 'a', 0, '.', 0, 'b', 0, 'm', 0, 'p', 0, // file "a.bmp"
-    0xFF, 0xFE, 0xFF, 0x00,                         // resource ""
-    0x01, 0x80,                                     // class tag: the class of map index 1
-    0xFF, 0xFF, 0xFF, 0xFF,                         // value -1
-    0x01, 0x82,                                     // flags 0x8201
-    0xFF, 0xFE, 0xFF, 0x00,                         //
-    0xFF, 0xFE, 0xFF, 0x09, 'Z', 0, 'K', 0, 'L', 0, 'I', 0, 'B', 0, '.', 0, 'd', 0, 'l', 0, 'l', 0,
-    0xFF, 0xFE, 0xFF, 0x03, 'f', 0, 'd', 0, 'r', 0,
+    0x02, 0x00,                                                                 // count
+    0xFF, 0xFF, 0x01, 0x00, 0x07, 0x00,                                         // new class, schema 1, name length 7
+    'P',  'I',  'C',  'I',  'T',  'E',  'M',                                    //
+    0x07, 0x00, 0x00, 0x00,                                                     // value 7
+    0x00, 0x04,                                                                 // flags PIC_LoadFile
+    0xFF, 0xFE, 0xFF, 0x02, 'O',  0,    'k',  0,                                // title "Ok"
+    0xFF, 0xFE, 0xFF, 0x05, 'a',  0,    '.',  0,    'b',  0,    'm', 0, 'p', 0, // file "a.bmp"
+    0xFF, 0xFE, 0xFF, 0x00,                                                     // resource ""
+    0x01, 0x80,                                                                 // class tag: the class of map index 1
+    0xFF, 0xFF, 0xFF, 0xFF,                                                     // value -1
+    0x01, 0x82,                                                                 // flags 0x8201
+    0xFF, 0xFE, 0xFF, 0x00,                                                     //
+    0xFF, 0xFE, 0xFF, 0x09, 'Z',  0,    'K',  0,    'L',  0,    'I', 0, 'B', 0, '.', 0,
+    'd',  0,    'l',  0,    'l',  0,    0xFF, 0xFE, 0xFF, 0x03, 'f', 0, 'd', 0, 'r', 0,
 };
 
-std::vector<PICITEM> TwoItems() {
-    return {{7, 0x0400, u"Ok", u"a.bmp", u""}, {-1, 0x8201, u"", u"ZKLIB.dll", u"fdr"}};
-}
+std::vector<PICITEM> TwoItems() { return {{7, 0x0400, u"Ok", u"a.bmp", u""}, {-1, 0x8201, u"", u"ZKLIB.dll", u"fdr"}}; }
 
 TEST(PicItems, WrittenByteForByte) {
     EXPECT_EQ(PicItemsWrite(TwoItems()), kTwoItems);
@@ -68,12 +66,12 @@ TEST(PicItems, ForeignClassesSchemasAndReferencesFail) {
         std::vector<PICITEM> items;
         return !PicItemsRead(b.data(), b.size(), items) && items.empty();
     };
-    EXPECT_TRUE(bad(4, 2));      // schema 2
-    EXPECT_TRUE(bad(4, 0));      // schema 0
-    EXPECT_TRUE(bad(8, 'X'));    // another class name
-    EXPECT_TRUE(bad(6, 6));      // a shorter name: "PICITE"
-    EXPECT_TRUE(bad(47, 0x02));  // 0x8002: the map index of the first object, not a class
-    EXPECT_TRUE(bad(48, 0x00));  // 0x0001: a reference back to an object
+    EXPECT_TRUE(bad(4, 2));     // schema 2
+    EXPECT_TRUE(bad(4, 0));     // schema 0
+    EXPECT_TRUE(bad(8, 'X'));   // another class name
+    EXPECT_TRUE(bad(6, 6));     // a shorter name: "PICITE"
+    EXPECT_TRUE(bad(47, 0x02)); // 0x8002: the map index of the first object, not a class
+    EXPECT_TRUE(bad(48, 0x00)); // 0x0001: a reference back to an object
     Bytes nullTag = {0x01, 0x00, 0x00, 0x00};
     std::vector<PICITEM> items;
     EXPECT_FALSE(PicItemsRead(nullTag.data(), nullTag.size(), items));
@@ -95,9 +93,10 @@ TEST(PicSerial, FieldsInOrder) {
     PicFields pic{1, 16, 32, 0x11223344, 0x55, 0, 0x8201, u"ZKLIB.dll", u"fdr"};
     picstream::Writer w;
     PicFieldsWrite(w, pic);
-    const Bytes expected = {0x01, 16, 0, 0, 0, 32, 0, 0, 0, 0x44, 0x33, 0x22, 0x11, 0x55, 0, 0, 0, 0, 0, 0, 0,
-                            0x01, 0x82, 0xFF, 0xFE, 0xFF, 9, 'Z', 0, 'K', 0, 'L', 0, 'I', 0, 'B', 0, '.', 0,
-                            'd', 0, 'l', 0, 'l', 0, 0xFF, 0xFE, 0xFF, 3, 'f', 0, 'd', 0, 'r', 0};
+    const Bytes expected = {0x01, 16,  0, 0,    0,    32,   0, 0,    0,    0x44, 0x33, 0x22, 0x11, 0x55,
+                            0,    0,   0, 0,    0,    0,    0, 0x01, 0x82, 0xFF, 0xFE, 0xFF, 9,    'Z',
+                            0,    'K', 0, 'L',  0,    'I',  0, 'B',  0,    '.',  0,    'd',  0,    'l',
+                            0,    'l', 0, 0xFF, 0xFE, 0xFF, 3, 'f',  0,    'd',  0,    'r',  0};
     EXPECT_EQ(w.Bytes(), expected);
     picstream::Reader r(expected.data(), expected.size());
     PicFields back;

@@ -44,8 +44,7 @@ TEST(PicPlan, FirstSourceBitDecides) {
     EXPECT_EQ(PicPlanLoad(kPicLoadResource | kPicLoadMemory, u"r", 0, 0).source, PicSource::Resource);
     EXPECT_EQ(PicPlanLoad(kPicLoadMemory, u"r", 0, 0).source, PicSource::Memory);
     EXPECT_EQ(PicPlanLoad(kPicFormatBitmap, u"r", 0, 0).source, PicSource::None);
-    EXPECT_EQ(PicPlanLoad(kPicLoadModule | kPicFormatIcon | kPicFormatBitmap, u"m", 0, 0).format,
-              PicFormat::Bitmap);
+    EXPECT_EQ(PicPlanLoad(kPicLoadModule | kPicFormatIcon | kPicFormatBitmap, u"m", 0, 0).format, PicFormat::Bitmap);
     EXPECT_EQ(PicPlanLoad(kPicLoadMemory, u"m", 0, 0).format, PicFormat::None);
 }
 

@@ -43,7 +43,8 @@ TEST(TreeCore, UnlinkMendsNeighboursButLeavesTheTopLevelsLeftLine) {
     LbxNode *q = t.Add(t.root, u"q");
     ASSERT_TRUE(LbxUnlink(p));
     EXPECT_EQ(q->item->flags & kConn, 0x00010000u);
-    for (LbxNode *n : {p, x, y, z}) LbxFreeTree(n);
+    for (LbxNode *n : {p, x, y, z})
+        LbxFreeTree(n);
 }
 
 } // namespace

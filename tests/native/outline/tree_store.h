@@ -14,7 +14,8 @@ public:
     FakeRows base;
     std::uintptr_t Data(int32_t row) override { return base.Data(row); }
     int32_t Insert(int32_t row, LbxItem *item) override {
-        if (row > static_cast<int32_t>(base.rows.size()) || row < -1) return -1;
+        if (row > static_cast<int32_t>(base.rows.size()) || row < -1)
+            return -1;
         return base.Insert(row, item);
     }
     int32_t Delete(int32_t row) override { return base.Delete(row); }
@@ -40,7 +41,8 @@ public:
     std::u16string Texts() {
         std::u16string out;
         for (int32_t r = 0; r < static_cast<int32_t>(base.rows.size()); ++r) {
-            if (!out.empty()) out += u' ';
+            if (!out.empty())
+                out += u' ';
             out += TextOf(base, r);
         }
         return out;
@@ -48,7 +50,8 @@ public:
     // Rows for the nodes given, in that order, as ShowOutline would leave them.
     void Fill(std::initializer_list<LbxNode *> nodes) {
         base.rows.clear();
-        for (LbxNode *n : nodes) base.rows.push_back(reinterpret_cast<std::uintptr_t>(n->item));
+        for (LbxNode *n : nodes)
+            base.rows.push_back(reinterpret_cast<std::uintptr_t>(n->item));
     }
 };
 

@@ -93,15 +93,15 @@ TEST(Expand, GroupWalkBoundedByCount) {
 
 TEST(Expand, EstimateFollowsTheRules) {
     FakeArray n = Numbers({1, 2, 3});
-    EXPECT_EQ(E(u"%n", n), 2u + 1 + 36);                     // length + 1 + 12 * count
+    EXPECT_EQ(E(u"%n", n), 2u + 1 + 36); // length + 1 + 12 * count
     EXPECT_EQ(E(u"{%,n}", n), 5u + 1 + 36 + 3 + (5 + 12) * 3);
-    EXPECT_EQ(E(u"{%u}", n), 4u + 1 + (4 + 12) * 3);         // u decides no extra
-    EXPECT_EQ(E(u"{%d}", n), 4u + 1);                        // a group without code adds nothing
+    EXPECT_EQ(E(u"{%u}", n), 4u + 1 + (4 + 12) * 3); // u decides no extra
+    EXPECT_EQ(E(u"{%d}", n), 4u + 1);                // a group without code adds nothing
     FakeArray s = Strings({u"ab", u"cde"});
-    EXPECT_EQ(E(u"%s", s), 2u + 1 + 5);                      // the strings' lengths
+    EXPECT_EQ(E(u"%s", s), 2u + 1 + 5); // the strings' lengths
     EXPECT_EQ(E(u"a{%s}", s), 5u + 1 + 5 + 4 * 2 + 5);
-    EXPECT_EQ(E(u"%x%,s", s), 5u + 1 + 5);                   // first % followed by n or s decides
-    EXPECT_EQ(E(u"{%n", s), 3u + 1 + 24);                    // an unterminated group adds nothing
+    EXPECT_EQ(E(u"%x%,s", s), 5u + 1 + 5); // first % followed by n or s decides
+    EXPECT_EQ(E(u"{%n", s), 3u + 1 + 24);  // an unterminated group adds nothing
 }
 
 TEST(Expand, EstimateCoversWellFormedTemplates) {

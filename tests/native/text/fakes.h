@@ -131,7 +131,7 @@ public:
         stringReads.push_back(index);
         const int64_t at = static_cast<int64_t>(index) - low;
         return at >= 0 && at < static_cast<int64_t>(strings.size()) ? std::u16string_view(strings[at])
-                                                                       : std::u16string_view();
+                                                                    : std::u16string_view();
     }
     int32_t Number(int32_t index) override {
         numberReads.push_back(index);

@@ -19,10 +19,10 @@ TEST(Proper, NamesWithMacAndMcAppliedBlindlyOnceEach) {
     EXPECT_EQ(P(u"machine"), u"MacHine");
     EXPECT_EQ(P(u"macdonald macdonald"), u"MacDonald Macdonald");
     EXPECT_EQ(P(u"mcdonald mcdonald"), u"McDonald Mcdonald");
-    EXPECT_EQ(P(u"mac mc"), u"Mac Mc");         // a space after is left alone
-    EXPECT_EQ(P(u"tim mac"), u"Tim Mac");       // nothing after the end
-    EXPECT_EQ(P(u"mac-neil"), u"Mac-Neil");     // punctuation: word start anyway
-    EXPECT_EQ(P(u"mcmac"), u"McMac");           // "Mac" and "Mc" are looked up separately
+    EXPECT_EQ(P(u"mac mc"), u"Mac Mc");     // a space after is left alone
+    EXPECT_EQ(P(u"tim mac"), u"Tim Mac");   // nothing after the end
+    EXPECT_EQ(P(u"mac-neil"), u"Mac-Neil"); // punctuation: word start anyway
+    EXPECT_EQ(P(u"mcmac"), u"McMac");       // "Mac" and "Mc" are looked up separately
 }
 
 TEST(Proper, EveryPunctuationCharacterEndsAWordAndStays) {

@@ -44,7 +44,7 @@ TEST(ScanReverse, Bounds) {
 TEST(ScanReverse, StepsOverSurrogatePairs) {
     const std::u16string text = u"a\xD83D\xDE00";
     zktest::AsciiScanner scanner;
-    EXPECT_EQ(ScanReverse(text, -1, u"\xD83D", scanner), 1); // the last character is the pair
+    EXPECT_EQ(ScanReverse(text, -1, u"\xD83D", scanner), 1);  // the last character is the pair
     EXPECT_EQ(ScanReverse(text, -1, u"\xDE00", scanner), -1); // never lands inside it
 }
 

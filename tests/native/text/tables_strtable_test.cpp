@@ -24,7 +24,7 @@ TEST(TableBlock, LinesEndInNulAndTheBlockInTheMark) {
         {u"\r\n\r\nx\r\n", u"\0\0x\0"s},
         {u"{a}1\r\n{b}2", u"{a}1\0{b}2\0"s}, // the last line needs no line end
         {u"a\rb\nc", u"a\rb\nc\0"s},         // lone CR and LF are text
-        {u"\r\r\n\n", u"\r\0\n\0"s},        // only the CR right before the LF pairs with it
+        {u"\r\r\n\n", u"\r\0\n\0"s},         // only the CR right before the LF pairs with it
         {u"\r", u"\r\0"s},
         {u"", u""},
         {u"a\0"s, u"a\0"s}, // a text ending in NUL gets no second one

@@ -38,14 +38,14 @@ struct PadBCase {
 TEST(PadBytes, WidthCountsDoubleBytes) {
     const std::u16string a = u"\x3042"; // two bytes
     const PadBCase cases[] = {
-        {u"abc", 5, u"abc  ", 12},                  // (3 + 2) * 2 + 2
-        {u"abc", 3, u"abc", 8},                     // byte length equals width: unchanged
-        {u"abcdef", 3, u"abc", 8},                  // cut, m = 4: 2m
-        {a + u"b", 4, a + u"b ", 8},                // 3 bytes padded by one space
-        {u"x" + a + u"y", 3, u"x" + a, 6},          // cut after the whole character
-        {u"x" + a + u"y", 2, u"x ", 4},             // cut inside it: a space in its place, 2m
+        {u"abc", 5, u"abc  ", 12},         // (3 + 2) * 2 + 2
+        {u"abc", 3, u"abc", 8},            // byte length equals width: unchanged
+        {u"abcdef", 3, u"abc", 8},         // cut, m = 4: 2m
+        {a + u"b", 4, a + u"b ", 8},       // 3 bytes padded by one space
+        {u"x" + a + u"y", 3, u"x" + a, 6}, // cut after the whole character
+        {u"x" + a + u"y", 2, u"x ", 4},    // cut inside it: a space in its place, 2m
         {a + a, 3, a + u" ", 4},
-        {a, 1, u" ", 2},                            // nothing whole fits
+        {a, 1, u" ", 2}, // nothing whole fits
     };
     for (const PadBCase &c : cases) {
         FakeDbcs dbcs;

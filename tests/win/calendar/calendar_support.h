@@ -4,16 +4,16 @@
 // check that no test leaks.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 #include <algorithm>
 #include <memory>
 #include <string>
 #include <vector>
 
-#include "calendar/win/calendar_window.h"
 #include "calendar/core/calendar_model.h"
+#include "calendar/win/calendar_window.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"

@@ -28,33 +28,33 @@ private:
 TEST(CalendarMouse, AReleaseOnTheGridPostsSelectToItselfOnAForm) {
     FormCalendar c;
     SetFocus(c.form);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder posted;
-    posted.watchAll();
+    posted.WatchAll();
     c.MouseAtCell(WM_LBUTTONDOWN, 25);
     EXPECT_EQ(GetFocus(), c.hwnd()) << "a press takes the focus";
     EXPECT_EQ(GetCapture(), c.hwnd());
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 21}));
     c.MouseAtCell(WM_LBUTTONUP, 25);
     EXPECT_EQ(GetCapture(), nullptr);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_NE(posted.find(c.hwnd(), HostMsgSelect, 25), -1);
-    EXPECT_NE(posted.findCommand(c.form, CALN_FocusChange), -1);
-    EXPECT_EQ(posted.findCommand(c.form, CALN_CloseUp), -1);
+    EXPECT_NE(posted.FindCommand(c.form, CALN_FocusChange), -1);
+    EXPECT_EQ(posted.FindCommand(c.form, CALN_CloseUp), -1);
 }
 
 TEST(CalendarMouse, InAPopUpTheSelectionIsPostedBeforeTheCloseUp) {
     FormCalendar c;
     ZelCalSetStyle(c.control(), CALS_PopUp, 1);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder posted;
-    posted.watchAll();
+    posted.WatchAll();
     c.MouseAtCell(WM_LBUTTONDOWN, 30);
     EXPECT_EQ(GetCapture(), nullptr) << "a pop-up does not capture";
     c.MouseAtCell(WM_LBUTTONUP, 30);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     const long select = posted.find(c.hwnd(), HostMsgSelect, 30);
-    const long close = posted.findCommand(c.form, CALN_CloseUp);
+    const long close = posted.FindCommand(c.form, CALN_CloseUp);
     ASSERT_NE(select, -1);
     ASSERT_NE(close, -1);
     EXPECT_LT(select, close);
@@ -63,10 +63,10 @@ TEST(CalendarMouse, InAPopUpTheSelectionIsPostedBeforeTheCloseUp) {
 TEST(CalendarMouse, ADoubleClickIsPostedAndDraggingBelowScrollsAWeekPerTick) {
     FormCalendar c;
     zkt::MessageRecorder posted;
-    posted.watchAll();
+    posted.WatchAll();
     c.MouseAtCell(WM_LBUTTONDBLCLK, 12);
     c.MouseAtCell(WM_LBUTTONUP, 12);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_NE(posted.find(c.hwnd(), HostMsgDoubleClick, 12), -1);
     c.MouseAtCell(WM_LBUTTONDOWN, 19);
     const auto &client = c.layout().Client();
@@ -78,8 +78,8 @@ TEST(CalendarMouse, ADoubleClickIsPostedAndDraggingBelowScrollsAWeekPerTick) {
     SendMessageW(c.hwnd(), WM_TIMER, 501, 0);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 22}));
     c.Mouse(WM_LBUTTONUP, 40, -15);
-    zkt::pumpMessages();
-    EXPECT_EQ(posted.findCommand(c.form, CALN_CloseUp), -1);
+    zkt::PumpMessages();
+    EXPECT_EQ(posted.FindCommand(c.form, CALN_CloseUp), -1);
 }
 
 TEST(CalendarMouse, AHeldMonthButtonRepeatsOnItsTimerAndTheGridCatchesUpAfter) {
@@ -89,11 +89,11 @@ TEST(CalendarMouse, AHeldMonthButtonRepeatsOnItsTimerAndTheGridCatchesUpAfter) {
     EXPECT_EQ(c.object().Model().DisplayMonth(), 4) << "the first step at once";
     EXPECT_EQ(c.object().State() & zk::cal::CALF_RightDown, zk::cal::CALF_RightDown);
     // The 250 ms timer, pumped for at most three seconds.
-    EXPECT_TRUE(zkt::pumpUntil([&] { return c.object().Model().DisplayMonth() >= 6; }, 100000, 3000));
+    EXPECT_TRUE(zkt::PumpUntil([&] { return c.object().Model().DisplayMonth() >= 6; }, 100000, 3000));
     c.Mouse(WM_LBUTTONUP, r.left + 3, r.top + 3);
     const int month = c.object().Model().DisplayMonth();
     ValidateRect(c.hwnd(), nullptr);
-    EXPECT_TRUE(zkt::pumpUntil([&] { return GetUpdateRect(c.hwnd(), nullptr, FALSE) != 0; }, 100000, 2000))
+    EXPECT_TRUE(zkt::PumpUntil([&] { return GetUpdateRect(c.hwnd(), nullptr, FALSE) != 0; }, 100000, 2000))
         << "timer 502 invalidates the window";
     EXPECT_EQ(c.object().Model().DisplayMonth(), month) << "no step after the release";
 }
@@ -131,11 +131,11 @@ TEST(CalendarKeys, ReturnOnAFormDoesNothingEscapeClosesAPopUpAndNoKeyboardNoMove
     parent.watch(c.form);
     EXPECT_EQ(SendMessageW(c.hwnd(), WM_KEYDOWN, VK_RETURN, 0), 0);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_TRUE(parent.notifications(c.hwnd()).empty());
     ZelCalSetStyle(c.control(), CALS_PopUp, 1);
     SendMessageW(c.hwnd(), WM_KEYDOWN, VK_ESCAPE, 0);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(parent.notifications(c.hwnd()), (std::vector<int>{CALN_CloseUp}));
     ZelCalSetStyle(c.control(), CALS_EnableKeyboard, 0);
     SendMessageW(c.hwnd(), WM_KEYDOWN, VK_RIGHT, 0);
@@ -144,15 +144,15 @@ TEST(CalendarKeys, ReturnOnAFormDoesNothingEscapeClosesAPopUpAndNoKeyboardNoMove
 
 TEST(CalendarFocus, AFormsCalendarLosesTheFocusQuietly) {
     FormCalendar c;
-    HWND other = c.form.addEdit(9, {300, 10, 80, 20});
+    HWND other = c.form.AddEdit(9, {300, 10, 80, 20});
     SetFocus(c.hwnd());
     const auto &r = c.layout().RightButton();
     c.Mouse(WM_LBUTTONDOWN, r.left + 3, r.top + 3);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder parent;
     parent.watch(c.form);
     SetFocus(other);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     const auto codes = parent.notifications(c.hwnd());
     EXPECT_EQ(std::count(codes.begin(), codes.end(), CALN_KillFocus), 0);
     EXPECT_EQ(std::count(codes.begin(), codes.end(), CALN_CloseUp), 0);
@@ -161,7 +161,6 @@ TEST(CalendarFocus, AFormsCalendarLosesTheFocusQuietly) {
     EXPECT_EQ(c.object().Model().DisplayMonth(), 5);
     c.Mouse(WM_LBUTTONUP, r.left + 3, r.top + 3);
 }
-
 
 TEST(CalendarHostValues, PaintsKeysAndPressesLeaveNoHostStringBehind) {
     FormCalendar c;
@@ -176,7 +175,7 @@ TEST(CalendarHostValues, PaintsKeysAndPressesLeaveNoHostStringBehind) {
         c.MouseAtCell(WM_LBUTTONDOWN, 17);
         c.MouseAtCell(WM_LBUTTONUP, 17);
     }
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(ZkHostLiveStrings(), strings);
 }
 

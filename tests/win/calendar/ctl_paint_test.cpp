@@ -180,7 +180,7 @@ TEST(CalendarPaint, WithoutANotifyWindowTheTextStaysBlackFromPaintToPaint) {
         EXPECT_GT(b.count(RGB(0, 0, 0), days), 50) << "black days, round " << round;
     }
     DestroyWindow(popup);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
 }
 
 TEST(CalendarPaint, APaintCopiesOnlyTheClipBox) {

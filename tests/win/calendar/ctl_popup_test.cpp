@@ -4,11 +4,10 @@
 
 namespace {
 
-
 class Popup : public testing::Test {
 protected:
     void SetUp() override {
-        edit = notify.addEdit(9, {10, 10, 80, 20});
+        edit = notify.AddEdit(9, {10, 10, 80, 20});
         popup = new zk::cal::CCalendar(); // owned by its window from CreatePopup on
         ASSERT_TRUE(popup->CreatePopup(RECT{60, 60, 300, 240}, notify));
         window = popup->GetSafeHwnd();
@@ -17,7 +16,7 @@ protected:
     void TearDown() override {
         if (IsWindow(window))
             DestroyWindow(window);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
 
     zkt::TestWindow notify;
@@ -44,12 +43,12 @@ TEST_F(Popup, LosingTheFocusHidesItClosesUpAndCancelsTheHeldButton) {
     const auto &r = popup->Layout().RightButton();
     SendMessageW(window, WM_LBUTTONDOWN, 0, MAKELPARAM(r.left + 3, r.top + 3));
     const int month = popup->Model().DisplayMonth();
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder posted;
-    posted.watchAll();
+    posted.WatchAll();
     SetFocus(edit);
     EXPECT_FALSE(IsWindowVisible(window));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(posted.notifications(window), (std::vector<int>{CALN_CloseUp, CALN_KillFocus}));
     SendMessageW(window, WM_TIMER, 503, 0);
     EXPECT_EQ(popup->Model().DisplayMonth(), month) << "the tick cancels instead of stepping";
@@ -63,11 +62,11 @@ TEST_F(Popup, ReturnClosesUpWithTheSelectionOfAPressOnTheGrid) {
     SetFocus(window);
     const auto cell = popup->Layout().CellRect(24);
     SendMessageW(window, WM_LBUTTONDOWN, 0, MAKELPARAM(cell.left + 3, cell.top + 3));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder posted;
-    posted.watchAll();
+    posted.WatchAll();
     SendMessageW(window, WM_KEYDOWN, VK_RETURN, 0);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_NE(posted.find(window, HostMsgSelect, 24), -1);
     EXPECT_EQ(posted.notifications(window), (std::vector<int>{CALN_CloseUp, CALN_CloseUp}))
         << "one from the release, one from the key";

@@ -21,9 +21,7 @@ const auto *const clock = testing::AddGlobalTestEnvironment(new FixedClock);
 
 } // namespace
 
-std::ostream &operator<<(std::ostream &out, const Ymd &d) {
-    return out << d.year << '-' << d.month << '-' << d.day;
-}
+std::ostream &operator<<(std::ostream &out, const Ymd &d) { return out << d.year << '-' << d.month << '-' << d.day; }
 
 Ymd FormCalendar::Focus() const {
     HostDateTime d{};
@@ -40,8 +38,8 @@ zkt::Bitmap FormCalendar::Paint() const {
 }
 
 void FormCalendar::Mouse(UINT message, int x, int y, WPARAM keys) const {
-    SendMessageW(hwnd(), message, keys, MAKELPARAM(static_cast<WORD>(static_cast<short>(x)),
-                                                  static_cast<WORD>(static_cast<short>(y))));
+    SendMessageW(hwnd(), message, keys,
+                 MAKELPARAM(static_cast<WORD>(static_cast<short>(x)), static_cast<WORD>(static_cast<short>(y))));
 }
 
 void FormCalendar::MouseAtCell(UINT message, int cell, WPARAM keys) const {

@@ -65,10 +65,10 @@ TEST_F(NameExports, ExactlyTwelveMonthsAndSevenWeekdays) {
     EXPECT_EQ(ZelCalSetWeekDays(control(), seven), 1);
     HostArrayDestroy(six);
     HostArrayDestroy(seven);
-    EXPECT_EQ(capture.lines(), (std::vector<std::wstring>{
-                                   L"ZelCalSetMonths() - Unable to assign text for month names.",
-                                   L"ZelCalSetMonths() - Unable to assign text for month names.",
-                                   L"ZelCalSetWeekDays() - Unable to assign text for weekday names."}));
+    EXPECT_EQ(capture.lines(),
+              (std::vector<std::wstring>{L"ZelCalSetMonths() - Unable to assign text for month names.",
+                                         L"ZelCalSetMonths() - Unable to assign text for month names.",
+                                         L"ZelCalSetWeekDays() - Unable to assign text for weekday names."}));
 }
 
 TEST_F(NameExports, AnElementWithoutAStringFails) {
@@ -97,9 +97,9 @@ TEST(CalendarDateChecks, AFailedCheckTellsTheUserWithTheText) {
     EXPECT_FALSE(zk::cal::DDV_DateTimeValue(true, L"", 1)) << "an enforced empty text is no date";
     ASSERT_EQ(answerer.answered(), 3);
     EXPECT_EQ(answerer.dialogs()[0].caption, L"Zelkova Kit Library");
-    EXPECT_EQ(answerer.dialogs()[0].staticTexts().back(), L"'qqq' is not a valid date/time picture.");
-    EXPECT_EQ(answerer.dialogs()[1].staticTexts().back(), L"'31st of Nevember' is not a valid date/time.");
-    EXPECT_EQ(answerer.dialogs()[2].staticTexts().back(), L"'' is not a valid date/time.");
+    EXPECT_EQ(answerer.dialogs()[0].StaticTexts().back(), L"'qqq' is not a valid date/time picture.");
+    EXPECT_EQ(answerer.dialogs()[1].StaticTexts().back(), L"'31st of Nevember' is not a valid date/time.");
+    EXPECT_EQ(answerer.dialogs()[2].StaticTexts().back(), L"'' is not a valid date/time.");
 }
 
 } // namespace

@@ -11,7 +11,8 @@ TEST_F(CalendarExports, ADateRuleBeatsAWeeklyRuleOnTheSameDate) {
     EXPECT_EQ(ZelCalSpecialDate(control(), SPECIAL_Weekly, friday, 6, 0, 0x11, 0x12, 1), 1);
     EXPECT_EQ(ZelCalSpecialDate(control(), SPECIAL_Date, friday, 0, 0, 0x21, 0x22, 1), 1);
     uint32_t text = 0, back = 0;
-    ASSERT_EQ(calendar->MatchSpecial(zk::cal::SSpecialRule(0, zk::cal::CDateTime(friday), 6, 3, 0, 0), &text, &back), 1);
+    ASSERT_EQ(calendar->MatchSpecial(zk::cal::SSpecialRule(0, zk::cal::CDateTime(friday), 6, 3, 0, 0), &text, &back),
+              1);
     EXPECT_EQ(text, 0x21u);
     EXPECT_EQ(back, 0x22u);
     EXPECT_EQ(ZelCalIsDateSpecial(control(), 99, friday, 6, 3), 1) << "the type asked plays no part";

@@ -37,9 +37,9 @@ TEST_F(CalendarExports, ColoursFollowTheSystemUntilSetAndOnlySixteenRolesExist) 
     zkt::DebugOutputCapture capture;
     EXPECT_EQ(ZelCalGetColor(control(), 16), -1);
     EXPECT_EQ(ZelCalSetColor(control(), -1, 0), -1);
-    EXPECT_EQ(capture.lines(), (std::vector<std::wstring>{
-                                   L"ZelCalGetColor() - Unable to retrieve color for specified role.",
-                                   L"ZelCalSetColor() - Unable to assign color to specified role."}));
+    EXPECT_EQ(capture.lines(),
+              (std::vector<std::wstring>{L"ZelCalGetColor() - Unable to retrieve color for specified role.",
+                                         L"ZelCalSetColor() - Unable to assign color to specified role."}));
 }
 
 TEST_F(CalendarExports, StyleBits) {

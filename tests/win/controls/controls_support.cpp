@@ -10,17 +10,17 @@ RECT InParent(HWND window) {
 }
 
 SplitterForm::SplitterForm(void *parameter, int x) {
-    left = form.addChild(L"Static", 1, {0, 0, 90, 300}, WS_BORDER | SS_WHITERECT);
-    right = form.addChild(L"Static", 2, {110, 0, 290, 300}, WS_BORDER | SS_GRAYRECT);
+    left = form.AddChild(L"Static", 1, {0, 0, 90, 300}, WS_BORDER | SS_WHITERECT);
+    right = form.AddChild(L"Static", 2, {110, 0, 290, 300}, WS_BORDER | SS_GRAYRECT);
     bar_ = CreateWindowExW(0, L"ZK:cSplitter:10", L"", WS_CHILD | WS_VISIBLE, x, 40, 3, 50, form,
                            reinterpret_cast<HMENU>(INT_PTR{9}), GetModuleHandleW(nullptr), parameter);
     MSG m{};
     if (bar_ && PeekMessageW(&m, bar_, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
         object_ = reinterpret_cast<zk::ctl::CSplitter *>(m.lParam);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
 }
 
-SplitterForm::~SplitterForm() { zkt::pumpMessages(); }
+SplitterForm::~SplitterForm() { zkt::PumpMessages(); }
 
 void SplitterForm::SetChildren() const {
     ZelSplitSetChild(control(), 1, left);

@@ -36,11 +36,10 @@ TEST(Meter, TheFillEdgeByShapeWithTheTextInvertedOverTheFill) {
         RECT empty, filled; // in the client area, clear of the text
     };
     const Case cases[] = {
-        {100, 20, 50, {50, 0, 100, 2}, {0, 0, 50, 2}},      // wide: from the left
-        {20, 100, 50, {0, 0, 20, 40}, {0, 60, 20, 100}},    // tall: from the bottom
-        {40, 40, 25, {0, 0, 2, 30}, {0, 30, 40, 40}},       // square counts as tall
-        {100, 20, 0, {0, 0, 100, 2}, {0, 0, 0, 0}},
-        {100, 20, 100, {0, 0, 0, 0}, {0, 0, 100, 2}},
+        {100, 20, 50, {50, 0, 100, 2}, {0, 0, 50, 2}},   // wide: from the left
+        {20, 100, 50, {0, 0, 20, 40}, {0, 60, 20, 100}}, // tall: from the bottom
+        {40, 40, 25, {0, 0, 2, 30}, {0, 30, 40, 40}},    // square counts as tall
+        {100, 20, 0, {0, 0, 100, 2}, {0, 0, 0, 0}},      {100, 20, 100, {0, 0, 0, 0}, {0, 0, 100, 2}},
     };
     zkt::TestWindow form(200, 200);
     for (const Case &c : cases) {
@@ -67,7 +66,7 @@ TEST(Meter, TheFillEdgeByShapeWithTheTextInvertedOverTheFill) {
 TEST(Meter, ColourQuestionsGoToTheParent) {
     zkt::TestWindow form(200, 200);
     int asked = 0;
-    form.onMessage([&](HWND, UINT message, WPARAM, LPARAM, LRESULT &result) {
+    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM, LRESULT &result) {
         if (message != WM_CTLCOLORSTATIC)
             return false;
         ++asked;

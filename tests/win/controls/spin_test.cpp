@@ -20,10 +20,9 @@ constexpr int kWidth = 100, kHeight = 21; // buttons at x 86 to 100: up 0 to 10,
 class SpinForm {
 public:
     explicit SpinForm(void *parameter = ctltest::runTime) {
-        before = form.addEdit(3, {10, 10, 100, 20}, WS_BORDER, L"before");
-        spin = CreateWindowExW(0, L"ZK:cSpinField:10", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, 40, kWidth,
-                               kHeight, form, reinterpret_cast<HMENU>(INT_PTR{4}), GetModuleHandleW(nullptr),
-                               parameter);
+        before = form.AddEdit(3, {10, 10, 100, 20}, WS_BORDER, L"before");
+        spin = CreateWindowExW(0, L"ZK:cSpinField:10", L"", WS_CHILD | WS_VISIBLE | WS_TABSTOP, 10, 40, kWidth, kHeight,
+                               form, reinterpret_cast<HMENU>(INT_PTR{4}), GetModuleHandleW(nullptr), parameter);
         edit = GetWindow(spin, GW_CHILD);
     }
     LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {
@@ -88,8 +87,8 @@ TEST(SpinField, PrivateMessagesSetAndStepTheValue) {
         {ZKM_SpinDown, 0, 0, 1, L"1"},
         {ZKM_SpinSetStep, 0, 3, 1, L""},
         {ZKM_SpinSetValue, 0, 9, 1, L"9"},
-        {ZKM_SpinUp, 0, 0, 1, L"10"}, // 12 is cut to the maximum
-        {ZKM_SpinSetStep, 5, 0, 0, L"10"}, // increment 0 changes nothing
+        {ZKM_SpinUp, 0, 0, 1, L"10"},        // 12 is cut to the maximum
+        {ZKM_SpinSetStep, 5, 0, 0, L"10"},   // increment 0 changes nothing
         {ZKM_SpinSetValue, 0, 50, 1, L"50"}, // above the maximum is shown
         {ZKM_SpinSetMin, 0, 5, 1, L""},
         {ZKM_SpinDown, 0, 0, 1, L"5"}, // the next step shows the new minimum
@@ -252,7 +251,7 @@ TEST(SpinDesign, ABlockInTheCreationParameter) {
 TEST(SpinMessages, FontColoursAndWhatGoesToTheEdit) {
     SpinForm s;
     std::vector<UINT> asked;
-    s.form.onMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
+    s.form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
         if (message == WM_CTLCOLOREDIT || message == 0x19)
             asked.push_back(message);
         return false;
@@ -263,7 +262,8 @@ TEST(SpinMessages, FontColoursAndWhatGoesToTheEdit) {
     EXPECT_EQ(SendMessageW(s.edit, WM_GETFONT, 0, 0), reinterpret_cast<LRESULT>(font));
     s.Send(0x19, 0, reinterpret_cast<LPARAM>(s.edit));
     RedrawWindow(s.edit, nullptr, nullptr, RDW_INVALIDATE | RDW_ERASE | RDW_UPDATENOW);
-    EXPECT_GE(std::count(asked.begin(), asked.end(), UINT{WM_CTLCOLOREDIT}), 1) << "the edit's colours come from the form";
+    EXPECT_GE(std::count(asked.begin(), asked.end(), UINT{WM_CTLCOLOREDIT}), 1)
+        << "the edit's colours come from the form";
     EXPECT_EQ(std::count(asked.begin(), asked.end(), UINT{0x19}), 1);
     EXPECT_EQ(s.Send(EM_SETREADONLY, TRUE), 1);
     EXPECT_NE(GetWindowLongPtrW(s.edit, GWL_STYLE) & ES_READONLY, 0);

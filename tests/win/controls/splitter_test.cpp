@@ -154,16 +154,16 @@ TEST(SplitterChildren, AtRunTimeTheSiblingsArePassedOverOrPlaced) {
     handleClass.lpszClassName = L"Brandle:Handle";
     RegisterClassW(&handleClass);
     zkt::TestWindow form(400, 300);
-    HWND handle = form.addChild(L"Brandle:Handle", 5, {0, 0, 8, 8}, 0);
-    HWND hidden = form.addChild(L"Static", 6, {0, 0, 8, 8}, 0);
+    HWND handle = form.AddChild(L"Brandle:Handle", 5, {0, 0, 8, 8}, 0);
+    HWND hidden = form.AddChild(L"Static", 6, {0, 0, 8, 8}, 0);
     ShowWindow(hidden, SW_HIDE);
     ZkHostSetWinType(hidden, 0x8000000, 0);
-    HWND skipped = form.addChild(L"Static", 7, {0, 0, 8, 8}, 0);
-    HWND one = form.addChild(L"Static", 1, {0, 0, 50, 50}, 0);
-    HWND two = form.addChild(L"Static", 2, {300, 0, 50, 50}, 0);
+    HWND skipped = form.AddChild(L"Static", 7, {0, 0, 8, 8}, 0);
+    HWND one = form.AddChild(L"Static", 1, {0, 0, 50, 50}, 0);
+    HWND two = form.AddChild(L"Static", 2, {300, 0, 50, 50}, 0);
     HWND bar = CreateWindowExW(0, L"ZK:cSplitter:10", L"", WS_CHILD | WS_VISIBLE, 200, 0, 6, 300, form, nullptr,
                                GetModuleHandleW(nullptr), ctltest::runTime);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     SendMessageW(bar, ZKM_Refresh, 0, 0);
     EXPECT_TRUE(IsWindowVisible(handle)) << "the host's handle is no child";
     EXPECT_EQ(Rect4(InParent(hidden)), Rect4(0, 0, 200, 300)) << "the hidden directly moved window counts";
@@ -176,8 +176,8 @@ TEST(SplitterChildren, AtRunTimeTheSiblingsArePassedOverOrPlaced) {
 TEST_F(WithBlock, InDesignModeTheOutlineGivesTheChildren) {
     zkt::TestWindow form(400, 300);
     const HostItem formItem = item;
-    HWND left = form.addChild(L"Static", 1, {0, 0, 50, 50}, WS_BORDER);
-    HWND right = form.addChild(L"Static", 2, {0, 0, 50, 50}, 0);
+    HWND left = form.AddChild(L"Static", 1, {0, 0, 50, 50}, WS_BORDER);
+    HWND right = form.AddChild(L"Static", 2, {0, 0, 50, 50}, 0);
     ZkHostDesignBindWindow(outline, ZkHostDesignAddItem(outline, formItem, 22), left);
     const HostItem barItem = ZkHostDesignAddItem(outline, formItem, 22);
     ZkHostDesignBindWindow(outline, ZkHostDesignAddItem(outline, formItem, 22), right);
@@ -230,8 +230,8 @@ TEST_F(WithBlock, TheWrapperReadsItsBlockFromTheFormsItem) {
     zkt::TestWindow form(400, 300);
 
     Bind(form);
-    HWND top = form.addChild(L"Static", 1, {0, 0, 400, 100}, SS_WHITERECT);
-    HWND bottom = form.addChild(L"Static", 2, {0, 106, 400, 194}, SS_WHITERECT);
+    HWND top = form.AddChild(L"Static", 1, {0, 0, 400, 100}, SS_WHITERECT);
+    HWND bottom = form.AddChild(L"Static", 2, {0, 106, 400, 194}, SS_WHITERECT);
     HWND bar = CreateWindowExW(0, L"ZK:cSplitter:10", L"", WS_CHILD | WS_VISIBLE, 0, 100, 400, 6, form, nullptr,
                                GetModuleHandleW(nullptr), ctltest::runTime);
     MSG m{};
@@ -290,7 +290,7 @@ TEST(SplitterExports, ANullControlShowsTheBoxAndFailsWithoutATrace) {
     EXPECT_EQ(ZelSplitSetChild(0, 1, GetDesktopWindow()), nullptr);
     EXPECT_EQ(ZelSplitTileToParent(0), 0);
     ASSERT_EQ(answerer.answered(), 5);
-    const auto texts = answerer.dialogs()[3].staticTexts();
+    const auto texts = answerer.dialogs()[3].StaticTexts();
     ASSERT_FALSE(texts.empty());
     EXPECT_EQ(texts.back().rfind(L"Function 'ZelSplitSetChild()' unable to act", 0), 0u);
     EXPECT_EQ(capture.calls(), 0u);

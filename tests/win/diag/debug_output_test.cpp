@@ -24,7 +24,7 @@ HICON BoxIcon(HWND box) {
 }
 
 std::wstring BoxText(const zkt::AnsweredDialog &box) {
-    const auto texts = box.staticTexts();
+    const auto texts = box.StaticTexts();
     return texts.empty() ? std::wstring() : texts.back();
 }
 
@@ -62,7 +62,7 @@ TEST_F(Diag, WithTheBoxFlagAStringShowsABoxCaptionedDebug) {
     zkt::DebugOutputCapture capture;
     zkt::DialogAnswerer answerer(IDOK);
     HICON icon = nullptr;
-    answerer.setInspector([&](HWND box) { icon = BoxIcon(box); });
+    answerer.SetInspector([&](HWND box) { icon = BoxIcon(box); });
     EXPECT_EQ(ZelDebugString(L"value is 42", 0), 1);
     EXPECT_EQ(ZelDebugString(L"not shown", 1), 0);
     ASSERT_EQ(answerer.answered(), 1);
@@ -83,7 +83,7 @@ TEST_F(Diag, AFalseAssertionNamesTheActiveWindow) {
     zkt::DebugOutputCapture capture;
     zkt::DialogAnswerer answerer(IDOK);
     HICON icon = nullptr;
-    answerer.setInspector([&](HWND box) { icon = BoxIcon(box); });
+    answerer.SetInspector([&](HWND box) { icon = BoxIcon(box); });
     EXPECT_EQ(ZelDebugAssert(0, L"quantity below zero"), 1);
     EXPECT_EQ(ZelDebugAssert(0, nullptr), 1);
     ASSERT_EQ(answerer.answered(), 2);

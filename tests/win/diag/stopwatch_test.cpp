@@ -40,7 +40,7 @@ TEST_F(Diag, TheBoxShowsTheWholeReport) {
     ASSERT_EQ(ZelDebugEndTime(L"run", 0), 1);
     ASSERT_EQ(answerer.answered(), 1);
     EXPECT_EQ(answerer.dialogs()[0].caption, L"Performance Time");
-    const auto texts = answerer.dialogs()[0].staticTexts();
+    const auto texts = answerer.dialogs()[0].StaticTexts();
     ASSERT_FALSE(texts.empty());
     EXPECT_TRUE(Matches(texts.back(), L"Begin: \\(10:20:30 PM\\)\nstep: " + kSpan + kClock + L"\nlast: " + kSpan +
                                           kClock + L"\nTotal run: " + kSpan))

@@ -11,7 +11,7 @@ namespace {
 class Bootstrap : public testing::Test {
 protected:
     void SetUp() override {
-        zkt::pumpMessages();
+        zkt::PumpMessages();
         constructed = TestControl::constructed;
         destroyed = TestControl::destroyed;
     }
@@ -24,10 +24,10 @@ protected:
 };
 
 const std::vector<UINT> kNoise = [] {
-    std::vector<UINT> noise = zkt::commonNoise();
-    for (UINT m : {WM_GETMINMAXINFO, WM_NCCALCSIZE, WM_SHOWWINDOW, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED,
-                   WM_MOVE, WM_SIZE, WM_PAINT, WM_NCPAINT, WM_ERASEBKGND, WM_SETFONT, WM_CHILDACTIVATE,
-                   WM_PARENTNOTIFY, WM_GETTEXT, WM_QUERYUISTATE, WM_GETOBJECT})
+    std::vector<UINT> noise = zkt::CommonNoise();
+    for (UINT m : {WM_GETMINMAXINFO, WM_NCCALCSIZE, WM_SHOWWINDOW, WM_WINDOWPOSCHANGING, WM_WINDOWPOSCHANGED, WM_MOVE,
+                   WM_SIZE, WM_PAINT, WM_NCPAINT, WM_ERASEBKGND, WM_SETFONT, WM_CHILDACTIVATE, WM_PARENTNOTIFY,
+                   WM_GETTEXT, WM_QUERYUISTATE, WM_GETOBJECT})
         noise.push_back(m);
     return noise;
 }();
@@ -42,17 +42,17 @@ std::vector<zkt::RecordedMessage> Of(const zkt::MessageRecorder &recorder, HWND 
 
 TEST_F(Bootstrap, WhileTheHostBuildsTheFormTheAnnouncementIsPostedAfterCreation) {
     zkt::MessageRecorder recorder;
-    recorder.watchAll();
+    recorder.WatchAll();
     HWND window = MakeControl(kHostClass, parent);
     ASSERT_NE(window, nullptr);
     EXPECT_EQ(made(), 1);
     auto *object = zk::Window::FromHandle(window);
     ASSERT_NE(object, nullptr) << "the object exists as soon as the window does";
     EXPECT_EQ(HostKeptPointer(window), 0) << "nothing announced during creation";
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     const LPARAM pointer = reinterpret_cast<LPARAM>(object);
     EXPECT_EQ(HostKeptPointer(window), pointer);
-    EXPECT_TRUE(zkt::matchSequence(Of(recorder, window),
+    EXPECT_TRUE(zkt::MatchSequence(Of(recorder, window),
                                    {{WM_NCCREATE, zkt::sent},
                                     {WM_CREATE, zkt::sent},
                                     {ZKM_ControlCreate, zkt::posted | zkt::wparam | zkt::lparam, 0, pointer}},
@@ -63,14 +63,14 @@ TEST_F(Bootstrap, WhileTheHostBuildsTheFormTheAnnouncementIsPostedAfterCreation)
 TEST_F(Bootstrap, AWindowMadeOnItsOwnUnderItsParentAnnouncesAtOnce) {
     ZkHostSetParentWindowOnly(parent, 1);
     zkt::MessageRecorder recorder;
-    recorder.watchAll();
+    recorder.WatchAll();
     HWND window = MakeControl(kHostClass, parent);
     ASSERT_NE(window, nullptr);
     const LPARAM pointer = reinterpret_cast<LPARAM>(zk::Window::FromHandle(window));
     EXPECT_NE(pointer, 0);
     EXPECT_EQ(HostKeptPointer(window), pointer) << "known when CreateWindowExW returns";
-    zkt::pumpMessages();
-    EXPECT_TRUE(zkt::matchSequence(Of(recorder, window),
+    zkt::PumpMessages();
+    EXPECT_TRUE(zkt::MatchSequence(Of(recorder, window),
                                    {{WM_NCCREATE, zkt::sent},
                                     {ZKM_ControlCreate, zkt::sent | zkt::wparam | zkt::lparam, 0, pointer},
                                     {WM_CREATE, zkt::sent}},
@@ -112,11 +112,11 @@ TEST_F(Bootstrap, AnObjectThatCannotBeMadeEndsCreationOrIsAnnouncedAsNull) {
     EXPECT_EQ(gone(), 1) << "the half-made object is not kept";
 
     zkt::MessageRecorder recorder;
-    recorder.watchAll();
+    recorder.WatchAll();
     HWND window = MakeControl(kFailingKeepClass, parent);
     ASSERT_NE(window, nullptr) << "the keeping form goes on without an object";
     EXPECT_EQ(zk::Window::FromHandle(window), nullptr);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     ASSERT_EQ(recorder.count(ZKM_ControlCreate, window), 1);
     for (const auto &m : recorder.messages()) {
         if (m.message == ZKM_ControlCreate) {

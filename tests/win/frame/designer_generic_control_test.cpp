@@ -13,7 +13,7 @@ protected:
         ASSERT_NE(window, nullptr);
         control = static_cast<TestControl *>(zk::Window::FromHandle(window));
         ASSERT_NE(control, nullptr);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
     void TearDown() override {
         if (IsWindow(window))
@@ -23,7 +23,7 @@ protected:
     // WM_COMMAND messages that reached the parent, as (wParam, lParam).
     std::vector<std::pair<WPARAM, LPARAM>> commands;
     void ListenForCommands() {
-        parent.onMessage([this](HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
+        parent.OnMessage([this](HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
             if (message != WM_COMMAND)
                 return false;
             commands.emplace_back(wParam, lParam);
@@ -111,7 +111,7 @@ TEST_F(GenericControl, NotificationsArePostedWithIdCodeAndWindow) {
     ListenForCommands();
     control->ControlNotify(1);
     EXPECT_TRUE(commands.empty()) << "posted, not sent";
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     ASSERT_EQ(commands.size(), 1u);
     EXPECT_EQ(commands[0].first, MAKEWPARAM(42, 1));
     EXPECT_EQ(commands[0].second, reinterpret_cast<LPARAM>(window));
@@ -120,14 +120,14 @@ TEST_F(GenericControl, NotificationsArePostedWithIdCodeAndWindow) {
 TEST_F(GenericControl, AltUpClosesThePopUpOnlyInPopUpMode) {
     ListenForCommands();
     SendMessageW(window, WM_SYSKEYDOWN, VK_UP, 0x20000000);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_TRUE(commands.empty()) << "outside pop-up mode the key goes to the default handling";
     control->PopUp() = 1;
     SendMessageW(window, WM_SYSKEYDOWN, VK_DOWN, 0x20000000);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_TRUE(commands.empty());
     SendMessageW(window, WM_SYSKEYDOWN, VK_UP, 0x20000000);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     ASSERT_EQ(commands.size(), 1u);
     EXPECT_EQ(HIWORD(commands[0].first), 8);
 }

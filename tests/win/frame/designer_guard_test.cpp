@@ -2,17 +2,16 @@
 // string 48 for a null pointer, the row's words for an exception.
 #include <stdexcept>
 
-#include "frame/win/guard.h"
 #include "designer_win_test.h"
+#include "frame/win/guard.h"
 
 using namespace designertest;
 
 namespace {
 
-const wchar_t kNullText[] =
-    L"Function 'ZelCalGetColor()' unable to act because pointer to control instance is NULL.  "
-    L"This is likely due to interception of ZKM_ControlCreate in Brandle Builder.  "
-    L"Please remove any such lines from your application.";
+const wchar_t kNullText[] = L"Function 'ZelCalGetColor()' unable to act because pointer to control instance is NULL.  "
+                            L"This is likely due to interception of ZKM_ControlCreate in Brandle Builder.  "
+                            L"Please remove any such lines from your application.";
 
 // An export as a control family writes it.
 int32_t GetColor(zk::CGenericControl *control, int32_t role) {
@@ -30,7 +29,7 @@ TEST(ControlGuard, ANullControlShowsStringFortyEightOnceAndFails) {
     EXPECT_EQ(GetColor(nullptr, 0), -1);
     ASSERT_EQ(answerer.answered(), 1);
     EXPECT_EQ(answerer.dialogs()[0].caption, L"Zelkova Kit Library");
-    const auto texts = answerer.dialogs()[0].staticTexts();
+    const auto texts = answerer.dialogs()[0].StaticTexts();
     ASSERT_FALSE(texts.empty());
     EXPECT_EQ(texts.back(), kNullText);
     EXPECT_EQ(capture.text(), L"ZelCalGetColor() - Unable to retrieve color for specified role.\n");
@@ -47,7 +46,8 @@ TEST(ControlGuard, ABodyThatThrowsTracesItsWordsWithoutABox) {
     zkt::DialogAnswerer answerer(IDOK);
     EXPECT_EQ(GetColor(control, 9), -1);
     EXPECT_EQ(answerer.answered(), 0);
-    EXPECT_EQ(capture.lines(), std::vector<std::wstring>{L"ZelCalGetColor() - Unable to retrieve color for specified role."});
+    EXPECT_EQ(capture.lines(),
+              std::vector<std::wstring>{L"ZelCalGetColor() - Unable to retrieve color for specified role."});
 }
 
 } // namespace

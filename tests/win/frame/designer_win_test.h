@@ -60,9 +60,9 @@ protected:
 
 // Test classes, registered once with a procedure that hands every message to
 // the bootstrap, the way the library's start-up registers its outer classes.
-inline constexpr const wchar_t *kSubclassClass = L"ZKTest:cGeneric:10";  // subclass-or-attach form
-inline constexpr const wchar_t *kKeepClass = L"ZKTest:cKeep:10";         // keeps its procedure
-inline constexpr const wchar_t *kFailingClass = L"ZKTest:cFailing:10";   // the object cannot be made
+inline constexpr const wchar_t *kSubclassClass = L"ZKTest:cGeneric:10"; // subclass-or-attach form
+inline constexpr const wchar_t *kKeepClass = L"ZKTest:cKeep:10";        // keeps its procedure
+inline constexpr const wchar_t *kFailingClass = L"ZKTest:cFailing:10";  // the object cannot be made
 inline constexpr const wchar_t *kFailingKeepClass = L"ZKTest:cFailKeep:10";
 inline constexpr const wchar_t *kWrapperClass = L"ZKTest:cWrapper:10";
 // A class of the host over kSubclassClass: it keeps the pointer announced.

@@ -90,8 +90,7 @@ TEST(WindowFramework, AFailedCreationEndsTheObjectOnce) {
     auto *lost = new Probe;
     lost->postNcDestroys = &posts;
     lost->destructions = &deaths;
-    EXPECT_EQ(lost->CreateEx(0, L"ZKTest:NoSuchClass", L"", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr),
-              nullptr);
+    EXPECT_EQ(lost->CreateEx(0, L"ZKTest:NoSuchClass", L"", WS_OVERLAPPED, 0, 0, 10, 10, nullptr, nullptr), nullptr);
     EXPECT_EQ(posts, 2) << "a window that never came still ends its object";
     EXPECT_EQ(deaths, 2);
 }

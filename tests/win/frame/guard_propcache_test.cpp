@@ -15,7 +15,7 @@ HANDLE Value(int n) { return reinterpret_cast<HANDLE>(static_cast<INT_PTR>(n)); 
 
 TEST(PropCopy, FollowsSetAndRemoveAndReadsThroughOnAMiss) {
     zkt::TestWindow form;
-    HWND window = form.addListBox(1, {0, 0, 50, 50});
+    HWND window = form.AddListBox(1, {0, 0, 50, 50});
     EXPECT_EQ(zk::PropGet(window, kName), nullptr);
     ASSERT_TRUE(zk::PropSet(window, kName, Value(7)));
     EXPECT_EQ(zk::PropGet(window, kName), Value(7));
@@ -34,7 +34,7 @@ TEST(PropCopy, FollowsSetAndRemoveAndReadsThroughOnAMiss) {
 
 TEST(PropCopy, ADestroyedWindowAnswersNothing) {
     zkt::TestWindow form;
-    HWND window = form.addListBox(2, {0, 0, 50, 50});
+    HWND window = form.AddListBox(2, {0, 0, 50, 50});
     ASSERT_TRUE(zk::PropSet(window, kName, Value(5)));
     DestroyWindow(window);
     EXPECT_EQ(zk::PropGet(window, kName), nullptr);

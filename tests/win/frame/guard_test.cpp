@@ -38,8 +38,7 @@ TEST(Guard, StandardExceptionsAreCaughtToo) {
 
 TEST(Guard, LiteralFailureWordsAreTracedAsGiven) {
     zkt::DebugOutputCapture capture;
-    EXPECT_EQ(zk::GuardedText(L"ZelCalClearSpecial()", L"failed", 0, []() -> int { throw zk::UserException(); }),
-              0);
+    EXPECT_EQ(zk::GuardedText(L"ZelCalClearSpecial()", L"failed", 0, []() -> int { throw zk::UserException(); }), 0);
     EXPECT_EQ(capture.text(), L"ZelCalClearSpecial() - failed\n");
 }
 
@@ -56,19 +55,19 @@ TEST(Guard, ANullControlShowsStringFortyEightThenFails) {
     EXPECT_FALSE(ran);
     ASSERT_EQ(answerer.answered(), 1);
     EXPECT_EQ(answerer.dialogs()[0].caption, L"Zelkova Kit Library");
-    const auto texts = answerer.dialogs()[0].staticTexts();
+    const auto texts = answerer.dialogs()[0].StaticTexts();
     ASSERT_FALSE(texts.empty());
-    EXPECT_EQ(texts.back(),
-              L"Function 'ZelPalColorGet()' unable to act because pointer to control instance is NULL.  "
-              L"This is likely due to interception of ZKM_ControlCreate in Brandle Builder.  "
-              L"Please remove any such lines from your application.");
+    EXPECT_EQ(texts.back(), L"Function 'ZelPalColorGet()' unable to act because pointer to control instance is NULL.  "
+                            L"This is likely due to interception of ZKM_ControlCreate in Brandle Builder.  "
+                            L"Please remove any such lines from your application.");
     EXPECT_EQ(capture.text(), L"ZelPalColorGet() - Unhandled exception in function '%1'.\n");
 }
 
 TEST(Guard, ReportErrorWritesTheResourceTextAsItStands) {
     zkt::DebugOutputCapture capture;
     ZelReportError(52, L"ZelStrScanReverse()");
-    EXPECT_EQ(capture.lines(), std::vector<std::wstring>{L"ZelStrScanReverse() - Unhandled exception in function '%1'."});
+    EXPECT_EQ(capture.lines(),
+              std::vector<std::wstring>{L"ZelStrScanReverse() - Unhandled exception in function '%1'."});
     capture.clear();
     ZelReportError(9999, L"F()");
     EXPECT_EQ(capture.text(), L"F() - \n") << "a missing text leaves the frame of the line";

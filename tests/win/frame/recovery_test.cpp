@@ -37,7 +37,7 @@ void Inspect(HWND dialog) {
 TEST(Recovery, RetryEndsWithOneAndShowsTheDialogAsBuilt) {
     look = {};
     zkt::DialogAnswerer answerer(203);
-    answerer.setInspector(Inspect);
+    answerer.SetInspector(Inspect);
     EXPECT_EQ(ZelErrorRecovery(L"Zelkova Kit"), ZEL_RECOVERY_RETRY);
     ASSERT_EQ(answerer.answered(), 1);
     const zkt::AnsweredDialog &dialog = answerer.dialogs()[0];
@@ -45,7 +45,7 @@ TEST(Recovery, RetryEndsWithOneAndShowsTheDialogAsBuilt) {
     EXPECT_EQ(dialog.text(101), L"An error has occurred in your application.");
     EXPECT_EQ(dialog.text(203), L"&Retry");
     EXPECT_EQ(dialog.text(204), L"&Halt Application");
-    EXPECT_TRUE(dialog.hasControl(202));
+    EXPECT_TRUE(dialog.HasControl(202));
     ASSERT_TRUE(look.seen);
     EXPECT_TRUE(look.iconSet);
     EXPECT_TRUE(look.closeGreyed);
@@ -71,7 +71,7 @@ void CancelFirst(HWND dialog) {
 TEST(Recovery, CloseAndCancelDoNotEndTheDialog) {
     // Escape and the close box are not answers: only Retry or Halt end it.
     zkt::DialogAnswerer answerer(203);
-    answerer.setInspector(CancelFirst);
+    answerer.SetInspector(CancelFirst);
     EXPECT_EQ(ZelErrorRecovery(L"Zelkova Kit"), ZEL_RECOVERY_RETRY);
     EXPECT_EQ(answerer.answered(), 1);
 }

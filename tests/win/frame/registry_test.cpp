@@ -19,10 +19,14 @@ struct ExpectedClass {
 };
 
 const ExpectedClass kStartUpClasses[] = {
-    {L"ZK:cCalendar:10", 0x6880, 0, true},  {L"ZK:cComboCal:10", 0x6888, 0, true},
-    {L"ZK:cPalette:10", 0x6080, 0, true},   {L"ZK:cComboPal:10", 0x6888, 0, true},
-    {L"ZK:cSplitter:10", 0x400B, 0, false}, {L"ZK:cListView:10", 0x4088, 0, true},
-    {L"ZK:cListViewDropDown:10", 0x4088, 0, true}, {L"ZK:cSpinField:10", 0x4008, 4, true},
+    {L"ZK:cCalendar:10", 0x6880, 0, true},
+    {L"ZK:cComboCal:10", 0x6888, 0, true},
+    {L"ZK:cPalette:10", 0x6080, 0, true},
+    {L"ZK:cComboPal:10", 0x6888, 0, true},
+    {L"ZK:cSplitter:10", 0x400B, 0, false},
+    {L"ZK:cListView:10", 0x4088, 0, true},
+    {L"ZK:cListViewDropDown:10", 0x4088, 0, true},
+    {L"ZK:cSpinField:10", 0x4008, 4, true},
     {L"ZK:cMeter:10", 0x4000, 4, true},
 };
 

@@ -77,7 +77,7 @@ TEST(SystemQueries, KeyStateIsSignExtendedFromSixteenBits) {
 
 TEST(SystemQueries, SendMsgStringPassesTheTextAsLParam) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(10, {5, 5, 200, 24});
+    HWND edit = form.AddEdit(10, {5, 5, 200, 24});
     EXPECT_EQ(ZelSendMsgString(edit, WM_SETTEXT, 0, L"from the host"), TRUE);
     wchar_t text[64] = {};
     GetWindowTextW(edit, text, 64);

@@ -14,7 +14,7 @@ const COLORREF kRed = RGB(255, 0, 0);
 const COLORREF kOdd = RGB(0x12, 0x34, 0x56);
 const COLORREF kGreen = RGB(0, 160, 0);
 
-void fillRect(HDC dc, RECT r, COLORREF color) {
+void FillRect(HDC dc, RECT r, COLORREF color) {
     HBRUSH brush = CreateSolidBrush(color);
     FillRect(dc, &r, brush);
     DeleteObject(brush);
@@ -24,7 +24,7 @@ TEST(Bitmap, PaintedPixelsReadBackAsColorRefs) {
     zkt::Bitmap picture(20, 10);
     ASSERT_TRUE(picture.valid());
     EXPECT_EQ(RGB(0, 0, 0), picture.pixel(0, 0));
-    fillRect(picture.dc(), RECT{2, 1, 5, 3}, kOdd);
+    FillRect(picture.dc(), RECT{2, 1, 5, 3}, kOdd);
     SetPixel(picture.dc(), 19, 9, kRed);
     EXPECT_EQ(kOdd, picture.pixel(2, 1));
     EXPECT_EQ(kOdd, picture.pixel(4, 2));
@@ -49,11 +49,10 @@ TEST(Bitmap, SavesA24BitBottomUpBmp) {
     wchar_t folder[MAX_PATH];
     GetTempPathW(MAX_PATH, folder);
     const std::wstring path = std::wstring(folder) + L"zkharness_save.bmp";
-    ASSERT_TRUE(picture.saveBmp(path));
+    ASSERT_TRUE(picture.SaveBmp(path));
     std::ifstream in(path.c_str(), std::ios::binary);
     ASSERT_TRUE(in.good());
-    std::vector<unsigned char> b((std::istreambuf_iterator<char>(in)),
-                                 std::istreambuf_iterator<char>());
+    std::vector<unsigned char> b((std::istreambuf_iterator<char>(in)), std::istreambuf_iterator<char>());
     in.close();
     DeleteFileW(path.c_str());
     const size_t stride = 12; // 3 pixels * 3 bytes, already a multiple of 4
@@ -76,13 +75,13 @@ TEST(Bitmap, SavesA24BitBottomUpBmp) {
 }
 
 // A child control that fills its client area with kGreen.
-LRESULT CALLBACK greenProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT CALLBACK GreenProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_PAINT || message == WM_PRINTCLIENT) {
         PAINTSTRUCT ps;
         HDC dc = message == WM_PAINT ? BeginPaint(hwnd, &ps) : reinterpret_cast<HDC>(wParam);
         RECT client;
         GetClientRect(hwnd, &client);
-        fillRect(dc, client, kGreen);
+        FillRect(dc, client, kGreen);
         if (message == WM_PAINT) {
             EndPaint(hwnd, &ps);
         }
@@ -91,34 +90,34 @@ LRESULT CALLBACK greenProc(HWND hwnd, UINT message, WPARAM wParam, LPARAM lParam
     return DefWindowProcW(hwnd, message, wParam, lParam);
 }
 
-HWND addGreenChild(zkt::TestWindow &window, zkt::Box box) {
+HWND AddGreenChild(zkt::TestWindow &window, zkt::Box box) {
     static const ATOM atom = [] {
         WNDCLASSW wc{};
-        wc.lpfnWndProc = greenProc;
+        wc.lpfnWndProc = GreenProc;
         wc.hInstance = GetModuleHandleW(nullptr);
         wc.lpszClassName = L"ZkHarnessGreen";
         return RegisterClassW(&wc);
     }();
     EXPECT_NE(0, atom);
-    return window.addChild(L"ZkHarnessGreen", 5, box, 0);
+    return window.AddChild(L"ZkHarnessGreen", 5, box, 0);
 }
 
 // A window whose client area is white with a red square at (10, 10)-(30, 30),
 // painted for WM_PAINT and WM_PRINTCLIENT alike.
-void paintSquare(HDC dc) { fillRect(dc, RECT{10, 10, 30, 30}, kRed); }
+void PaintSquare(HDC dc) { FillRect(dc, RECT{10, 10, 30, 30}, kRed); }
 
-void installSquarePainter(zkt::TestWindow &window) {
-    window.onMessage([](HWND hwnd, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
+void InstallSquarePainter(zkt::TestWindow &window) {
+    window.OnMessage([](HWND hwnd, UINT message, WPARAM wParam, LPARAM, LRESULT &result) {
         if (message == WM_PAINT) {
             PAINTSTRUCT ps;
             HDC dc = BeginPaint(hwnd, &ps);
-            paintSquare(dc);
+            PaintSquare(dc);
             EndPaint(hwnd, &ps);
             result = 0;
             return true;
         }
         if (message == WM_PRINTCLIENT) {
-            paintSquare(reinterpret_cast<HDC>(wParam));
+            PaintSquare(reinterpret_cast<HDC>(wParam));
             result = 0;
             return true;
         }
@@ -128,8 +127,8 @@ void installSquarePainter(zkt::TestWindow &window) {
 
 TEST(Capture, ClientCaptureShowsWhatTheWindowPaints) {
     zkt::TestWindow window(120, 80);
-    installSquarePainter(window);
-    zkt::Bitmap picture = zkt::captureClient(window);
+    InstallSquarePainter(window);
+    zkt::Bitmap picture = zkt::CaptureClient(window);
     ASSERT_TRUE(picture.valid());
     EXPECT_EQ(120, picture.width());
     EXPECT_EQ(80, picture.height());
@@ -142,9 +141,9 @@ TEST(Capture, ClientCaptureShowsWhatTheWindowPaints) {
 
 TEST(Capture, ScreenCaptureRepaintsAndIncludesChildren) {
     zkt::TestWindow window(200, 100);
-    installSquarePainter(window);
-    addGreenChild(window, {100, 20, 60, 40});
-    zkt::Bitmap picture = zkt::captureScreen(window);
+    InstallSquarePainter(window);
+    AddGreenChild(window, {100, 20, 60, 40});
+    zkt::Bitmap picture = zkt::CaptureScreen(window);
     ASSERT_TRUE(picture.valid());
     EXPECT_EQ(200, picture.width());
     EXPECT_EQ(kRed, picture.pixel(15, 15));

@@ -15,10 +15,8 @@ TEST(DebugOutputCapture, JoinsPiecesIntoLines) {
     OutputDebugStringW(L"Unhandled exception in function '%1'.");
     OutputDebugStringW(L"\n");
     OutputDebugStringW(L"second\r\nthird");
-    EXPECT_EQ((Lines{L"ZelStrScanReverse() - Unhandled exception in function '%1'.", L"second"}),
-              capture.lines());
-    EXPECT_EQ(L"ZelStrScanReverse() - Unhandled exception in function '%1'.\nsecond\r\nthird",
-              capture.text());
+    EXPECT_EQ((Lines{L"ZelStrScanReverse() - Unhandled exception in function '%1'.", L"second"}), capture.lines());
+    EXPECT_EQ(L"ZelStrScanReverse() - Unhandled exception in function '%1'.\nsecond\r\nthird", capture.text());
     EXPECT_EQ(5u, capture.calls());
     capture.clear();
     EXPECT_TRUE(capture.lines().empty());

@@ -41,8 +41,7 @@ private:
         } while (*s++);
     }
 
-    void item(int id, WORD atom, DWORD style, const wchar_t *title, short x, short y, short cx,
-              short cy) {
+    void item(int id, WORD atom, DWORD style, const wchar_t *title, short x, short y, short cx, short cy) {
         if (words_.size() % 2) {
             words_.push_back(0); // items start on a DWORD boundary
         }
@@ -65,7 +64,7 @@ private:
     std::vector<WORD> words_;
 };
 
-INT_PTR CALLBACK testDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
+INT_PTR CALLBACK TestDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM) {
     if (message == WM_INITDIALOG) {
         return TRUE;
     }
@@ -82,23 +81,23 @@ INT_PTR CALLBACK testDialogProc(HWND dialog, UINT message, WPARAM wParam, LPARAM
     return FALSE;
 }
 
-INT_PTR showDialog(const wchar_t *caption, HWND owner = nullptr) {
+INT_PTR ShowDialog(const wchar_t *caption, HWND owner = nullptr) {
     DialogTemplate tmpl(caption);
-    return DialogBoxIndirectParamW(GetModuleHandleW(nullptr), tmpl.get(), owner, testDialogProc, 0);
+    return DialogBoxIndirectParamW(GetModuleHandleW(nullptr), tmpl.get(), owner, TestDialogProc, 0);
 }
 
 TEST(DialogAnswerer, AnswersAModalDialogAndRemembersWhatItShowed) {
     zkt::TestWindow owner;
     zkt::DialogAnswerer answerer(kHalt);
-    EXPECT_EQ(2, showDialog(L"First", owner));
+    EXPECT_EQ(2, ShowDialog(L"First", owner));
     ASSERT_EQ(1, answerer.answered());
     const zkt::AnsweredDialog &seen = answerer.dialogs()[0];
     EXPECT_EQ(L"First", seen.caption);
     EXPECT_EQ(kHalt, seen.button);
     EXPECT_EQ(L"Something went wrong.", seen.text(kMessage));
-    EXPECT_EQ((std::vector<std::wstring>{L"Something went wrong."}), seen.staticTexts());
-    EXPECT_TRUE(seen.hasControl(kRetry));
-    EXPECT_FALSE(seen.hasControl(999));
+    EXPECT_EQ((std::vector<std::wstring>{L"Something went wrong."}), seen.StaticTexts());
+    EXPECT_TRUE(seen.HasControl(kRetry));
+    EXPECT_FALSE(seen.HasControl(999));
     EXPECT_TRUE(answerer.failures().empty());
     EXPECT_TRUE(IsWindowEnabled(owner)); // the owner is given back
 }
@@ -109,21 +108,21 @@ TEST(DialogAnswerer, AnswersMessageBoxes) {
     EXPECT_EQ(IDNO, MessageBoxW(nullptr, L"Sure?", L"Question", MB_YESNO | MB_ICONQUESTION));
     ASSERT_EQ(2, answerer.answered());
     EXPECT_EQ(L"Box", answerer.dialogs()[0].caption);
-    const auto texts = answerer.dialogs()[0].staticTexts();
+    const auto texts = answerer.dialogs()[0].StaticTexts();
     EXPECT_NE(texts.end(), std::find(texts.begin(), texts.end(), L"Hello there"));
 }
 
 // Code that asks again and again, as a retry loop does, until cancelled.
-void askUntilCancelled(int &shown) {
+void AskUntilCancelled(int &shown) {
     zkt::DialogAnswerer answerer(kRetry);
-    answerer.setMaxRepeats(3);
-    for (shown = 1; shown < 20 && showDialog(L"loop") != IDCANCEL; ++shown) {
+    answerer.SetMaxRepeats(3);
+    for (shown = 1; shown < 20 && ShowDialog(L"loop") != IDCANCEL; ++shown) {
     }
 }
 
 TEST(DialogAnswerer, GivesUpOnARetryLoop) {
     int shown = 0;
-    EXPECT_NONFATAL_FAILURE(askUntilCancelled(shown), "dialog \"loop\" came after the 3 expected");
+    EXPECT_NONFATAL_FAILURE(AskUntilCancelled(shown), "dialog \"loop\" came after the 3 expected");
     EXPECT_EQ(4, shown);
 }
 

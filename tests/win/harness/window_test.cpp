@@ -7,7 +7,7 @@
 
 namespace {
 
-std::wstring classOf(HWND window) {
+std::wstring ClassOf(HWND window) {
     wchar_t name[64] = {};
     GetClassNameW(window, name, 64);
     return name;
@@ -30,19 +30,18 @@ TEST(TestWindow, HasTheRequestedClientSizeAndIsVisible) {
 
 TEST(TestWindow, ChildControlsHaveClassIdParentAndBounds) {
     zkt::TestWindow window(400, 300);
-    HWND list = window.addListBox(11, {10, 10, 100, 120});
-    HWND combo = window.addComboBox(12, {120, 10, 100, 150});
-    HWND edit = window.addEdit(13, {230, 10, 100, 24}, ES_AUTOHSCROLL, L"abc");
-    HWND button = window.addButton(14, {10, 200, 80, 26}, L"Go");
+    HWND list = window.AddListBox(11, {10, 10, 100, 120});
+    HWND combo = window.AddComboBox(12, {120, 10, 100, 150});
+    HWND edit = window.AddEdit(13, {230, 10, 100, 24}, ES_AUTOHSCROLL, L"abc");
+    HWND button = window.AddButton(14, {10, 200, 80, 26}, L"Go");
     struct Expected {
         HWND hwnd;
         const wchar_t *cls;
         int id;
-    } children[] = {{list, L"ListBox", 11}, {combo, L"ComboBox", 12}, {edit, L"Edit", 13},
-                    {button, L"Button", 14}};
+    } children[] = {{list, L"ListBox", 11}, {combo, L"ComboBox", 12}, {edit, L"Edit", 13}, {button, L"Button", 14}};
     for (const Expected &child : children) {
         ASSERT_TRUE(IsWindow(child.hwnd)) << child.id;
-        EXPECT_EQ(classOf(child.hwnd), child.cls);
+        EXPECT_EQ(ClassOf(child.hwnd), child.cls);
         EXPECT_EQ(child.id, GetDlgCtrlID(child.hwnd));
         EXPECT_EQ(window.hwnd(), GetParent(child.hwnd));
         EXPECT_TRUE(IsWindowVisible(child.hwnd));

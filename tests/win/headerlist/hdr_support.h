@@ -43,7 +43,7 @@ public:
     HWND wrapper() const { return wrapper_; }
     HWND view() const;
     HWND header() const { return ListView_GetHeader(view()); }
-    ZelLVWrapper wrapperPointer() const { return wrapperPointer_; }
+    ZelLVWrapper WrapperPointer() const { return wrapperPointer_; }
     ZelLVControl list() const { return list_; }
 
     // Rows through the exports: one text per column, item data = row number.

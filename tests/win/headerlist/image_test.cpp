@@ -55,7 +55,7 @@ TEST(HeaderListImages, AddedInStepAndShownInTheirRows) {
     l.Add({L"red"}, 1);
     RECT icon{};
     ListView_GetItemRect(l.view(), 1, &icon, LVIR_ICON);
-    const zkt::Bitmap shot = zkt::captureClient(l.view());
+    const zkt::Bitmap shot = zkt::CaptureClient(l.view());
     RECT inside{icon.left, icon.top, icon.left + 16, icon.top + 16};
     EXPECT_GT(shot.count(RGB(255, 0, 0), inside), 200) << "the small image in its row";
     ListView_GetItemRect(l.view(), 0, &icon, LVIR_ICON);

@@ -209,8 +209,8 @@ TEST_F(HostDesigner, ItemCallsAreCountedAndTheFlagIsAnswered) {
 
 TEST(HostParentWindowOnly, AnswersAsSetForTheParent) {
     zkt::TestWindow parent, other;
-    HWND child = parent.addButton(5, {0, 0, 40, 20}, L"b");
-    HWND stranger = other.addButton(6, {0, 0, 40, 20}, L"c");
+    HWND child = parent.AddButton(5, {0, 0, 40, 20}, L"b");
+    HWND stranger = other.AddButton(6, {0, 0, 40, 20}, L"c");
     EXPECT_EQ(OrlParentWindowOnly(child), 0) << "while the host builds, by default";
     ZkHostSetParentWindowOnly(parent, 1);
     EXPECT_EQ(OrlParentWindowOnly(child), 1);

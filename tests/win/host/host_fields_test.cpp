@@ -24,10 +24,10 @@ std::wstring WindowText(HWND window) {
 
 TEST_F(HostFields, NullAndClearOnEachKindOfField) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {0, 0, 80, 20});
-    HWND dropList = form.addComboBox(3, {90, 0, 80, 100});
-    HWND dropDown = form.addComboBox(4, {90, 30, 80, 100}, CBS_DROPDOWN);
-    HWND multi = form.addListBox(5, {180, 0, 80, 80}, LBS_MULTIPLESEL);
+    HWND edit = form.AddEdit(1, {0, 0, 80, 20});
+    HWND dropList = form.AddComboBox(3, {90, 0, 80, 100});
+    HWND dropDown = form.AddComboBox(4, {90, 30, 80, 100}, CBS_DROPDOWN);
+    HWND multi = form.AddListBox(5, {180, 0, 80, 80}, LBS_MULTIPLESEL);
     Fill(dropList, true, 3);
     Fill(dropDown, true, 3);
     Fill(multi, false, 3);
@@ -51,8 +51,8 @@ TEST_F(HostFields, NullAndClearOnEachKindOfField) {
 
 TEST_F(HostFields, EditFlagOnEditsAndOtherFields) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {0, 0, 80, 20});
-    HWND combo = form.addComboBox(2, {90, 0, 80, 100}, CBS_DROPDOWN);
+    HWND edit = form.AddEdit(1, {0, 0, 80, 20});
+    HWND combo = form.AddComboBox(2, {90, 0, 80, 100}, CBS_DROPDOWN);
     EXPECT_EQ(HostFieldSetEditFlag(edit, 1), 1);
     EXPECT_TRUE(SendMessageW(edit, EM_GETMODIFY, 0, 0));
     EXPECT_EQ(HostFieldSetEditFlag(edit, 0), 1);
@@ -66,8 +66,8 @@ TEST_F(HostFields, EditFlagOnEditsAndOtherFields) {
 
 TEST_F(HostFields, PictureClearDropsTheImageOrTheText) {
     zkt::TestWindow form;
-    HWND picture = form.addChild(L"Static", 1, {0, 0, 32, 32}, SS_BITMAP);
-    HWND label = form.addChild(L"Static", 3, {80, 0, 80, 20}, SS_LEFT, L"caption");
+    HWND picture = form.AddChild(L"Static", 1, {0, 0, 32, 32}, SS_BITMAP);
+    HWND label = form.AddChild(L"Static", 3, {80, 0, 80, 20}, SS_LEFT, L"caption");
     HBITMAP bitmap = CreateBitmap(8, 8, 1, 1, nullptr);
     SendMessageW(picture, STM_SETIMAGE, IMAGE_BITMAP, reinterpret_cast<LPARAM>(bitmap));
     ASSERT_NE(SendMessageW(picture, STM_GETIMAGE, IMAGE_BITMAP, 0), 0);
@@ -81,8 +81,8 @@ TEST_F(HostFields, PictureClearDropsTheImageOrTheText) {
 
 TEST_F(HostFields, SingleSelectionListsAndComboBoxes) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(1, {0, 0, 80, 80});
-    HWND combo = form.addComboBox(2, {90, 0, 80, 100});
+    HWND list = form.AddListBox(1, {0, 0, 80, 80});
+    HWND combo = form.AddComboBox(2, {90, 0, 80, 100});
     Fill(list, false, 4);
     Fill(combo, true, 4);
     for (HWND w : {list, combo}) {
@@ -107,7 +107,7 @@ TEST_F(HostFields, SingleSelectionListsAndComboBoxes) {
 TEST_F(HostFields, MultipleSelectionLists) {
     zkt::TestWindow form;
     for (DWORD style : {DWORD(LBS_MULTIPLESEL), DWORD(LBS_EXTENDEDSEL)}) {
-        HWND list = form.addListBox(1, {0, 0, 80, 80}, style);
+        HWND list = form.AddListBox(1, {0, 0, 80, 80}, style);
         Fill(list, false, 5);
         EXPECT_EQ(HostListSetMultiSelection(list, 3, 1), 1);
         EXPECT_EQ(HostListSetMultiSelection(list, 1, 1), 1);
@@ -124,10 +124,10 @@ TEST_F(HostFields, MultipleSelectionLists) {
 
 TEST_F(HostFields, ACustomListIsReachedThroughTheListItAnswers) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(1, {0, 0, 80, 80});
+    HWND list = form.AddListBox(1, {0, 0, 80, 80});
     Fill(list, false, 3);
     // The test window itself plays the wrapper: it answers the list.
-    form.onMessage([&](HWND, UINT message, WPARAM, LPARAM, LRESULT &result) {
+    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM, LRESULT &result) {
         if (message != HostMsgGetListWindow)
             return false;
         result = reinterpret_cast<LRESULT>(list);

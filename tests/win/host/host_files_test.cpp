@@ -183,7 +183,8 @@ TEST_F(HostMisc, MbcsCopyCutsAtTheLimitAndEnds) {
 bool IsShiftJisLead(unsigned char c) { return IsDBCSLeadByteEx(932, c) != FALSE; }
 
 TEST_F(HostMisc, ADoubleByteCharacterIsNeverCutInTwo) {
-    const char text[] = "a\x82\xa0" "b\x82\xa2";
+    const char text[] = "a\x82\xa0"
+                        "b\x82\xa2";
     char out[16];
     EXPECT_TRUE(hostwin::CopyWholeCharacters(out, text, 2, IsShiftJisLead));
     EXPECT_STREQ(out, "a");

@@ -2,8 +2,8 @@
 // numbers from text, and a fixture that checks no test leaks a string.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 #include <string>
 

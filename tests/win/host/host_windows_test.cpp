@@ -70,14 +70,14 @@ TEST_F(HostWindows, RealWindowsAreClassifiedByClassAndStyle) {
         uint32_t type;
     } cases[] = {
         {form.hwnd(), HOST_WT_FORM},
-        {form.addListBox(1, {0, 0, 80, 60}), HOST_WT_LISTBOX},
-        {form.addComboBox(2, {0, 70, 80, 100}), HOST_WT_COMBOBOX},
-        {form.addEdit(4, {90, 0, 80, 20}), HOST_WT_DATAFIELD},
-        {form.addEdit(5, {90, 30, 80, 40}, ES_MULTILINE | WS_BORDER), HOST_WT_MULTILINE},
-        {form.addButton(6, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX), HOST_WT_CHECKBOX},
-        {form.addButton(8, {180, 40, 80, 20}, L"radio", BS_AUTORADIOBUTTON), HOST_WT_RADIOBUTTON},
-        {form.addButton(10, {180, 80, 80, 20}, L"push"), 0},
-        {form.addChild(L"Static", 11, {180, 100, 80, 20}, SS_LEFT, L"label"), 0},
+        {form.AddListBox(1, {0, 0, 80, 60}), HOST_WT_LISTBOX},
+        {form.AddComboBox(2, {0, 70, 80, 100}), HOST_WT_COMBOBOX},
+        {form.AddEdit(4, {90, 0, 80, 20}), HOST_WT_DATAFIELD},
+        {form.AddEdit(5, {90, 30, 80, 40}, ES_MULTILINE | WS_BORDER), HOST_WT_MULTILINE},
+        {form.AddButton(6, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX), HOST_WT_CHECKBOX},
+        {form.AddButton(8, {180, 40, 80, 20}, L"radio", BS_AUTORADIOBUTTON), HOST_WT_RADIOBUTTON},
+        {form.AddButton(10, {180, 80, 80, 20}, L"push"), 0},
+        {form.AddChild(L"Static", 11, {180, 100, 80, 20}, SS_LEFT, L"label"), 0},
     };
     for (const Case &c : cases) {
         EXPECT_EQ(HostWinType(c.window), c.type) << GetDlgCtrlID(c.window);
@@ -98,7 +98,7 @@ TEST_F(HostWindows, RealWindowsAreClassifiedByClassAndStyle) {
 
 TEST_F(HostWindows, MarksOverrideTheClassificationUntilForgotten) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {0, 0, 80, 20});
+    HWND edit = form.AddEdit(1, {0, 0, 80, 20});
     ZkHostSetWinType(edit, HOST_WT_FRAMECHILD, HOST_WC_FRAMECHILD);
     EXPECT_EQ(HostWinType(edit), HOST_WT_FRAMECHILD);
     EXPECT_EQ(HostWinClass(edit), HOST_WC_FRAMECHILD);
@@ -106,7 +106,7 @@ TEST_F(HostWindows, MarksOverrideTheClassificationUntilForgotten) {
     EXPECT_EQ(HostWinType(edit), HOST_WT_DATAFIELD);
     EXPECT_EQ(HostWinClass(edit), 0u);
 
-    HWND gone = form.addEdit(2, {0, 30, 80, 20});
+    HWND gone = form.AddEdit(2, {0, 30, 80, 20});
     ZkHostSetWinType(gone, HOST_WT_PICTURE, 7);
     DestroyWindow(gone);
     EXPECT_EQ(HostWinType(gone), 0u);
@@ -115,7 +115,7 @@ TEST_F(HostWindows, MarksOverrideTheClassificationUntilForgotten) {
 
 TEST_F(HostWindows, NamesAreWhatTheApplicationCalledTheWindow) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {0, 0, 80, 20});
+    HWND edit = form.AddEdit(1, {0, 0, 80, 20});
     HostStr name = ZkHostStrMake(L"previous");
     HostStr previous = name;
     ZkHostSetWinName(edit, L"dfCustomer");
@@ -132,12 +132,12 @@ TEST_F(HostWindows, NamesAreWhatTheApplicationCalledTheWindow) {
 
 TEST_F(HostWindows, TheChildWalkFiltersDirectChildrenByTypeInZOrder) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(1, {0, 0, 80, 60});
-    HWND edit = form.addEdit(2, {90, 0, 80, 20});
-    HWND label = form.addChild(L"Static", 3, {90, 30, 80, 20}, SS_LEFT, L"label");
-    HWND memo = form.addEdit(4, {90, 60, 80, 40}, ES_MULTILINE);
-    HWND check = form.addButton(5, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX);
-    HWND group = form.addChild(L"Static", 6, {180, 30, 100, 100}, SS_LEFT);
+    HWND list = form.AddListBox(1, {0, 0, 80, 60});
+    HWND edit = form.AddEdit(2, {90, 0, 80, 20});
+    HWND label = form.AddChild(L"Static", 3, {90, 30, 80, 20}, SS_LEFT, L"label");
+    HWND memo = form.AddEdit(4, {90, 60, 80, 40}, ES_MULTILINE);
+    HWND check = form.AddButton(5, {180, 0, 80, 20}, L"check", BS_AUTOCHECKBOX);
+    HWND group = form.AddChild(L"Static", 6, {180, 30, 100, 100}, SS_LEFT);
     HWND nested = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, group, nullptr,
                                   GetModuleHandleW(nullptr), nullptr);
     ASSERT_NE(nested, nullptr);
@@ -155,7 +155,7 @@ TEST_F(HostWindows, TheChildWalkFiltersDirectChildrenByTypeInZOrder) {
 
 TEST_F(HostWindows, ControlsByIdAreFoundAmongDirectChildrenFirstThenDeeper) {
     zkt::TestWindow form;
-    HWND group = form.addChild(L"Static", 6, {0, 0, 100, 100}, SS_LEFT);
+    HWND group = form.AddChild(L"Static", 6, {0, 0, 100, 100}, SS_LEFT);
     HWND nested = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, group,
                                   reinterpret_cast<HMENU>(7), GetModuleHandleW(nullptr), nullptr);
     HWND shadow = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 0, 30, 50, 20, group,
@@ -170,14 +170,14 @@ TEST_F(HostWindows, ControlsByIdAreFoundAmongDirectChildrenFirstThenDeeper) {
 
 TEST_F(HostWindows, CentringOnTheParentOrTheWorkArea) {
     zkt::TestWindow form(320, 240);
-    HWND child = form.addChild(L"Static", 1, {0, 0, 100, 50}, SS_LEFT);
+    HWND child = form.AddChild(L"Static", 1, {0, 0, 100, 50}, SS_LEFT);
     ASSERT_EQ(HostWinCenter(child), 1);
     RECT r = RectInParent(child);
     EXPECT_EQ(r.left, 110);
     EXPECT_EQ(r.top, 95);
 
-    HWND lone = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 60, 40, nullptr, nullptr,
-                                GetModuleHandleW(nullptr), nullptr);
+    HWND lone = CreateWindowExW(0, L"Static", L"", WS_POPUP, 0, 0, 60, 40, nullptr, nullptr, GetModuleHandleW(nullptr),
+                                nullptr);
     ASSERT_EQ(HostWinCenter(lone), 1);
     MONITORINFO info{};
     RECT frame{};
@@ -192,7 +192,7 @@ TEST_F(HostWindows, CentringOnTheParentOrTheWorkArea) {
 
 TEST_F(HostWindows, RedrawOffStopsPaintingAndOnInvalidates) {
     zkt::TestWindow form;
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     ASSERT_EQ(HostWinSetRedraw(form, 0), 1);
     EXPECT_FALSE(IsWindowVisible(form)) << "WM_SETREDRAW FALSE hides the window from painting";
     ValidateRect(form, nullptr);
@@ -205,7 +205,7 @@ TEST_F(HostWindows, RedrawOffStopsPaintingAndOnInvalidates) {
 
 TEST_F(HostWindows, LocationAndSizeInFormUnitsComeBackToThePixel) {
     zkt::TestWindow form(400, 300);
-    HWND child = form.addChild(L"Static", 1, {0, 0, 10, 10}, SS_LEFT);
+    HWND child = form.AddChild(L"Static", 1, {0, 0, 10, 10}, SS_LEFT);
     for (int px = 0; px < 400; px += 37) {
         int py = 299 - px * 3 / 4;
         ASSERT_EQ(HostWinSetLocation(child, Units(form, px, 0), Units(form, py, 1)), 1);

@@ -18,7 +18,7 @@ constexpr WORD kModifierKeys[] = {VK_SHIFT, VK_CONTROL, VK_MENU};
 class Accelerators : public ::testing::Test {
 protected:
     void SetUp() override {
-        form.onMessage([this](HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
+        form.OnMessage([this](HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
             if (message == kFired) {
                 fired.push_back({window, static_cast<uint32_t>(lParam)});
                 return true;
@@ -42,7 +42,7 @@ protected:
     static void Focus(HWND window) {
         SetForegroundWindow(window);
         SetFocus(window);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
 
     ZelAccelHandle Load(HWND window, uint32_t modifiers, uint32_t value) {
@@ -76,7 +76,7 @@ protected:
                 Key(kModifierKeys[i], true);
         Key(kSentinel, false);
         Key(kSentinel, true);
-        ASSERT_TRUE(zkt::pumpUntil([&] { return sentinelSeen; }, 10000, 5000)) << "the input did not arrive";
+        ASSERT_TRUE(zkt::PumpUntil([&] { return sentinelSeen; }, 10000, 5000)) << "the input did not arrive";
     }
 
     struct Fired {
@@ -113,7 +113,7 @@ TEST_F(Accelerators, OtherModifiersAndBackgroundTargetsLetTheKeyThrough) {
 
     // The target behind another window of the application.
     zkt::TestWindow front(100, 50, L"in front");
-    HWND target = form.addButton(1, {10, 10, 60, 24}, L"child");
+    HWND target = form.AddButton(1, {10, 10, 60, 24}, L"child");
     ZelWinFreeAccelerator(loaded.back());
     loaded.pop_back();
     ASSERT_NE(Load(target, ACCEL_Control, 2), 0);
@@ -127,7 +127,7 @@ TEST_F(Accelerators, OtherModifiersAndBackgroundTargetsLetTheKeyThrough) {
         if (m.message == kFired)
             EXPECT_EQ(m.lParam, 2) << "the record's value";
     Focus(front);
-    front.onMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &) {
+    front.OnMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &) {
         if ((message == WM_KEYDOWN || message == WM_SYSKEYDOWN) && wParam == kKey)
             ++keysReached;
         if (message == WM_KEYUP && wParam == kSentinel)
@@ -168,7 +168,7 @@ TEST_F(Accelerators, FreeingTheLastRemovesTheHookAndLoadingInstallsItAgain) {
     EXPECT_EQ(fired[0].value, 8u);
 
     EXPECT_EQ(ZelWinLoadAccelerator(nullptr, kFired, 0, kKey, 1), 0);
-    HWND gone = form.addButton(2, {0, 0, 10, 10}, L"");
+    HWND gone = form.AddButton(2, {0, 0, 10, 10}, L"");
     DestroyWindow(gone);
     EXPECT_EQ(ZelWinLoadAccelerator(gone, kFired, 0, kKey, 1), 0);
 }
@@ -179,7 +179,7 @@ TEST_F(Accelerators, ARecordDoesNotFireIntoItselfWhileItSends) {
     // would through a message loop of its own.
     int nested = 0;
     LRESULT nestedResult = 0;
-    form.onMessage([&](HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
+    form.OnMessage([&](HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
         if (message == kFired) {
             fired.push_back({form.hwnd(), static_cast<uint32_t>(lParam)});
             if (++nested == 1)

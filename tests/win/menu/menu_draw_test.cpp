@@ -90,8 +90,7 @@ TEST_F(MenuDraw, PictureBackgroundTextAndTheTextAfterTheTab) {
         {"normal", ODA_DRAWENTIRE, 0, GetSysColor(COLOR_MENU), kRed, RGB(0, 0, 0)},
         // Selected by a draw of the whole item only: still the normal look.
         {"entire, selected", ODA_DRAWENTIRE, ODS_SELECTED, GetSysColor(COLOR_MENU), kRed, RGB(0, 0, 0)},
-        {"selected", ODA_SELECT, ODS_SELECTED, GetSysColor(COLOR_HIGHLIGHT), kGreen,
-         GetSysColor(COLOR_HIGHLIGHTTEXT)},
+        {"selected", ODA_SELECT, ODS_SELECTED, GetSysColor(COLOR_HIGHLIGHT), kGreen, GetSysColor(COLOR_HIGHLIGHTTEXT)},
         {"greyed", ODA_DRAWENTIRE, ODS_GRAYED, GetSysColor(COLOR_MENU), kRed, GetSysColor(COLOR_GRAYTEXT)},
     };
     for (const Case &c : cases) {
@@ -185,8 +184,15 @@ void Scenario(HWND frame, HMENU popup, ZelPicHandle red, ZelPicHandle green, HBI
     ZelMenuSetText(frame, popup, 0, L"&Renamed");
     ZelMenuDelete(frame, popup, 1);
     zkt::Bitmap canvas(200, 20);
-    DRAWITEMSTRUCT item{ODT_MENU, 0, 0, ODA_SELECT, ODS_SELECTED | ODS_CHECKED, reinterpret_cast<HWND>(popup),
-                        canvas.dc(), {0, 0, 200, 20}, reinterpret_cast<ULONG_PTR>(popup)};
+    DRAWITEMSTRUCT item{ODT_MENU,
+                        0,
+                        0,
+                        ODA_SELECT,
+                        ODS_SELECTED | ODS_CHECKED,
+                        reinterpret_cast<HWND>(popup),
+                        canvas.dc(),
+                        {0, 0, 200, 20},
+                        reinterpret_cast<ULONG_PTR>(popup)};
     CheckMenuItem(popup, 0, MF_BYPOSITION | MF_CHECKED);
     for (int i = 0; i < 5; ++i) {
         item.itemID = GetMenuItemID(popup, i);

@@ -81,8 +81,8 @@ TEST_F(MenuFrames, AFrameOfNeitherHostClassChecksThePlatformAndAnswersZero) {
     wc.lpszClassName = L"Marlo:AccFrame";
     RegisterClassW(&wc);
     const FrameMenu m = MakeFrameMenu();
-    HWND stranger = Keep(CreateWindowExW(0, wc.lpszClassName, L"stranger", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100,
-                                         nullptr, m.bar, wc.hInstance, nullptr));
+    HWND stranger = Keep(CreateWindowExW(0, wc.lpszClassName, L"stranger", WS_OVERLAPPEDWINDOW, 0, 0, 200, 100, nullptr,
+                                         m.bar, wc.hInstance, nullptr));
     ASSERT_TRUE(stranger);
     EXPECT_EQ(HostFrameKind(stranger), HOST_FRAME_None);
     EXPECT_EQ(ZelMenuCheck(m.file, kOpen), 0);
@@ -114,9 +114,9 @@ TEST_F(MenuFrames, TextsComeFromTheRecordTheStructureOrTheWindowsMenu) {
         int32_t selector;
         const wchar_t *text;
     } cases[] = {
-        {m.file, 0, L"&New\tCtrl+N"},   // the structure's text
-        {m.bar, 1, L"&Edit"},           // a popup, by its submenu
-        {m.edit, kUndo, L"&Undo"},      // the host's range
+        {m.file, 0, L"&New\tCtrl+N"},     // the structure's text
+        {m.bar, 1, L"&Edit"},             // a popup, by its submenu
+        {m.edit, kUndo, L"&Undo"},        // the host's range
         {m.window, 0xFF00, L"&1 Report"}, // no such item: the Windows menu lists the child
         {m.window, 0xFF01, L""},
     };
@@ -162,8 +162,8 @@ TEST_F(MenuFrames, SetTextReachesTheStructureAndRefreshesTheBarOrTheRibbon) {
 TEST_F(MenuFrames, EachWindowFindsTheFrameThatCarriesItsBlock) {
     const FrameMenu m = MakeFrameMenu();
     HWND frame = Frame(HOST_FRAME_Frame, m.bar);
-    HWND form = CreateWindowExW(0, L"Static", L"form", WS_CHILD | WS_VISIBLE, 0, 40, 100, 40, frame, nullptr,
-                                nullptr, nullptr);
+    HWND form =
+        CreateWindowExW(0, L"Static", L"form", WS_CHILD | WS_VISIBLE, 0, 40, 100, 40, frame, nullptr, nullptr, nullptr);
     // The form has no menu of its own: its frame's own menu stands in.
     EXPECT_EQ(ZelMenuGetHandle(form), m.bar);
     EXPECT_EQ(ZelMenuGetHandle(frame), m.bar);
@@ -172,8 +172,8 @@ TEST_F(MenuFrames, EachWindowFindsTheFrameThatCarriesItsBlock) {
     TakeLog(frame);
     const int32_t id = ZelMenuInsertPicture(form, m.edit, -1, pic, pic, L"&Paint");
     ASSERT_EQ(id, kHelp + 1);
-    EXPECT_EQ(TakeLog(frame), (Log{L"AttachMenu", L"InsertMenu(" + N(id) + L")",
-                                   L"SetMenuPicture(" + N(id) + L",bitmap)"}));
+    EXPECT_EQ(TakeLog(frame),
+              (Log{L"AttachMenu", L"InsertMenu(" + N(id) + L")", L"SetMenuPicture(" + N(id) + L",bitmap)"}));
     EXPECT_EQ(ZkHostFrameMenuPicture(frame, id), 1);
     // In a frame's tree the item stays a string: the frame shows the picture.
     EXPECT_EQ(GetMenuState(m.edit, static_cast<UINT>(id), MF_BYCOMMAND) & MF_OWNERDRAW, 0u);

@@ -114,7 +114,7 @@ ZelPicHandle MenuTest::Picture(COLORREF ink, int size) {
     const RECT square{2, 2, size - 2, size - 2};
     FillRect(image.dc(), &square, brush);
     DeleteObject(brush);
-    const std::vector<unsigned char> bytes = image.bmpBytes();
+    const std::vector<unsigned char> bytes = image.BmpBytes();
     const ZelPicHandle picture =
         ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap, reinterpret_cast<const wchar_t *>(bytes.data()), L"");
     EXPECT_NE(picture, 0);

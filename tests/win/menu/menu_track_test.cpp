@@ -43,7 +43,7 @@ bool Track(HWND owner, HMENU popup, std::vector<Key> keys, void (*during)() = nu
     KillTimer(nullptr, giveUp);
     if (soon)
         KillTimer(nullptr, soon);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     return !gaveUp;
 }
 
@@ -61,8 +61,8 @@ protected:
     void SetUp() override {
         MenuTest::SetUp();
         frame_ = Frame(HOST_FRAME_Frame, MakeFrameMenu().bar);
-        hostProc = reinterpret_cast<WNDPROC>(
-            SetWindowLongPtrW(frame_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Below)));
+        hostProc =
+            reinterpret_cast<WNDPROC>(SetWindowLongPtrW(frame_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(Below)));
         below.clear();
         popup_ = CreatePopupMenu();
         SetForegroundWindow(frame_);
@@ -85,7 +85,7 @@ TEST_F(MenuTrack, AMnemonicOfANegativeIdClosesTheMenuAndTellsTheFrame) {
     recorder.watch(frame_);
     ASSERT_TRUE(Track(frame_, popup_, {{WM_CHAR, 'u'}}));
     EXPECT_EQ(TakeLog(frame_), std::vector<std::wstring>{L"MenuCommand(-5)"});
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(), {{WM_MENUCHAR, zkt::sent}, {ZKM_MenuCommand, zkt::sent}}));
+    EXPECT_TRUE(zkt::MatchNamed(recorder.messages(), {{WM_MENUCHAR, zkt::sent}, {ZKM_MenuCommand, zkt::sent}}));
     EXPECT_EQ(recorder.count(WM_COMMAND), 0);
     // The subclass answered the key itself: the host never saw it.
     EXPECT_EQ(below, std::vector<UINT>{ZKM_MenuCommand});
@@ -103,10 +103,9 @@ TEST_F(MenuTrack, AMnemonicOfTheApplicationsItemChoosesItAndTheFrameHearsFirst) 
     EXPECT_EQ(TakeLog(frame_), std::vector<std::wstring>{L"MenuCommand(" + std::to_wstring(id) + L")"});
     // Position 1 executed; the command is posted, and the frame is told
     // (sent) before the procedure below the library gets the command.
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(),
-                                {{WM_MENUCHAR, zkt::sent},
-                                 {WM_COMMAND, zkt::posted | zkt::wparam, static_cast<WPARAM>(id)},
-                                 {ZKM_MenuCommand, zkt::sent | zkt::lparam, 0, id}}));
+    EXPECT_TRUE(zkt::MatchNamed(recorder.messages(), {{WM_MENUCHAR, zkt::sent},
+                                                      {WM_COMMAND, zkt::posted | zkt::wparam, static_cast<WPARAM>(id)},
+                                                      {ZKM_MenuCommand, zkt::sent | zkt::lparam, 0, id}}));
     EXPECT_EQ(below, (std::vector<UINT>{ZKM_MenuCommand, WM_COMMAND}));
 }
 

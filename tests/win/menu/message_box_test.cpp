@@ -60,14 +60,14 @@ TEST_F(MessageBoxes, TheOnlyButtonIsPressedByEsc) {
     zkt::DialogAnswerer answer(std::vector<int>{IDCANCEL});
     EXPECT_EQ(ZelMessageBox(L"Done.", L"Orders", 0, Row({maybe}), 1), 30);
     ASSERT_EQ(answer.answered(), 1);
-    EXPECT_TRUE(answer.dialogs()[0].hasControl(2));
+    EXPECT_TRUE(answer.dialogs()[0].HasControl(2));
 }
 
 TEST_F(MessageBoxes, LayoutDefaultButtonColourAndMenu) {
     const COLORREF colour = RGB(255, 250, 205);
     EXPECT_EQ(ZelMessageSetBkgdColor(colour), 1);
     zkt::DialogAnswerer answer(std::vector<int>{6});
-    answer.setInspector([&](HWND dialog) {
+    answer.SetInspector([&](HWND dialog) {
         EXPECT_EQ(GetFocus(), GetDlgItem(dialog, 4)) << "the handle + 1 is the default button";
         const RECT a = RectIn(dialog, 3), b = RectIn(dialog, 4), d = RectIn(dialog, 6);
         EXPECT_EQ(a.top, b.top);
@@ -105,7 +105,7 @@ TEST_F(MessageBoxes, LongTextsWrapWithinTheScreen) {
     for (int i = 0; i < 60; ++i)
         text += L"word" + std::to_wstring(i) + L" ";
     zkt::DialogAnswerer answer(std::vector<int>{2});
-    answer.setInspector([&](HWND dialog) {
+    answer.SetInspector([&](HWND dialog) {
         const RECT t = RectIn(dialog, 303);
         EXPECT_LE(t.right - t.left, GetSystemMetrics(SM_CXFULLSCREEN) * 65 / 100);
         EXPECT_GT(t.bottom - t.top, 2 * HIWORD(GetDialogBaseUnits())) << "more than one line";
@@ -138,7 +138,7 @@ TEST_F(MessageBoxes, APictureIcon) {
     const ZelPicHandle icon = ZelPicLoad(PIC_LoadModule | PIC_FormatIcon, L"ZKLIB.dll", L"ZK");
     ASSERT_NE(icon, 0);
     zkt::DialogAnswerer answer(std::vector<int>{2});
-    answer.setInspector([&](HWND dialog) {
+    answer.SetInspector([&](HWND dialog) {
         EXPECT_TRUE(IsWindowVisible(GetDlgItem(dialog, 302)));
         EXPECT_NE(SendMessageW(GetDlgItem(dialog, 302), STM_GETICON, 0, 0), 0);
     });

@@ -23,10 +23,10 @@ protected:
     }
 
     zkt::TestWindow form{320, 200, L"required fields"};
-    HWND edit = form.addEdit(1, {10, 10, 150, 22});
-    HWND list = form.addListBox(2, {10, 40, 150, 60});
-    HWND combo = form.addComboBox(3, {10, 110, 150, 120});
-    HWND ok = form.addButton(IDOK, {200, 10, 80, 24}, L"OK");
+    HWND edit = form.AddEdit(1, {10, 10, 150, 22});
+    HWND list = form.AddListBox(2, {10, 40, 150, 60});
+    HWND combo = form.AddComboBox(3, {10, 110, 150, 120});
+    HWND ok = form.AddButton(IDOK, {200, 10, 80, 24}, L"OK");
 };
 
 TEST_F(RequiredForm, TheDefaultButtonFollowsTheChangeNotifications) {
@@ -56,7 +56,7 @@ TEST_F(RequiredForm, TheDefaultButtonFollowsTheChangeNotifications) {
 }
 
 TEST_F(RequiredForm, AnEditableComboIsFilledByItsText) {
-    HWND typed = form.addComboBox(4, {170, 110, 120, 120}, CBS_DROPDOWN);
+    HWND typed = form.AddComboBox(4, {170, 110, 120, 120}, CBS_DROPDOWN);
     ASSERT_EQ(ZelWinSetFlags(typed, WF_Required, 1), 1);
     Type(edit, L"a");
     Click(list);
@@ -71,12 +71,12 @@ TEST_F(RequiredForm, AnEditableComboIsFilledByItsText) {
 
 TEST_F(RequiredForm, FramesAreSearchedAndTheirButtonsFollow) {
     // A frame of the host: its children belong to the form.
-    HWND frame = form.addChild(L"Static", 5, {170, 50, 140, 100}, 0);
+    HWND frame = form.AddChild(L"Static", 5, {170, 50, 140, 100}, 0);
     ZkHostSetWinType(frame, HOST_WT_FRAME, HOST_WC_CONTAINER);
     HWND inner = CreateWindowExW(0, L"Edit", L"", WS_CHILD | WS_VISIBLE, 5, 5, 100, 22, frame, nullptr,
                                  GetModuleHandleW(nullptr), nullptr);
-    HWND innerButton = CreateWindowExW(0, L"Button", L"Go", WS_CHILD | WS_VISIBLE, 5, 40, 60, 24, frame,
-                                       nullptr, GetModuleHandleW(nullptr), nullptr);
+    HWND innerButton = CreateWindowExW(0, L"Button", L"Go", WS_CHILD | WS_VISIBLE, 5, 40, 60, 24, frame, nullptr,
+                                       GetModuleHandleW(nullptr), nullptr);
     ASSERT_EQ(ZelWinSetFlags(inner, WF_Required, 1), 1);
     ASSERT_EQ(ZelWinSetFlags(innerButton, WF_RequiredButton, 1), 1);
     Type(edit, L"a");
@@ -95,7 +95,7 @@ TEST_F(RequiredForm, FramesAreSearchedAndTheirButtonsFollow) {
 
 TEST(WindowFlags, FlagsAreKeptPerField) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {10, 10, 100, 22});
+    HWND edit = form.AddEdit(1, {10, 10, 100, 22});
     EXPECT_EQ(ZelWinGetFlags(edit), 0) << "no flags yet";
     EXPECT_EQ(ZelWinSetFlags(edit, WF_Required, 1), 1);
     EXPECT_EQ(ZelWinGetFlags(edit), WF_Required);
@@ -113,15 +113,15 @@ TEST(WindowFlags, FlagsAreKeptPerField) {
 
 TEST(WindowFlags, ClearAllFieldsByType) {
     zkt::TestWindow form(400, 300);
-    HWND edit = form.addEdit(1, {10, 10, 100, 22}, ES_AUTOHSCROLL, L"text");
-    HWND memo = form.addEdit(2, {10, 40, 100, 40}, ES_MULTILINE, L"lines");
-    HWND kept = form.addEdit(3, {10, 90, 100, 22}, ES_AUTOHSCROLL, L"kept");
-    HWND list = form.addListBox(4, {120, 10, 100, 60});
-    HWND combo = form.addComboBox(5, {120, 80, 100, 100}, CBS_DROPDOWN);
-    HWND check = form.addButton(6, {230, 10, 100, 20}, L"check", BS_AUTOCHECKBOX);
-    HWND radio = form.addButton(7, {230, 40, 100, 20}, L"radio", BS_AUTORADIOBUTTON);
-    HWND picture = form.addChild(L"Static", 8, {230, 70, 100, 20}, 0, L"picture");
-    HWND button = form.addButton(9, {230, 100, 100, 24}, L"button");
+    HWND edit = form.AddEdit(1, {10, 10, 100, 22}, ES_AUTOHSCROLL, L"text");
+    HWND memo = form.AddEdit(2, {10, 40, 100, 40}, ES_MULTILINE, L"lines");
+    HWND kept = form.AddEdit(3, {10, 90, 100, 22}, ES_AUTOHSCROLL, L"kept");
+    HWND list = form.AddListBox(4, {120, 10, 100, 60});
+    HWND combo = form.AddComboBox(5, {120, 80, 100, 100}, CBS_DROPDOWN);
+    HWND check = form.AddButton(6, {230, 10, 100, 20}, L"check", BS_AUTOCHECKBOX);
+    HWND radio = form.AddButton(7, {230, 40, 100, 20}, L"radio", BS_AUTORADIOBUTTON);
+    HWND picture = form.AddChild(L"Static", 8, {230, 70, 100, 20}, 0, L"picture");
+    HWND button = form.AddButton(9, {230, 100, 100, 24}, L"button");
     ZkHostSetWinType(picture, HOST_WT_PICTURE, 0);
     Fill(list, LB_ADDSTRING, {L"a", L"b"});
     Fill(combo, CB_ADDSTRING, {L"a", L"b"});
@@ -148,8 +148,8 @@ TEST(WindowFlags, ClearAllFieldsByType) {
 
 TEST(WindowFlags, EditFlagsAreClearedUnlessTheFormSaysNo) {
     zkt::TestWindow form;
-    HWND edits[] = {form.addEdit(1, {10, 10, 100, 22}), form.addEdit(2, {10, 40, 100, 40}, ES_MULTILINE)};
-    HWND list = form.addListBox(3, {120, 10, 100, 60});
+    HWND edits[] = {form.AddEdit(1, {10, 10, 100, 22}), form.AddEdit(2, {10, 40, 100, 40}, ES_MULTILINE)};
+    HWND list = form.AddListBox(3, {120, 10, 100, 60});
     const auto modified = [&] {
         for (HWND e : edits)
             SendMessageW(e, EM_SETMODIFY, TRUE, 0);
@@ -172,8 +172,8 @@ TEST(WindowFlags, EditFlagsAreClearedUnlessTheFormSaysNo) {
 
 TEST(WindowFlags, ReadOnlyFields) {
     zkt::TestWindow form;
-    HWND check = form.addButton(1, {10, 10, 100, 20}, L"check", BS_AUTOCHECKBOX | WS_TABSTOP);
-    HWND edit = form.addEdit(2, {10, 40, 100, 22}, WS_TABSTOP, L"some text");
+    HWND check = form.AddButton(1, {10, 10, 100, 20}, L"check", BS_AUTOCHECKBOX | WS_TABSTOP);
+    HWND edit = form.AddEdit(2, {10, 40, 100, 22}, WS_TABSTOP, L"some text");
 
     ASSERT_EQ(ZelWinSetFlags(check, WF_ReadOnly, 1), 1);
     EXPECT_EQ(GetWindowLongW(check, GWL_STYLE) & WS_TABSTOP, 0);
@@ -197,7 +197,7 @@ TEST(WindowFlags, ReadOnlyFields) {
 
 TEST(WindowFlags, PathsAreShortenedToTheFieldsWidth) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {10, 10, 160, 22});
+    HWND edit = form.AddEdit(1, {10, 10, 160, 22});
     ASSERT_EQ(ZelWinSetFlags(edit, WF_ShortenPath, 1), 1);
     static const wchar_t kPath[] = L"C:\\Program Files\\Zelkova Kit\\Examples\\Forms\\Orders\\orders.frm";
     wchar_t given[std::size(kPath)];

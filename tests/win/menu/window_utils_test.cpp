@@ -18,7 +18,7 @@ std::wstring HostText(HostStr handle) {
 class FramedForm : public ::testing::Test {
 protected:
     void SetUp() override {
-        form = frame.addChild(L"Static", 1, {0, 0, 300, 200}, 0, L"the form itself");
+        form = frame.AddChild(L"Static", 1, {0, 0, 300, 200}, 0, L"the form itself");
         ZkHostSetWinType(form, HOST_WT_FORM, 0);
     }
     zkt::TestWindow frame{320, 240, L"Orders"};
@@ -79,9 +79,9 @@ TEST_F(FramedForm, ATableIsShownThroughItsHolder) {
 
 TEST(WindowUtils, ChildrenAreFoundByTheirCaptionWithoutItsMnemonic) {
     zkt::TestWindow form;
-    HWND open = form.addButton(1, {10, 10, 80, 24}, L"&Open");
-    HWND check = form.addButton(2, {10, 40, 80, 24}, L"Op&en", BS_AUTOCHECKBOX);
-    HWND both = form.addButton(3, {10, 70, 80, 24}, L"Save && &Close");
+    HWND open = form.AddButton(1, {10, 10, 80, 24}, L"&Open");
+    HWND check = form.AddButton(2, {10, 40, 80, 24}, L"Op&en", BS_AUTOCHECKBOX);
+    HWND both = form.AddButton(3, {10, 70, 80, 24}, L"Save && &Close");
     EXPECT_EQ(ZelWinGetHandle(form, L"open", 0x7FFFFFFF), FirstInZOrder(form, {open, check}));
     EXPECT_EQ(ZelWinGetHandle(form, L"OPEN", HOST_WT_CHECKBOX), check);
     EXPECT_EQ(ZelWinGetHandle(form, L"save & &close", 0x7FFFFFFF), both) << "only the first & goes";
@@ -93,9 +93,9 @@ TEST(WindowUtils, ChildrenAreFoundByTheirCaptionWithoutItsMnemonic) {
 
 TEST(WindowUtils, SelectionTabOrderAndStyle) {
     zkt::TestWindow form;
-    HWND edit = form.addEdit(1, {10, 10, 100, 22}, WS_TABSTOP, L"abcdef");
-    HWND combo = form.addComboBox(2, {10, 40, 100, 100}, CBS_DROPDOWN);
-    HWND button = form.addButton(3, {10, 80, 80, 24}, L"button", WS_TABSTOP);
+    HWND edit = form.AddEdit(1, {10, 10, 100, 22}, WS_TABSTOP, L"abcdef");
+    HWND combo = form.AddComboBox(2, {10, 40, 100, 100}, CBS_DROPDOWN);
+    HWND button = form.AddButton(3, {10, 80, 80, 24}, L"button", WS_TABSTOP);
     SetWindowTextW(combo, L"uvwxyz");
 
     DWORD start = 0, end = 0;

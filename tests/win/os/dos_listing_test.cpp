@@ -140,8 +140,8 @@ TEST_F(Listing, SizesLow32BitsAndCreationDatesToTwoSeconds) {
         HostDateTime date; // the odd second goes; before 1980 there is no DOS form
     } expected[] = {{7, Date(2107, 12, 31, 23, 59, 58)}, {0, HostDateTime{}}, {12345, Date(2021, 7, 4, 10, 20, 30)}};
 
-    const HostArray names = Array(HOST_TYPE_STRING), sizes = Array(HOST_TYPE_NUMBER),
-                    dates = Array(HOST_TYPE_DATETIME), attributes = Array(HOST_TYPE_NUMBER);
+    const HostArray names = Array(HOST_TYPE_STRING), sizes = Array(HOST_TYPE_NUMBER), dates = Array(HOST_TYPE_DATETIME),
+                    attributes = Array(HOST_TYPE_NUMBER);
     ASSERT_EQ(3, ZelDosEnumFileInfo(Pattern(L"*.bin").c_str(), 0, names, sizes, dates, attributes));
     const Texts listed = TextsOf(names);
     const std::vector<HostNumber> sizeRecords = RecordsOf(sizes, HOST_TYPE_NUMBER),

@@ -13,7 +13,9 @@ namespace filestest {
 
 std::string SzddCompress(const std::string &data, char missing) {
     constexpr size_t kRing = 4096, kStart = kRing - 16, kMin = 3, kMax = 18, kWindow = kRing - kMax - 2;
-    std::string out("SZDD\x88\xF0\x27\x33" "A", 9);
+    std::string out("SZDD\x88\xF0\x27\x33"
+                    "A",
+                    9);
     out += missing;
     for (int shift = 0; shift < 32; shift += 8)
         out += static_cast<char>((data.size() >> shift) & 0xFF);
@@ -30,7 +32,8 @@ std::string SzddCompress(const std::string &data, char missing) {
     std::vector<size_t> last(1 << 12, SIZE_MAX);
     auto hash = [&](size_t i) {
         return ((static_cast<unsigned char>(data[i]) << 4) ^ (static_cast<unsigned char>(data[i + 1]) << 2) ^
-                static_cast<unsigned char>(data[i + 2])) & 0xFFF;
+                static_cast<unsigned char>(data[i + 2])) &
+               0xFFF;
     };
     size_t i = 0;
     while (i < data.size()) {

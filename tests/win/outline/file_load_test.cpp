@@ -10,8 +10,12 @@ using namespace ofiletest;
 Bytes Golden() {
     return Spell{}
         .header(kOutlineStyle | LBX_StyleKeepTextColor, 6, 0, 1, 1, 5)
-        .u16(0x0201).wide(L"ZKLIB.dll").wide(L"minusdk")
-        .u16(12).u16(FONT_Bold | FONT_Italic).wide(L"Tahoma")
+        .u16(0x0201)
+        .wide(L"ZKLIB.dll")
+        .wide(L"minusdk")
+        .u16(12)
+        .u16(FONT_Bold | FONT_Italic)
+        .wide(L"Tahoma")
         .item(-1, -1, -1, -1, 0, 0x00000005, 77, L"")
         .item(0, 0, 5, 0, 0x123456, 0x00000002, 10, L"Alpha")
         .item(1, -1, 0, -1, 0, 0, 11, L"Beta")
@@ -114,7 +118,7 @@ TEST_F(LoadTest, AStreamThatDoesNotReadWholeLeavesTheListAsItWas) {
     untouched("magic", 0);
     EXPECT_EQ(ZelListLoadOutline(list, 0), 0);
     HostStr carrier = Carry(golden);
-    HWND gone = form.addListBox(105, {0, 0, 10, 10}, kListStyle);
+    HWND gone = form.AddListBox(105, {0, 0, 10, 10}, kListStyle);
     DestroyWindow(gone);
     EXPECT_EQ(ZelListLoadOutline(gone, carrier), 0);
     ZkHostStrRelease(carrier);
@@ -136,9 +140,13 @@ TEST_F(LoadTest, NoItemsEmptiesTheListAndKeepsTheRegistries) {
 TEST_F(LoadTest, APictureThatWillNotLoadFailsTheWholeLoadWithTheListEmpty) {
     ASSERT_NE(Load(list, Golden()), 0);
     const ZelPicHandle old = reinterpret_cast<ZelPicHandle>(PicAt(PicRegistry(list), 0));
-    const Bytes missing = Spell{}.header(kOutlineStyle, 8, 0, 1, 0, 1)
-                              .u16(PIC_LoadFile).wide(L"Z:\\no\\such\\file.bmp").wide(L"")
-                              .item(0, 0, 0, -1, 0, 0, 0, L"x").b;
+    const Bytes missing = Spell{}
+                              .header(kOutlineStyle, 8, 0, 1, 0, 1)
+                              .u16(PIC_LoadFile)
+                              .wide(L"Z:\\no\\such\\file.bmp")
+                              .wide(L"")
+                              .item(0, 0, 0, -1, 0, 0, 0, L"x")
+                              .b;
     EXPECT_EQ(Load(list, missing), 0);
     EXPECT_EQ(Node(Root())->firstChild, nullptr);
     EXPECT_EQ(Rows(list), 0);

@@ -22,7 +22,8 @@ std::string Content(ZelItemHandle root) {
             n = n->firstChild;
             continue;
         }
-        while (n != Node(root) && !n->next) n = n->parent;
+        while (n != Node(root) && !n->next)
+            n = n->parent;
         n = n == Node(root) ? nullptr : n->next;
     }
     return out;
@@ -42,7 +43,8 @@ TEST_F(RoundTripTest, ALoadedOutlineSavesToTheBytesItCameFrom) {
         ZelListSetItemColor(top, RGB(i * 40, 0, 255 - i * 40));
         for (int j = 0; j < 4; ++j) {
             const ZelItemHandle mid = Child(top, L"mid", 100 * i + j, j == 2 ? LBX_ItemHidden : 0, minus, 0);
-            if (j == 1) ZelListSetItemFont(mid, big);
+            if (j == 1)
+                ZelListSetItemFont(mid, big);
             for (int k = 0; k < j; ++k)
                 Child(mid, std::wstring(k == 0 ? 300 : 3, static_cast<wchar_t>(L'a' + k)).c_str(), k);
         }
@@ -77,8 +79,8 @@ TEST_F(RoundTripTest, ALoadedOutlineSavesToTheBytesItCameFrom) {
 }
 
 TEST_F(RoundTripTest, AComboBoxRoundTripsToo) {
-    HWND combo = form.addComboBox(103, {10, 200, 200, 150}, kComboStyle);
-    HWND combo2 = form.addComboBox(104, {220, 200, 200, 150}, kComboStyle);
+    HWND combo = form.AddComboBox(103, {10, 200, 200, 150}, kComboStyle);
+    HWND combo2 = form.AddComboBox(104, {220, 200, 200, 150}, kComboStyle);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOutline, nullptr), 1);
     ASSERT_EQ(ZelListSetStyle(combo2, LBX_StyleOutline, nullptr), 1);
     const ZelItemHandle a = Child(Root(combo), L"a", 1, 0, 0, 0, combo);

@@ -22,17 +22,22 @@ TEST_F(SaveTest, WritesTheOutlineByteForByte) {
     ASSERT_EQ(ZelListSetItemColor(a, 0x0000FF), 1);
     ASSERT_EQ(ZelListSetItemFont(Child(a, L"B", 2, 0, plus, 0), bold), 1);
     Child(Root(), L"C", 3);
-    const Bytes expected =
-        Spell{}
-            .header(kOutlineStyle, 8, 0, 1, 2, 4)
-            .u16(0x0201).wide(L"ZKLIB.dll").wide(L"plusdk") // at offset 26
-            .u16(10).u16(0).wide(L"Tahoma")                 // the control's font comes first
-            .u16(12).u16(8).wide(L"Tahoma")
-            .item(-1, -1, -1, -1, 0, 0x40100000, 0, L"")       // root: has children, closed
-            .item(0, 0, 0, -1, 0x0000FF, 0x40180001, 1, L"A")  // first at level 0, a parent
-            .item(1, 0, -1, 1, 0, 0x00090000, 2, L"B")         // an only child as first of several
-            .item(0, -1, -1, -1, 0, 0x00060000, 3, L"C")       // last at level 0
-            .b;
+    const Bytes expected = Spell{}
+                               .header(kOutlineStyle, 8, 0, 1, 2, 4)
+                               .u16(0x0201)
+                               .wide(L"ZKLIB.dll")
+                               .wide(L"plusdk") // at offset 26
+                               .u16(10)
+                               .u16(0)
+                               .wide(L"Tahoma") // the control's font comes first
+                               .u16(12)
+                               .u16(8)
+                               .wide(L"Tahoma")
+                               .item(-1, -1, -1, -1, 0, 0x40100000, 0, L"")      // root: has children, closed
+                               .item(0, 0, 0, -1, 0x0000FF, 0x40180001, 1, L"A") // first at level 0, a parent
+                               .item(1, 0, -1, 1, 0, 0x00090000, 2, L"B")        // an only child as first of several
+                               .item(0, -1, -1, -1, 0, 0x00060000, 3, L"C")      // last at level 0
+                               .b;
     EXPECT_EQ(Save(list), expected);
     // The registries stay, so a second save is the same.
     ASSERT_NE(PicRegistry(list), nullptr);
@@ -41,7 +46,8 @@ TEST_F(SaveTest, WritesTheOutlineByteForByte) {
 }
 
 TEST_F(SaveTest, TheTopRowIsSavedAndLoadedForAListBoxAndZeroForACombo) {
-    for (int i = 0; i < 30; ++i) Child(Root(), L"row", i);
+    for (int i = 0; i < 30; ++i)
+        Child(Root(), L"row", i);
     ASSERT_EQ(ZelListShowOutline(list, 32767), 1);
     SendMessageW(list, LB_SETTOPINDEX, 12, 0);
     const Bytes bytes = Save(list);
@@ -50,9 +56,10 @@ TEST_F(SaveTest, TheTopRowIsSavedAndLoadedForAListBoxAndZeroForACombo) {
     ASSERT_NE(Load(other, bytes), 0);
     EXPECT_EQ(SendMessageW(other, LB_GETTOPINDEX, 0, 0), 12);
 
-    HWND combo = form.addComboBox(103, {10, 200, 200, 150}, kComboStyle);
+    HWND combo = form.AddComboBox(103, {10, 200, 200, 150}, kComboStyle);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOutline, nullptr), 1);
-    for (int i = 0; i < 30; ++i) Child(Root(combo), L"row", i, 0, 0, 0, combo);
+    for (int i = 0; i < 30; ++i)
+        Child(Root(combo), L"row", i, 0, 0, 0, combo);
     ASSERT_EQ(ZelListShowOutline(combo, 32767), 1);
     const Bytes comboBytes = Save(combo);
     ASSERT_GE(comboBytes.size(), 26u);
@@ -62,7 +69,7 @@ TEST_F(SaveTest, TheTopRowIsSavedAndLoadedForAListBoxAndZeroForACombo) {
 
 TEST_F(SaveTest, FailuresGiveTheirCodes) {
     HostStr out = 0;
-    HWND plain = form.addListBox(104, {10, 200, 100, 100}, kListStyle);
+    HWND plain = form.AddListBox(104, {10, 200, 100, 100}, kListStyle);
     EXPECT_EQ(ZelListSaveOutline(plain, &out), ZEL_INVALID_PARAMETER);
     EXPECT_EQ(ZelListSaveOutline(nullptr, &out), ZEL_INVALID_PARAMETER);
     EXPECT_EQ(out, 0u);

@@ -31,17 +31,22 @@ constexpr uint32_t kOutlineStyle = LBX_StyleOutline | LBX_StyleTextSelect | LBX_
 // Little-endian pieces of a stream.
 struct Spell {
     Bytes b;
-    Spell &u8(uint8_t v) { b.push_back(v); return *this; }
+    Spell &u8(uint8_t v) {
+        b.push_back(v);
+        return *this;
+    }
     Spell &u16(uint16_t v) { return u8(v & 0xFF).u8(v >> 8); }
     Spell &u32(uint32_t v) { return u16(v & 0xFFFF).u16(v >> 16); }
     Spell &wide(std::wstring_view s) {
         u8(0xFF).u16(0xFFFE).u8(static_cast<uint8_t>(s.size()));
-        for (wchar_t c : s) u16(static_cast<uint16_t>(c));
+        for (wchar_t c : s)
+            u16(static_cast<uint16_t>(c));
         return *this;
     }
     Spell &narrow(std::string_view s) {
         u8(static_cast<uint8_t>(s.size()));
-        for (char c : s) u8(static_cast<uint8_t>(c));
+        for (char c : s)
+            u8(static_cast<uint8_t>(c));
         return *this;
     }
     Spell &header(uint32_t style, uint32_t indent, int32_t top, uint32_t pics, uint32_t fonts, uint32_t items) {
@@ -50,8 +55,8 @@ struct Spell {
     // level, normal, selected, font, colour, flags, value, then the text.
     Spell &item(int32_t level, int32_t normal, int32_t selected, int32_t font, uint32_t colour, uint32_t flags,
                 int32_t value, std::wstring_view text) {
-        for (uint32_t v : {uint32_t(level), uint32_t(normal), uint32_t(selected), uint32_t(font), colour, flags,
-                           uint32_t(value)})
+        for (uint32_t v :
+             {uint32_t(level), uint32_t(normal), uint32_t(selected), uint32_t(font), colour, flags, uint32_t(value)})
             u32(v);
         return wide(text);
     }
@@ -64,7 +69,8 @@ inline HostStr Carry(const Bytes &bytes) {
         return 0;
     int32_t size = 0;
     auto *buffer = reinterpret_cast<uint8_t *>(HostStrLock(handle, &size));
-    if (!bytes.empty()) std::memcpy(buffer, bytes.data(), bytes.size());
+    if (!bytes.empty())
+        std::memcpy(buffer, bytes.data(), bytes.size());
     buffer[bytes.size()] = 0;
     return handle;
 }
@@ -88,7 +94,8 @@ inline std::string Describe(ZelItemHandle root) {
             n = n->firstChild;
             continue;
         }
-        while (n != stop && !n->next) n = n->parent;
+        while (n != stop && !n->next)
+            n = n->parent;
         n = n == stop ? nullptr : n->next;
     }
     return out;
@@ -98,7 +105,8 @@ inline int32_t Indent(HWND window) {
     HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
     const auto *record = handle ? static_cast<const LbxChild *>(LocalLock(handle)) : nullptr;
     const int32_t indent = record ? record->indent : -1;
-    if (record) LocalUnlock(handle);
+    if (record)
+        LocalUnlock(handle);
     return indent;
 }
 
@@ -113,8 +121,8 @@ struct FileFixture : ::testing::Test {
     HWND other = nullptr;
 
     void SetUp() override {
-        list = form.addListBox(101, {10, 10, 200, 150}, kListStyle);
-        other = form.addListBox(102, {220, 10, 200, 150}, kListStyle);
+        list = form.AddListBox(101, {10, 10, 200, 150}, kListStyle);
+        other = form.AddListBox(102, {220, 10, 200, 150}, kListStyle);
         ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOutline, nullptr), 1);
         ASSERT_EQ(ZelListSetStyle(other, LBX_StyleOutline, nullptr), 1);
     }

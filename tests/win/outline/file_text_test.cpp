@@ -18,7 +18,8 @@ struct TextFileTest : FileFixture {
 
     ZelItemHandle LoadText(const std::string &bytes, ZelPicHandle pn = 0, ZelPicHandle ps = 0, ZelPicHandle ln = 0,
                            ZelPicHandle ls = 0, HWND w = nullptr) {
-        HANDLE file = CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
+        HANDLE file =
+            CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
         EXPECT_NE(file, INVALID_HANDLE_VALUE);
         DWORD written = 0;
         WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
@@ -75,13 +76,14 @@ TEST_F(TextFileTest, AFileThatCannotBeReadWholeChangesNothing) {
     EXPECT_EQ(LoadText(std::string(65534, 'x')), 0);
     untouched("65534 bytes");
     std::string deep;
-    for (int level = 0; level <= 256; ++level) deep += std::string(static_cast<size_t>(level), ' ') + "n\r\n";
+    for (int level = 0; level <= 256; ++level)
+        deep += std::string(static_cast<size_t>(level), ' ') + "n\r\n";
     EXPECT_EQ(LoadText(deep), 0);
     untouched("257 levels");
     EXPECT_EQ(ZelListLoadOutlineFile(list, L"Z:\\no\\such\\outline.txt", 0, 0, 0, 0), 0);
     EXPECT_EQ(ZelListLoadOutlineFile(list, nullptr, 0, 0, 0, 0), 0);
     untouched("no file");
-    EXPECT_EQ(LoadText("A\r\n", 0, 0, 0, 0, form.addListBox(106, {0, 0, 10, 10}, kListStyle)), 0); // not adopted
+    EXPECT_EQ(LoadText("A\r\n", 0, 0, 0, 0, form.AddListBox(106, {0, 0, 10, 10}, kListStyle)), 0); // not adopted
     // The largest file allowed loads.
     ASSERT_NE(LoadText(std::string(65533, 'y')), 0);
     EXPECT_EQ(NodeText(Node(Root())->firstChild), std::wstring(65533, L'y'));

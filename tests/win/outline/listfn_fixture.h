@@ -32,18 +32,18 @@ inline HWND MakeList(zkt::TestWindow &form, Kind kind, DWORD listStyle = 0) {
     HWND w = nullptr;
     switch (kind) {
     case Kind::PlainList:
-        w = form.addListBox(101, {10, 10, 200, 200}, LBS_NOTIFY | WS_VSCROLL | WS_BORDER | listStyle);
+        w = form.AddListBox(101, {10, 10, 200, 200}, LBS_NOTIFY | WS_VSCROLL | WS_BORDER | listStyle);
         break;
     case Kind::PlainCombo:
-        w = form.addComboBox(102, {220, 10, 150, 200}, CBS_DROPDOWNLIST | WS_VSCROLL);
+        w = form.AddComboBox(102, {220, 10, 150, 200}, CBS_DROPDOWNLIST | WS_VSCROLL);
         break;
     case Kind::AdoptedList:
-        w = form.addListBox(103, {10, 10, 200, 200},
+        w = form.AddListBox(103, {10, 10, 200, 200},
                             LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE | listStyle);
         EXPECT_EQ(ZelListSetStyle(w, LBX_StyleOwnerDraw, nullptr), 1);
         break;
     case Kind::AdoptedCombo:
-        w = form.addComboBox(104, {220, 10, 150, 200}, CBS_DROPDOWN | WS_VSCROLL | CBS_OWNERDRAWVARIABLE);
+        w = form.AddComboBox(104, {220, 10, 150, 200}, CBS_DROPDOWN | WS_VSCROLL | CBS_OWNERDRAWVARIABLE);
         EXPECT_EQ(ZelListSetStyle(w, LBX_StyleOwnerDraw, nullptr), 1);
         break;
     }
@@ -59,7 +59,8 @@ inline std::wstring Take(HostStr s) {
 }
 
 inline void Fill(HWND list, int rows) {
-    for (int i = 0; i < rows; ++i) ZelListAddValue(list, std::to_wstring(i).c_str(), i);
+    for (int i = 0; i < rows; ++i)
+        ZelListAddValue(list, std::to_wstring(i).c_str(), i);
 }
 
 struct AnyList : ::testing::TestWithParam<Kind> {
@@ -70,26 +71,28 @@ struct AnyList : ::testing::TestWithParam<Kind> {
 
     void SetUp() override { list = MakeList(form, kind); }
     void Add(std::initializer_list<std::pair<const wchar_t *, int32_t>> rows) {
-        for (const auto &[text, value] : rows) ASSERT_GE(ZelListAddValue(list, text, value), 0);
+        for (const auto &[text, value] : rows)
+            ASSERT_GE(ZelListAddValue(list, text, value), 0);
     }
     int Count() { return static_cast<int>(SendMessageW(list, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0)); }
     std::vector<std::wstring> RowTexts() {
         std::vector<std::wstring> out;
-        for (int i = 0; i < Count(); ++i) out.push_back(Take(ZelListGetText(list, i)));
+        for (int i = 0; i < Count(); ++i)
+            out.push_back(Take(ZelListGetText(list, i)));
         return out;
     }
     std::vector<int32_t> RowValues() {
         std::vector<int32_t> out;
-        for (int i = 0; i < Count(); ++i) out.push_back(ZelListGetValue(list, i));
+        for (int i = 0; i < Count(); ++i)
+            out.push_back(ZelListGetValue(list, i));
         return out;
     }
     int CurSel() { return static_cast<int>(SendMessageW(list, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0)); }
 };
 
-#define LISTFN_ALL_KINDS(suite)                                                                            \
-    INSTANTIATE_TEST_SUITE_P(Kinds, suite,                                                                 \
-                             ::testing::Values(Kind::PlainList, Kind::PlainCombo, Kind::AdoptedList,       \
-                                               Kind::AdoptedCombo),                                        \
-                             [](const ::testing::TestParamInfo<Kind> &i) { return KindName(i.param); })
+#define LISTFN_ALL_KINDS(suite)                                                                                        \
+    INSTANTIATE_TEST_SUITE_P(                                                                                          \
+        Kinds, suite, ::testing::Values(Kind::PlainList, Kind::PlainCombo, Kind::AdoptedList, Kind::AdoptedCombo),     \
+        [](const ::testing::TestParamInfo<Kind> &i) { return KindName(i.param); })
 
 } // namespace listfntest

@@ -19,10 +19,12 @@ TEST_P(MultiSelect, DeleteSelectedTakesExactlyTheSelectedRows) {
     Fill(list, 7);
     EXPECT_EQ(ZelListIsMultiSelect(list), 1);
     EXPECT_EQ(ZelListDeleteSelected(list), 0) << "nothing selected";
-    for (int row : {5, 1, 3}) SendMessageW(list, LB_SETSEL, TRUE, row);
+    for (int row : {5, 1, 3})
+        SendMessageW(list, LB_SETSEL, TRUE, row);
     EXPECT_EQ(ZelListDeleteSelected(list), 3);
     std::wstring texts;
-    for (int i = 0; i < 4; ++i) texts += Take(ZelListGetText(list, i));
+    for (int i = 0; i < 4; ++i)
+        texts += Take(ZelListGetText(list, i));
     EXPECT_EQ(texts, L"0246");
     SendMessageW(list, LB_SETSEL, TRUE, 0);
     SendMessageW(list, LB_SETSEL, TRUE, 3);
@@ -30,7 +32,8 @@ TEST_P(MultiSelect, DeleteSelectedTakesExactlyTheSelectedRows) {
     EXPECT_EQ(SendMessageW(list, LB_GETSELCOUNT, 0, 0), 0);
     // In a plain simple multi-select list the focus moves the caret only, and
     // each row keeps its selection under a new text.
-    if (GetParam() != std::pair{Kind::PlainList, DWORD(LBS_MULTIPLESEL)}) return;
+    if (GetParam() != std::pair{Kind::PlainList, DWORD(LBS_MULTIPLESEL)})
+        return;
     SendMessageW(list, LB_SETSEL, TRUE, 1);
     EXPECT_EQ(ZelListSetFocusIndex(list, 3), 0);
     EXPECT_EQ(ZelListGetFocusIndex(list), 3);
@@ -55,7 +58,8 @@ TEST_P(SingleSelect, DeleteClearAndFocusOnTheCurrentRow) {
     EXPECT_EQ(ZelListClearSelection(list), 1);
     EXPECT_EQ(CurSel(), -1);
     EXPECT_EQ(ZelListSetFocusIndex(list, 9), -1);
-    if (!combo) return;
+    if (!combo)
+        return;
     EXPECT_EQ(ZelListGetIndexFromPoint(list, 1, 1), -1) << "a combo box has no row under a point";
     EXPECT_EQ(ZelListGetDropdownState(list), 0);
     EXPECT_EQ(ZelListSetDropdownState(list, 1), 1);
@@ -72,7 +76,7 @@ TEST_P(Scrolled, ScrollAndTheRowUnderAPoint) {
     zkt::TestWindow form{400, 300};
     HWND list = MakeList(form, GetParam());
     Fill(list, 50);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     const int h = static_cast<int>(SendMessageW(list, LB_GETITEMHEIGHT, 0, 0));
     ASSERT_GT(h, 0);
     EXPECT_EQ(ZelListScroll(list, 10), 1);
@@ -98,7 +102,8 @@ constexpr int32_t kUnset = INT32_MIN;
 HostArray Strings(std::initializer_list<const wchar_t *> values, int32_t low) {
     HostArray array = HostArrayCreate(HOST_TYPE_STRING);
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
-    for (const wchar_t *v : values) HostArraySetString(array, ZkHostStrMake(v), low++);
+    for (const wchar_t *v : values)
+        HostArraySetString(array, ZkHostStrMake(v), low++);
     return array;
 }
 HostArray Numbers(std::initializer_list<int32_t> values, int32_t low) {
@@ -106,7 +111,8 @@ HostArray Numbers(std::initializer_list<int32_t> values, int32_t low) {
     HostArraySetBounds(array, low, low + static_cast<int32_t>(values.size()) - 1);
     HostNumber n{};
     for (int32_t v : values) {
-        if (v != kUnset) HostArraySetNumber(array, HostNumberFromLong(v, &n), low);
+        if (v != kUnset)
+            HostArraySetNumber(array, HostNumberFromLong(v, &n), low);
         ++low;
     }
     return array;
@@ -132,7 +138,8 @@ TEST_P(Arrays, PopulateReplacesTheRowsInBoundOrderAndValuesMustMatch) {
     EXPECT_EQ(ZelListArrayPopulateValue(list, texts, holed), -1);
     EXPECT_EQ(RowTexts(), (std::vector<std::wstring>{L"a", L"b"})) << "the fill ends at the value it could not read";
     EXPECT_EQ(ZelListGetValue(list, 0), 1);
-    for (HostArray a : {shifted, empty, texts, values, two, holed}) HostArrayDestroy(a);
+    for (HostArray a : {shifted, empty, texts, values, two, holed})
+        HostArrayDestroy(a);
 }
 
 // A host custom list answers the list inside it, and that list is filled.
@@ -140,8 +147,9 @@ TEST(ArraysCustomList, TheInnerListTakesThePlace) {
     zkt::TestWindow form{400, 300};
     HWND inner = MakeList(form, Kind::PlainList);
     zkt::TestWindow custom{100, 100};
-    custom.onMessage([inner](HWND, UINT m, WPARAM, LPARAM, LRESULT &r) {
-        if (m != HostMsgGetListWindow) return false;
+    custom.OnMessage([inner](HWND, UINT m, WPARAM, LPARAM, LRESULT &r) {
+        if (m != HostMsgGetListWindow)
+            return false;
         r = reinterpret_cast<LRESULT>(inner);
         return true;
     });

@@ -25,14 +25,17 @@ TEST_P(Values, AddInsertReadAndChange) {
 
 TEST_P(Values, FindValueStartsAfterTheRowWrapsOnceAndTurnsBackAtMinusOne) {
     Add({{L"a", 5}, {L"b", 7}, {L"c", 5}, {L"d", 9}});
-    const struct { int32_t start, value, row; } plain[] = {
-        {0, 5, 2}, {2, 5, 0}, {-1, 9, 3}, {3, 9, -1}, {-1, 42, -1}, {20, 7, 1}};
-    for (const auto &c : plain) EXPECT_EQ(ZelListFindValue(list, c.start, c.value), c.row) << c.start << " " << c.value;
+    const struct {
+        int32_t start, value, row;
+    } plain[] = {{0, 5, 2}, {2, 5, 0}, {-1, 9, 3}, {3, 9, -1}, {-1, 42, -1}, {20, 7, 1}};
+    for (const auto &c : plain)
+        EXPECT_EQ(ZelListFindValue(list, c.start, c.value), c.row) << c.start << " " << c.value;
     // A row holding -1 sends the walk back to row 0; -1 itself is never found.
     SendMessageW(list, combo ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0);
     Add({{L"a", 3}, {L"b", -1}, {L"c", 4}});
     const struct { int32_t start, value, row; } turned[] = {{1, 4, 2}, {2, 3, 0}, {0, 4, -1}, {-1, -1, -1}, {2, 9, -1}};
-    for (const auto &c : turned) EXPECT_EQ(ZelListFindValue(list, c.start, c.value), c.row) << c.start << " " << c.value;
+    for (const auto &c : turned)
+        EXPECT_EQ(ZelListFindValue(list, c.start, c.value), c.row) << c.start << " " << c.value;
 }
 
 TEST_P(Values, FindStringWholeTextWithoutCase) {
@@ -94,7 +97,7 @@ TEST(TextsAdopted, ALongerTextKeepsFlagsColourFontAndTreeLinks) {
 
 TEST(ValuesBadWindow, EveryExportAnswersItsFailure) {
     zkt::TestWindow form{200, 100};
-    HWND button = form.addButton(1, {0, 0, 50, 20}, L"b");
+    HWND button = form.AddButton(1, {0, 0, 50, 20}, L"b");
     for (HWND bad : {HWND(nullptr), button}) {
         EXPECT_EQ(ZelListAddValue(bad, L"x", 1), -87);
         EXPECT_EQ(ZelListInsertValue(bad, 0, L"x", 1), -87);

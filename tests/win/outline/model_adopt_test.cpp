@@ -23,7 +23,7 @@ TEST(ZelListSetStyle, FailsOnNoWindowATopLevelWindowAndOtherControls) {
     zkt::TestWindow form;
     EXPECT_EQ(ZelListSetStyle(nullptr, LBX_StyleOwnerDraw, nullptr), 0);
     EXPECT_EQ(ZelListSetStyle(form, LBX_StyleOwnerDraw, nullptr), 0);
-    HWND button = form.addButton(1, {0, 0, 50, 20}, L"b");
+    HWND button = form.AddButton(1, {0, 0, 50, 20}, L"b");
     EXPECT_EQ(ZelListSetStyle(button, LBX_StyleOwnerDraw, nullptr), 0);
     EXPECT_EQ(GetPropW(button, L"ZK:ChildLbx"), nullptr);
     EXPECT_EQ(GetPropW(form, L"ZK:ParentLbx"), nullptr);
@@ -31,7 +31,7 @@ TEST(ZelListSetStyle, FailsOnNoWindowATopLevelWindowAndOtherControls) {
 
 TEST(ZelListSetStyle, ExtendedSelectAloneChangesTheWindowStyleButDoesNotAdopt) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100});
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100});
     const LONG_PTR proc = GetWindowLongPtrW(list, GWLP_WNDPROC);
     EXPECT_EQ(ZelListSetStyle(list, LBX_StyleExtendedSelect, nullptr), 1);
     EXPECT_TRUE(WindowStyle(list) & LBS_EXTENDEDSEL);
@@ -43,7 +43,7 @@ TEST(ZelListSetStyle, ExtendedSelectAloneChangesTheWindowStyleButDoesNotAdopt) {
 
 TEST(ZelListSetStyle, AdoptionSubclassesListAndParentOnce) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, LBS_NOTIFY | LBS_HASSTRINGS);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, LBS_NOTIFY | LBS_HASSTRINGS);
     const LONG_PTR formProc = GetWindowLongPtrW(form, GWLP_WNDPROC);
     ASSERT_EQ(ZelListSetStyle(list, LBX_StyleKeepTextColor, nullptr), 1);
     EXPECT_EQ(ZelListGetStyle(list), LBX_StyleOwnerDraw | LBX_StyleKeepTextColor);
@@ -59,7 +59,7 @@ TEST(ZelListSetStyle, AdoptionSubclassesListAndParentOnce) {
 
     const LONG_PTR listProc = GetWindowLongPtrW(list, GWLP_WNDPROC);
     const LONG_PTR adoptedFormProc = GetWindowLongPtrW(form, GWLP_WNDPROC);
-    HWND second = form.addListBox(kListId + 1, {0, 100, 100, 100}, kListStyle);
+    HWND second = form.AddListBox(kListId + 1, {0, 100, 100, 100}, kListStyle);
     ASSERT_EQ(ZelListSetStyle(second, LBX_StyleOwnerDraw, nullptr), 1);
     ASSERT_EQ(ZelListSetStyle(list, LBX_StyleNoLines, nullptr), 1);
     EXPECT_EQ(GetWindowLongPtrW(list, GWLP_WNDPROC), listProc);
@@ -69,7 +69,7 @@ TEST(ZelListSetStyle, AdoptionSubclassesListAndParentOnce) {
 
 TEST(ZelListSetStyle, OutlineForcesTextSelectAndIndentEightEveryTime) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOutline, nullptr), 1);
     EXPECT_EQ(ZelListGetStyle(list), LBX_StyleOwnerDraw | LBX_StyleOutline | LBX_StyleTextSelect);
     EXPECT_EQ(ChildRecord(list).indent, 8);
@@ -82,9 +82,10 @@ TEST(ZelListSetStyle, OutlineForcesTextSelectAndIndentEightEveryTime) {
 
 TEST(ZelListSetStyle, StyleBitsMapToListWindowStyles) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
-    ZelListSetStyle(list, LBX_StyleMultiSelect | LBX_StyleExtendedSelect | LBX_StyleExactHeight |
-                              LBX_StyleKeepScrollBar | LBX_StyleWideExtent,
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    ZelListSetStyle(list,
+                    LBX_StyleMultiSelect | LBX_StyleExtendedSelect | LBX_StyleExactHeight | LBX_StyleKeepScrollBar |
+                        LBX_StyleWideExtent,
                     nullptr);
     const LONG style = WindowStyle(list);
     EXPECT_TRUE(style & LBS_MULTIPLESEL);
@@ -96,7 +97,7 @@ TEST(ZelListSetStyle, StyleBitsMapToListWindowStyles) {
 
 TEST(ZelListSetStyle, AHorizontalBarMeansAutomaticExtent) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     SetWindowLongW(list, GWL_STYLE, WindowStyle(list) | WS_HSCROLL); // a list hides an idle bar
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     EXPECT_TRUE(ZelListGetStyle(list) & LBX_StyleAutoExtent);
@@ -106,8 +107,8 @@ TEST(ZelListSetStyle, HostClassNamesDecideWhenTheHostTypeDoesNot) {
     RegisterHostClass(L"QXListBox30", L"ListBox");
     RegisterHostClass(L"CBCtrlComboBox", L"ComboBox");
     zkt::TestWindow form;
-    HWND list = form.addChild(L"QXListBox30", kListId, {0, 0, 100, 100}, kListStyle);
-    HWND combo = form.addChild(L"CBCtrlComboBox", kComboId, {0, 120, 100, 100}, kComboStyle);
+    HWND list = form.AddChild(L"QXListBox30", kListId, {0, 0, 100, 100}, kListStyle);
+    HWND combo = form.AddChild(L"CBCtrlComboBox", kComboId, {0, 120, 100, 100}, kComboStyle);
     ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr), 1);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
     EXPECT_GE(ZelListAddColor(list, L"row", 0), 0);
@@ -120,15 +121,15 @@ TEST(ZelListSetStyle, HostClassNamesDecideWhenTheHostTypeDoesNot) {
 
 TEST(ZelListSetStyle, AComboPostsExtendedUiAndKeepsItsStyleWithoutACreateStructure) {
     zkt::TestWindow form;
-    HWND combo = form.addComboBox(kComboId, {0, 0, 100, 100}, CBS_DROPDOWNLIST | CBS_HASSTRINGS);
+    HWND combo = form.AddComboBox(kComboId, {0, 0, 100, 100}, CBS_DROPDOWNLIST | CBS_HASSTRINGS);
     zkt::MessageRecorder recorder;
     recorder.watch(combo);
     const LONG before = WindowStyle(combo);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleNoEditCopy, nullptr), 1);
     EXPECT_EQ(WindowStyle(combo), before);
     EXPECT_EQ(Send(combo, CB_GETEXTENDEDUI), 0); // posted, not yet arrived
-    zkt::pumpMessages();
-    EXPECT_TRUE(zkt::matchSequence(recorder.messages(),
+    zkt::PumpMessages();
+    EXPECT_TRUE(zkt::MatchSequence(recorder.messages(),
                                    {{CB_GETEXTENDEDUI, zkt::sent}, {CB_SETEXTENDEDUI, zkt::posted | zkt::wparam, 1}},
                                    PaintNoise()));
     EXPECT_EQ(Send(combo, CB_GETEXTENDEDUI), 1);
@@ -136,7 +137,7 @@ TEST(ZelListSetStyle, AComboPostsExtendedUiAndKeepsItsStyleWithoutACreateStructu
 
 TEST(ZelListSetStyle, AComboCreateStructureTakesTheOwnerDrawStyle) {
     zkt::TestWindow form;
-    HWND combo = form.addComboBox(kComboId, {0, 0, 100, 100}, CBS_DROPDOWNLIST | CBS_HASSTRINGS);
+    HWND combo = form.AddComboBox(kComboId, {0, 0, 100, 100}, CBS_DROPDOWNLIST | CBS_HASSTRINGS);
     CREATESTRUCTW create{};
     create.style = WindowStyle(combo);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw | LBX_StyleExactHeight | LBX_StyleKeepScrollBar, &create), 1);
@@ -150,13 +151,13 @@ TEST(ZelListSetStyle, AComboCreateStructureTakesTheOwnerDrawStyle) {
 TEST(ZelListSetStyle, TheListFreesItsItemsAtItsEndAndTheParentStaysAdopted) {
     zkt::TestWindow form;
     std::vector<ULONG_PTR> deleted;
-    form.onMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
+    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
         if (message == WM_DELETEITEM) {
             deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
         }
         return false;
     });
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     ZelListAddColor(list, L"a", 0);
     ZelListAddColor(list, L"b", 0);

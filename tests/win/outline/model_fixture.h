@@ -84,9 +84,10 @@ inline LONG WindowStyle(HWND w) { return GetWindowLongW(w, GWL_STYLE); }
 
 // What Wine paints when it likes, besides the common noise.
 inline std::vector<UINT> PaintNoise() {
-    std::vector<UINT> ignore = zkt::commonNoise();
-    ignore.insert(ignore.end(), {WM_PAINT, WM_ERASEBKGND, WM_NCPAINT, WM_CTLCOLORLISTBOX, WM_CTLCOLOREDIT,
-                                 WM_CTLCOLORSTATIC, WM_DRAWITEM, WM_GETTEXT, WM_GETTEXTLENGTH, WM_SYNCPAINT, WM_GETFONT});
+    std::vector<UINT> ignore = zkt::CommonNoise();
+    ignore.insert(ignore.end(),
+                  {WM_PAINT, WM_ERASEBKGND, WM_NCPAINT, WM_CTLCOLORLISTBOX, WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC,
+                   WM_DRAWITEM, WM_GETTEXT, WM_GETTEXTLENGTH, WM_SYNCPAINT, WM_GETFONT});
     return ignore;
 }
 
@@ -95,7 +96,7 @@ struct ListFixture : ::testing::Test {
     HWND list = nullptr;
 
     void SetUp() override {
-        list = form.addListBox(kListId, {10, 10, 200, 200}, kListStyle);
+        list = form.AddListBox(kListId, {10, 10, 200, 200}, kListStyle);
         ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr), 1);
     }
     void Add(std::initializer_list<const wchar_t *> texts) {

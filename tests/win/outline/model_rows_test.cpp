@@ -56,7 +56,7 @@ TEST_F(ListFixture, StoredTextsFollowTheCaseStyle) {
 
 TEST(ZelListRows, AListThatIsNotAdoptedTakesNoRows) {
     zkt::TestWindow form;
-    HWND plain = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND plain = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     EXPECT_EQ(ZelListAddColor(plain, L"a", 0), -1);
     EXPECT_EQ(ZelListInsertColorValue(plain, 0, L"a", 0, 1), -1);
     EXPECT_EQ(ZelListAddPicture(plain, L"a", 0, 0), -1);
@@ -144,7 +144,7 @@ TEST_F(ListFixture, DisableAndEnableDeselectAndRecolour) {
 
 TEST(ZelListRows, DisablingInAMultiSelectListSendsTheRequestAsItStands) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle | LBS_MULTIPLESEL);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle | LBS_MULTIPLESEL);
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     for (const wchar_t *t : {L"a", L"b", L"c"}) {
         ZelListAddColor(list, t, 0);

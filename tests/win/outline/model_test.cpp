@@ -12,7 +12,7 @@ TEST_F(ListFixture, GetFlagsGivesTheItemsFlagsOrMinusOne) {
     EXPECT_EQ(ZelListGetFlags(list, 1), -1);
     EXPECT_EQ(ZelListGetFlags(list, -1), -1);
     zkt::TestWindow other;
-    HWND plain = other.addListBox(1, {0, 0, 50, 50});
+    HWND plain = other.AddListBox(1, {0, 0, 50, 50});
     SendMessageW(plain, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"x"));
     EXPECT_EQ(ZelListGetFlags(plain, 0), -1);
     EXPECT_EQ(ZelListGetFlags(nullptr, 0), -1);
@@ -91,7 +91,7 @@ TEST_F(ListFixture, TheRootIsMadeOnceAndKeptInItsProperty) {
 
 TEST(ZelListGetRoot, APlainWindowGetsARootAllTheSameButNoHandleByRow) {
     zkt::TestWindow form;
-    HWND plain = form.addListBox(kListId, {0, 0, 100, 100});
+    HWND plain = form.AddListBox(kListId, {0, 0, 100, 100});
     EXPECT_EQ(ZelListGetItemHandle(plain, LBX_RootRow), 0);
     EXPECT_EQ(GetPropW(plain, L"ZK:LbxRootLow"), nullptr);
     const ZelItemHandle root = ZelListGetRoot(plain);

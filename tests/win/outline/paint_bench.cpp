@@ -5,7 +5,7 @@
 namespace painttest {
 
 void PaintBench::SetUp() {
-    list = form.addListBox(1, {0, 0, kRowWidth, 150}, LBS_NOTIFY | LBS_OWNERDRAWVARIABLE | WS_VSCROLL);
+    list = form.AddListBox(1, {0, 0, kRowWidth, 150}, LBS_NOTIFY | LBS_OWNERDRAWVARIABLE | WS_VSCROLL);
     font = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0, L"Tahoma");
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     record = LocalAlloc(LMEM_MOVEABLE | LMEM_ZEROINIT, sizeof(LbxChild));

@@ -11,8 +11,8 @@
 #include <vector>
 
 #include "outline/core/lbx.h"
-#include "outline/win/pic.h"
 #include "outline/win/lbx_paint_entry.h"
+#include "outline/win/pic.h"
 #include "zkharness.h"
 
 namespace painttest {

@@ -34,9 +34,8 @@ struct StyleWatch {
 class Exports : public ::testing::Test {
 protected:
     void SetUp() override {
-        font = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0,
-                           L"Tahoma");
-        list = form.addListBox(1, {10, 10, 160, 150}, kListStyle);
+        font = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0, L"Tahoma");
+        list = form.AddListBox(1, {10, 10, 160, 150}, kListStyle);
         SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr), 1);
         picture = ZelPicLoad(0x0201, L"ZKLIB.dll", L"plusdk");
@@ -100,10 +99,10 @@ TEST_F(Exports, TextRectangleFailures) {
     EXPECT_EQ(ZelListGetTextRectangle(list, 5, &v, &v, &v, &v), 0);
     EXPECT_EQ(ZelListGetTextRectangle(list, -1, &v, &v, &v, &v), 0);
     EXPECT_EQ(ZelListGetTextRectangle(list, 0, nullptr, &v, &v, &v), 0);
-    HWND plain = form.addListBox(2, {200, 10, 100, 100});
+    HWND plain = form.AddListBox(2, {200, 10, 100, 100});
     SendMessageW(plain, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L"plain"));
     EXPECT_EQ(ZelListGetTextRectangle(plain, 0, &v, &v, &v, &v), 0);
-    HWND combo = form.addComboBox(3, {200, 150, 100, 100}, CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE);
+    HWND combo = form.AddComboBox(3, {200, 150, 100, 100}, CBS_DROPDOWNLIST | CBS_OWNERDRAWVARIABLE);
     CREATESTRUCTW create{};
     create.style = GetWindowLongW(combo, GWL_STYLE);
     ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, &create), 1);
@@ -133,7 +132,7 @@ TEST_F(Exports, ScrollWidthGrowsToTheWidestRowAndNeverShrinks) {
 }
 
 TEST_F(Exports, ScrollWidthOfPlainListsAndBadWindows) {
-    HWND plain = form.addListBox(2, {200, 10, 60, 100}, LBS_NOTIFY | LBS_HASSTRINGS | WS_VSCROLL);
+    HWND plain = form.AddListBox(2, {200, 10, 60, 100}, LBS_NOTIFY | LBS_HASSTRINGS | WS_VSCROLL);
     SendMessageW(plain, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     const wchar_t *text = L"plain text wider than sixty";
     SendMessageW(plain, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text));
@@ -142,7 +141,7 @@ TEST_F(Exports, ScrollWidthOfPlainListsAndBadWindows) {
     SendMessageW(plain, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(L""));
     EXPECT_EQ(ZelListSetScrollWidth(plain, -1), ZEL_FAILED); // an empty text cannot be measured
     EXPECT_EQ(ZelListSetScrollWidth(nullptr, -1), ZEL_INVALID_PARAMETER);
-    HWND button = form.addButton(3, {0, 200, 50, 20}, L"b");
+    HWND button = form.AddButton(3, {0, 200, 50, 20}, L"b");
     EXPECT_EQ(ZelListSetScrollWidth(button, -1), ZEL_INVALID_PARAMETER);
 }
 
@@ -151,8 +150,8 @@ TEST_F(Exports, RowsPaintedByTheLibrary) {
     ASSERT_GE(ZelListAddColor(list, L"Disabled blue", 0x01000000 | kBlue), 0);
     ASSERT_GE(ZelListAddPicture(list, L"Picture", picture, picture), 0);
     SendMessageW(list, LB_SETCURSEL, 0, 0);
-    zkt::pumpMessages();
-    const zkt::Bitmap shot = zkt::captureClient(list);
+    zkt::PumpMessages();
+    const zkt::Bitmap shot = zkt::CaptureClient(list);
     ASSERT_TRUE(shot.valid());
     const RECT r0 = Row(0), r1 = Row(1), r2 = Row(2);
     EXPECT_GT(shot.count(GetSysColor(COLOR_HIGHLIGHT), r0), 50);

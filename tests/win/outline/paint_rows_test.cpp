@@ -1,7 +1,7 @@
 // Rows of a flat list: colours by state, the picture, the frames, tabs,
 // the focus frames and the horizontal extent.
-#include "paint_bench.h"
 #include "frame/win/propcache.h"
+#include "paint_bench.h"
 
 namespace painttest {
 namespace {

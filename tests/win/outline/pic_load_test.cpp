@@ -35,8 +35,8 @@ TEST(PicLoad, ModuleBitmapGetsAMaskFromItsTopLeftPixel) {
     // Set where the picture has the top-left colour: transparent there.
     EXPECT_EQ(BitmapPixel(p->mask, 0, 0), kWhite);
     EXPECT_EQ(BitmapPixel(p->mask, 15, 15), kWhite);
-    EXPECT_EQ(BitmapPixel(p->mask, 3, 3), kBlack);  // the box's frame
-    EXPECT_EQ(BitmapPixel(p->mask, 4, 4), kBlack);  // its white inside is opaque too
+    EXPECT_EQ(BitmapPixel(p->mask, 3, 3), kBlack);   // the box's frame
+    EXPECT_EQ(BitmapPixel(p->mask, 4, 4), kBlack);   // its white inside is opaque too
     EXPECT_EQ(BitmapPixel(p->bitmap, 7, 7), kBlack); // the plus
     EXPECT_EQ(BitmapPixel(p->bitmap, 4, 4), kWhite);
 }

@@ -21,7 +21,7 @@ PIC *Owned(bool owned) {
 class Registry : public ::testing::Test {
 protected:
     zkt::TestWindow window{200, 100};
-    HWND list = window.addListBox(1, {0, 0, 100, 80});
+    HWND list = window.AddListBox(1, {0, 0, 100, 80});
 };
 
 TEST_F(Registry, PicturesAddedOnceAndOwnedOnesFreed) {
@@ -109,7 +109,7 @@ TEST_F(Registry, NewFontRegistryFilledBySlot) {
     fonts->SetAt(1, a);
     LOGFONTW logical{};
     EXPECT_NE(GetObjectW(a, sizeof(logical), &logical), 0); // setting the same handle again keeps it
-    fonts->SetAt(1, b); // a replaced slot gives up its font
+    fonts->SetAt(1, b);                                     // a replaced slot gives up its font
     EXPECT_EQ(GetObjectW(a, sizeof(logical), &logical), 0);
     zk::CFontArray *again = zk::LbxFontNew(list, 1);
     ASSERT_NE(again, nullptr);

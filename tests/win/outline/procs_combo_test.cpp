@@ -10,14 +10,14 @@ struct Combo : ::testing::Test {
     HWND combo = nullptr;
     HWND edit = nullptr;
     void SetUp() override {
-        combo = form.addComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
+        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
         ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
         for (const wchar_t *t : {L"one", L"two", L"three"}) {
             ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
         }
         edit = GetDlgItem(combo, 1001);
         ASSERT_NE(edit, nullptr);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
     std::wstring EditText() {
         wchar_t text[64] = {};
@@ -65,7 +65,7 @@ TEST_F(Combo, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
     }
     EXPECT_EQ(Send(combo, WM_SETFONT, reinterpret_cast<WPARAM>(big), 0), 1);
     // The field is set to the font's height + 2, read back as a plain combo box reads it.
-    HWND plain = form.addComboBox(kComboId + 1, {200, 10, 150, 200}, kComboStyle);
+    HWND plain = form.AddComboBox(kComboId + 1, {200, 10, 150, 200}, kComboStyle);
     Send(plain, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), tm.tmHeight + 2);
     EXPECT_EQ(Send(combo, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)),
               Send(plain, CB_GETITEMHEIGHT, static_cast<WPARAM>(-1)));
@@ -86,7 +86,7 @@ TEST_F(Combo, AMousePressMakesTheFocusKnown) {
 
 TEST_F(Combo, ItsEndFreesItemsAndBrush) {
     std::vector<ULONG_PTR> deleted;
-    form.onMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
+    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
         if (message == WM_DELETEITEM) {
             deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
         }

@@ -36,7 +36,7 @@ HWND CreateAdopted(zkt::TestWindow &form, uint32_t style, const wchar_t *bar = n
     hook = SetWindowsHookExW(WH_CBT, AdoptAtCreation, nullptr, GetCurrentThreadId());
     // Created without a vertical bar; a list that was not created with one
     // leaves the bar as others set it.
-    HWND list = form.addListBox(kListId, {0, 0, 120, 100}, (kListStyle & ~WS_VSCROLL) | LBS_DISABLENOSCROLL);
+    HWND list = form.AddListBox(kListId, {0, 0, 120, 100}, (kListStyle & ~WS_VSCROLL) | LBS_DISABLENOSCROLL);
     UnhookWindowsHookEx(hook);
     return list;
 }

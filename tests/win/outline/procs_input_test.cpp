@@ -88,7 +88,7 @@ struct BoxFixture : ListFixture {
         const int step = 8 * (tm.tmAveCharWidth / 2);
         boxX = LbxLineX(step, 1, row.left);
         boxY = LbxMidY(LbxRect{row.left, row.top, row.right, row.bottom});
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
     void TearDown() override {
         item->node = nullptr;
@@ -106,8 +106,8 @@ TEST_F(BoxFixture, AClickOnTheBoxPostsTheToggleAndSelectsNothing) {
     Click(boxX, boxY);
     EXPECT_EQ(Send(list, LB_GETCURSEL), LB_ERR);
     EXPECT_EQ(recorder.count(ZKM_LbxToggle), 0); // posted: not there yet
-    zkt::pumpMessages();
-    EXPECT_TRUE(zkt::matchSequence(recorder.messages(),
+    zkt::PumpMessages();
+    EXPECT_TRUE(zkt::MatchSequence(recorder.messages(),
                                    {{WM_LBUTTONDOWN, zkt::sent},
                                     {WM_LBUTTONUP, zkt::sent},
                                     {LB_GETCURSEL, zkt::sent},
@@ -131,7 +131,7 @@ TEST_F(BoxFixture, TheIndentAndTheSpaceRightOfTheTextSwallowTheClick) {
     EXPECT_EQ(Send(list, LB_GETCURSEL), 0);
     zkt::MessageRecorder recorder;
     recorder.watch(list);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(ZKM_LbxToggle), 0);
 }
 
@@ -139,14 +139,14 @@ TEST_F(BoxFixture, ButtonUpPostsSelectDoneOnceARowIsSelected) {
     zkt::MessageRecorder recorder;
     recorder.watch(list);
     Send(list, WM_LBUTTONUP, 0, MAKELPARAM(row.right - 3, boxY));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(ZKM_LbxSelectDone), 0);
     Send(list, LB_SETCURSEL, 1);
     Send(list, WM_KEYUP, VK_DOWN, 0);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(ZKM_LbxSelectDone), 1);
     Send(list, WM_LBUTTONUP, 0, MAKELPARAM(boxX, boxY)); // on the box: swallowed
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(ZKM_LbxSelectDone), 1);
 }
 

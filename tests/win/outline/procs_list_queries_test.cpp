@@ -28,7 +28,7 @@ TEST_F(ListFixture, CurrentSelectionOfADisabledRowIsNone) {
 
 TEST(ListSelection, CountsAndIndicesLeaveDisabledRowsOut) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 150}, kListStyle | LBS_EXTENDEDSEL);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 150}, kListStyle | LBS_EXTENDEDSEL);
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     for (const wchar_t *t : {L"a", L"b", L"c", L"d"}) {
         ZelListAddColor(list, t, 0);
@@ -114,18 +114,18 @@ void ForgetFocus(HWND form) {
 // The list notifies its focus in any case; a focus that came from a sibling
 // is known before that notification, which then restores nothing.
 TEST_F(ListFixture, FocusFromASiblingIsKnownBeforeTheNotification) {
-    HWND sibling = form.addEdit(7, {250, 10, 100, 20});
+    HWND sibling = form.AddEdit(7, {250, 10, 100, 20});
     zkt::MessageRecorder recorder;
     recorder.watch(list);
     ForgetFocus(form);
     Send(list, WM_SETFOCUS, reinterpret_cast<WPARAM>(form.hwnd()));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(LB_SETCARETINDEX), 1); // the first focus by an unknown route
     EXPECT_TRUE(ParentRecord(form).parentFlags & LBX_ParentFocusKnown);
     ForgetFocus(form);
     recorder.clear();
     Send(list, WM_SETFOCUS, reinterpret_cast<WPARAM>(sibling));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(LB_SETCARETINDEX), 0);
     EXPECT_TRUE(ParentRecord(form).parentFlags & LBX_ParentFocusKnown);
 }

@@ -43,7 +43,7 @@ TEST_F(ListFixture, MeasureOfAnItemTakesItsFontAndRecordsTheTextHeight) {
 // at once, through the parent, rather than invalidating them).
 TEST_F(ListFixture, FontChangeRemeasuresAFrozenListWithoutTurningPaintingOn) {
     Add({L"a", L"b"});
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     Send(list, WM_SETREDRAW, FALSE);
     Send(list, WM_SETFONT, reinterpret_cast<WPARAM>(GetStockObject(DEFAULT_GUI_FONT)), 1);
     zkt::MessageRecorder recorder;
@@ -51,7 +51,7 @@ TEST_F(ListFixture, FontChangeRemeasuresAFrozenListWithoutTurningPaintingOn) {
     Send(list, LB_SETCURSEL, 1);
     EXPECT_EQ(recorder.count(WM_DRAWITEM), 0) << "painting came back on";
     Send(list, WM_SETREDRAW, TRUE);
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     recorder.clear();
     Send(list, LB_SETCURSEL, 0);
     EXPECT_GT(recorder.count(WM_DRAWITEM), 0);
@@ -103,31 +103,30 @@ TEST_F(ListFixture, FirstFocusWithoutSelectionPostsTheCaret) {
     Send(form, WM_COMMAND, MAKEWPARAM(kListId, LBN_SETFOCUS), reinterpret_cast<LPARAM>(list));
     EXPECT_TRUE(ParentRecord(form).parentFlags & LBX_ParentFocusKnown);
     EXPECT_EQ(recorder.count(LB_SETCARETINDEX), 0); // not yet: it is posted
-    zkt::pumpMessages();
-    EXPECT_TRUE(zkt::matchSequence(recorder.messages(),
-                                   {{LB_GETCURSEL, zkt::sent},
-                                    {LB_SETCARETINDEX, zkt::posted | zkt::wparam, 0}},
+    zkt::PumpMessages();
+    EXPECT_TRUE(zkt::MatchSequence(recorder.messages(),
+                                   {{LB_GETCURSEL, zkt::sent}, {LB_SETCARETINDEX, zkt::posted | zkt::wparam, 0}},
                                    PaintNoise()));
 }
 
 TEST(ParentCommands, DropSelectionPostsTheDropAndRestoresFromTheCaret) {
     zkt::TestWindow form;
-    HWND list = form.addListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     ZelListSetStyle(list, LBX_StyleDropSelection | LBX_StyleShowInactive, nullptr);
     for (const wchar_t *t : {L"a", L"b", L"c"}) {
         ZelListAddColor(list, t, 0);
     }
     Send(list, LB_SETCURSEL, 2);
     Send(form, WM_COMMAND, MAKEWPARAM(kListId, LBN_SETFOCUS), reinterpret_cast<LPARAM>(list));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder recorder;
     recorder.watch(list);
     Send(form, WM_COMMAND, MAKEWPARAM(kListId, LBN_KILLFOCUS), reinterpret_cast<LPARAM>(list));
     EXPECT_TRUE(ZelListGetFlags(list, 2) & LBX_ItemInactive);
     EXPECT_EQ(Send(list, LB_GETCURSEL), 2); // the drop is posted
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(Send(list, LB_GETCURSEL), LB_ERR);
-    EXPECT_TRUE(zkt::matchSequence(recorder.messages(),
+    EXPECT_TRUE(zkt::MatchSequence(recorder.messages(),
                                    {{LB_GETCURSEL, zkt::sent},
                                     {LB_GETITEMRECT, zkt::sent},
                                     {LB_GETCURSEL, zkt::sent},
@@ -145,19 +144,19 @@ struct ComboFixture : ::testing::Test {
     HWND edit = nullptr;
     std::vector<UINT> formCommands;
     void SetUp() override {
-        form.onMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
+        form.OnMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
             if (m == WM_COMMAND) {
                 formCommands.push_back(HIWORD(w));
             }
             return false;
         });
-        combo = form.addComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
+        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
         ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
         for (const wchar_t *t : {L"one", L"two", L"three"}) {
             ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
         }
         edit = GetDlgItem(combo, 1001);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
         formCommands.clear();
     }
     std::wstring EditText() {
@@ -168,18 +167,18 @@ struct ComboFixture : ::testing::Test {
 };
 
 TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     zkt::MessageRecorder recorder;
     recorder.watch(form);
     EXPECT_EQ(Send(form, WM_COMMAND, MAKEWPARAM(kComboId, CBN_SETFOCUS), reinterpret_cast<LPARAM>(combo)), 1);
     EXPECT_TRUE(formCommands.empty());
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     // Only the command and what it posts: focus and activation traffic of a
     // busy system may reach the form meanwhile.
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(),
-                                {{WM_COMMAND, zkt::sent | zkt::lparam, 0, reinterpret_cast<LPARAM>(combo)},
-                                 {WM_NEXTDLGCTL, zkt::posted | zkt::wparam | zkt::lparam,
-                                  reinterpret_cast<WPARAM>(combo), 1}}));
+    EXPECT_TRUE(zkt::MatchNamed(
+        recorder.messages(),
+        {{WM_COMMAND, zkt::sent | zkt::lparam, 0, reinterpret_cast<LPARAM>(combo)},
+         {WM_NEXTDLGCTL, zkt::posted | zkt::wparam | zkt::lparam, reinterpret_cast<WPARAM>(combo), 1}}));
     Send(form, WM_COMMAND, MAKEWPARAM(kComboId, CBN_SETFOCUS), reinterpret_cast<LPARAM>(combo));
     EXPECT_EQ(formCommands, std::vector<UINT>{CBN_SETFOCUS});
 }
@@ -198,7 +197,7 @@ TEST_F(ComboFixture, CloseUpPostsSelectDoneUnderTheExtendedUi) {
     zkt::MessageRecorder recorder;
     recorder.watch(combo);
     Send(form, WM_COMMAND, MAKEWPARAM(kComboId, CBN_CLOSEUP), reinterpret_cast<LPARAM>(combo));
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     EXPECT_EQ(recorder.count(ZKM_LbxSelectDone), 1); // adoption turned the extended interface on
     EXPECT_EQ(formCommands, std::vector<UINT>{CBN_CLOSEUP});
 }
@@ -215,8 +214,8 @@ TEST_F(ComboFixture, EditColoursAreTheSelectedItemsOnTheBackgroundBrush) {
 
 TEST(ParentEnd, TheChildrenHearOfItAndTheRecordGoes) {
     auto *form = new zkt::TestWindow();
-    HWND list = form->addListBox(kListId, {0, 0, 100, 100}, kListStyle);
-    HWND plain = form->addListBox(kListId + 1, {0, 100, 100, 100});
+    HWND list = form->AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
+    HWND plain = form->AddListBox(kListId + 1, {0, 100, 100, 100});
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     ZelListAddColor(list, L"a", 0);
     HWND window = *form;
@@ -230,9 +229,9 @@ TEST(ParentEnd, TheChildrenHearOfItAndTheRecordGoes) {
     // The form hears of its end first, then the adopted child; the list's own end comes later.
     const auto &got = recorder.messages();
     auto at = [&](UINT message, HWND w) {
-        return std::find_if(got.begin(), got.end(), [&](const zkt::RecordedMessage &m) {
-                   return m.message == message && m.hwnd == w;
-               }) - got.begin();
+        return std::find_if(got.begin(), got.end(),
+                            [&](const zkt::RecordedMessage &m) { return m.message == message && m.hwnd == w; }) -
+               got.begin();
     };
     EXPECT_LT(at(WM_DESTROY, window), at(ZKM_LbxParentGone, list));
     EXPECT_LT(at(ZKM_LbxParentGone, list), at(WM_DESTROY, list));

@@ -13,8 +13,7 @@ namespace {
 
 std::uintptr_t BaseData(HWND list, int row) {
     const WNDPROC base = reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC));
-    return static_cast<std::uintptr_t>(
-        CallWindowProcW(base, list, LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
+    return static_cast<std::uintptr_t>(CallWindowProcW(base, list, LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
 }
 
 std::string Name(const LbxNode *node) {
@@ -31,11 +30,13 @@ uint32_t Pattern(const LbxNode *n) {
 }
 
 std::string CheckConnectors(const LbxNode *n, const Tolerance &tol) {
-    if (!tol.connectors || !n->parent || tol.connectorsFree.count(n)) return {};
+    if (!tol.connectors || !n->parent || tol.connectorsFree.count(n))
+        return {};
     const uint32_t want = Pattern(n);
     const uint32_t have = n->item->flags & LBX_ItemConnectors;
     uint32_t mask = LBX_ItemConnectors;
-    if (tol.leftLineByOldLevel.count(n)) mask &= ~LBX_ItemLeftLine;
+    if (tol.leftLineByOldLevel.count(n))
+        mask &= ~LBX_ItemLeftLine;
     // A child loaded first keeps the bits of a first child while it is alone.
     const bool loadedOnly =
         !n->prev && !n->next && ((have | LBX_ItemHasNext) & mask) == ((want | LBX_ItemHasNext) & mask);
@@ -50,26 +51,35 @@ std::string CheckConnectors(const LbxNode *n, const Tolerance &tol) {
 std::string CheckNode(const LbxNode *n, const Tolerance &tol) {
     std::ostringstream out;
     const LbxItem *item = n->item;
-    if (!item || item->node != n) return "node without its item";
-    if (n->parent && n->level != n->parent->level + 1) out << Name(n) << " level " << n->level;
+    if (!item || item->node != n)
+        return "node without its item";
+    if (n->parent && n->level != n->parent->level + 1)
+        out << Name(n) << " level " << n->level;
     out << CheckConnectors(n, tol);
     if (((item->flags & LBX_ItemHasChildren) != 0) != (n->firstChild != nullptr) &&
         !(n->firstChild == nullptr && tol.childBitFree.count(n)))
         out << Name(n) << " HasChildren " << std::hex << item->flags;
-    if (n->firstChild && n->firstChild->prev) out << Name(n) << " first child has prev";
-    if (n->lastChild && n->lastChild->next) out << Name(n) << " last child has next";
-    if (!n->firstChild != !n->lastChild) out << Name(n) << " half a child list";
+    if (n->firstChild && n->firstChild->prev)
+        out << Name(n) << " first child has prev";
+    if (n->lastChild && n->lastChild->next)
+        out << Name(n) << " last child has next";
+    if (!n->firstChild != !n->lastChild)
+        out << Name(n) << " half a child list";
     for (const LbxNode *c = n->firstChild; c; c = c->next) {
-        if (c->parent != n) out << Name(c) << " wrong parent";
-        if (c->next && c->next->prev != c) out << Name(c) << " next.prev";
-        if (!c->next && c != n->lastChild) out << Name(c) << " is last but not lastChild";
+        if (c->parent != n)
+            out << Name(c) << " wrong parent";
+        if (c->next && c->next->prev != c)
+            out << Name(c) << " next.prev";
+        if (!c->next && c != n->lastChild)
+            out << Name(c) << " is last but not lastChild";
     }
     return out.str();
 }
 
 bool UnderPending(const LbxNode *n, const Tolerance &tol) {
     for (; n; n = n->parent) {
-        if (tol.pending.count(n)) return true;
+        if (tol.pending.count(n))
+            return true;
     }
     return false;
 }
@@ -86,7 +96,8 @@ std::vector<LbxNode *> Walk(LbxNode *root) {
             n = n->firstChild;
             continue;
         }
-        while (n != root && !n->next) n = n->parent;
+        while (n != root && !n->next)
+            n = n->parent;
         n = n == root ? nullptr : n->next;
     }
     return order;
@@ -94,40 +105,51 @@ std::vector<LbxNode *> Walk(LbxNode *root) {
 
 std::string CheckTree(HWND list, const Tolerance &tol) {
     LbxNode *root = RootOf(list);
-    if (!root) return "no root";
-    if (std::string fault = CheckNode(root, tol); !fault.empty()) return "root: " + fault;
+    if (!root)
+        return "no root";
+    if (std::string fault = CheckNode(root, tol); !fault.empty())
+        return "root: " + fault;
     for (const LbxNode *n : Walk(root)) {
-        if (std::string fault = CheckNode(n, tol); !fault.empty()) return fault;
+        if (std::string fault = CheckNode(n, tol); !fault.empty())
+            return fault;
     }
     return {};
 }
 
 std::string CheckRows(HWND list, const Tolerance &tol) {
     LbxNode *root = RootOf(list);
-    if (!root) return "no root";
+    if (!root)
+        return "no root";
     const std::vector<LbxNode *> order = Walk(root);
     std::unordered_map<const LbxItem *, std::size_t> position;
-    for (std::size_t i = 0; i < order.size(); ++i) position[order[i]->item] = i;
+    for (std::size_t i = 0; i < order.size(); ++i)
+        position[order[i]->item] = i;
     std::unordered_map<const LbxNode *, int> rowOf;
     const int count = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0));
     std::size_t lastPos = 0;
     for (int row = 0; row < count; ++row) {
         auto found = position.find(reinterpret_cast<const LbxItem *>(BaseData(list, row)));
-        if (found == position.end()) return "row " + std::to_string(row) + " holds no node of the tree";
+        if (found == position.end())
+            return "row " + std::to_string(row) + " holds no node of the tree";
         LbxNode *node = order[found->second];
-        if (row > 0 && found->second <= lastPos) return "row " + std::to_string(row) + " " + Name(node) + " out of order";
+        if (row > 0 && found->second <= lastPos)
+            return "row " + std::to_string(row) + " " + Name(node) + " out of order";
         lastPos = found->second;
         rowOf[node] = row;
-        if (node->item->flags & LBX_ItemHidden) return Name(node) + " has a row but is hidden";
-        if (node->window != list) return Name(node) + " belongs to another window";
+        if (node->item->flags & LBX_ItemHidden)
+            return Name(node) + " has a row but is hidden";
+        if (node->window != list)
+            return Name(node) + " belongs to another window";
     }
     for (const LbxNode *n : order) {
         const LbxNode *p = n->parent;
         const bool parentShows = p == root || (rowOf.count(p) && (p->item->flags & LBX_ItemExpanded));
         const bool visible = !(n->item->flags & LBX_ItemHidden) && parentShows;
         const bool shown = rowOf.count(n) != 0;
-        if (shown && !parentShows) return Name(n) + " has a row under a closed or missing parent";
-        if (visible && !shown && !UnderPending(n, tol)) return Name(n) + " should have a row";
+        if (shown && !parentShows)
+            return Name(n) + " has a row under a closed or missing parent";
+        if (visible && !shown && !UnderPending(n, tol))
+            return Name(n) + " should have a row";
     }
     return {};
 }

@@ -40,7 +40,7 @@ std::string CheckTree(HWND list, const Tolerance &tolerance = {});
 std::string CheckRows(HWND list, const Tolerance &tolerance = {});
 
 std::string CheckOutline(HWND list, const Tolerance &tolerance = {}); // both
-std::string DumpOutline(HWND list); // tree, flags and rows for failure messages
+std::string DumpOutline(HWND list);                                   // tree, flags and rows for failure messages
 
 // Drops from `pending` the nodes that have rows now, and those freed.
 void SettlePending(Tolerance &tolerance);
@@ -48,8 +48,8 @@ void SettlePending(Tolerance &tolerance);
 } // namespace treetest
 
 // After every step: the list must be consistent.
-#define EXPECT_CONSISTENT(list, ...)                                                        \
-    do {                                                                                    \
-        const std::string fault_ = ::treetest::CheckOutline(list, ##__VA_ARGS__);           \
-        EXPECT_TRUE(fault_.empty()) << fault_;                                              \
+#define EXPECT_CONSISTENT(list, ...)                                                                                   \
+    do {                                                                                                               \
+        const std::string fault_ = ::treetest::CheckOutline(list, ##__VA_ARGS__);                                      \
+        EXPECT_TRUE(fault_.empty()) << fault_;                                                                         \
     } while (0)

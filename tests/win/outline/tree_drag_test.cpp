@@ -26,7 +26,7 @@ TEST_F(FamilyFixture, DropBelowTheSourceCorrectsTheTargetRowByTheRowsTakenOut) {
 }
 
 TEST_F(FamilyFixture, DropOnACollapsedTargetOpensItAndBothBitsMeanChild) {
-    ZelListCollapse(list, 7); // C closed
+    ZelListCollapse(list, 7);                                         // C closed
     EXPECT_EQ(ZelListDragDrop(list, 1, list, 7, LBX_DropAsChild), 1); // A1 into C
     EXPECT_EQ(Rows(), L"A .A2 ..A2a ..A2b .A3 B C .C1 .A1");
     EXPECT_EQ(Flags(c) & kBox, LBX_ItemExpanded | LBX_ItemMinus);
@@ -52,7 +52,7 @@ TEST_F(FamilyFixture, DropOnItsOwnChildLiftsTheChildrenFirst) {
     Check();
     // Without a next sibling to take the place it fails after lifting.
     EXPECT_EQ(ZelListDragDrop(list, 7, list, 8, LBX_DropAsChild), 0); // C onto C1
-    EXPECT_EQ(Rows(), L"A1 A2 .A2a .A2b .A A3 B C C1"); // rows stay, levels follow
+    EXPECT_EQ(Rows(), L"A1 A2 .A2a .A2b .A A3 B C C1");               // rows stay, levels follow
     EXPECT_EQ(ZelListGetNextSibling(c), c1);
     EXPECT_EQ(Flags(c) & (LBX_ItemHasChildren | LBX_ItemExpanded), LBX_ItemHasChildren | LBX_ItemExpanded);
     tolerance.childBitFree.insert(N(c));
@@ -79,13 +79,13 @@ TEST_F(FamilyFixture, DropIntoASiblingListMovesNodesAndRowsButNotIntoCombosOrStr
     EXPECT_EQ(ZelListDragDrop(list, 0, list, 0, LBX_DropAsChild), 0);  // onto itself
     EXPECT_EQ(ZelListDragDrop(list, 0, list, 40, LBX_DropAsChild), 0); // no target row
     zkt::TestWindow elsewhere;
-    HWND stranger = elsewhere.addListBox(1, {0, 0, 50, 50}, kListStyle);
+    HWND stranger = elsewhere.AddListBox(1, {0, 0, 50, 50}, kListStyle);
     ZelListSetStyle(stranger, LBX_StyleOutline, nullptr);
     ZelListLoadChild(stranger, ZelListGetRoot(stranger), 0, 0, L"y", 0, 0);
     ZelListShowOutline(stranger, LBX_ShowEverything);
     EXPECT_EQ(ZelListDragDrop(list, 0, stranger, 0, LBX_DropAsChild), 0); // another parent
     Check();
-    HWND other = form.addListBox(202, {240, 10, 200, 300}, kListStyle);
+    HWND other = form.AddListBox(202, {240, 10, 200, 300}, kListStyle);
     ASSERT_EQ(ZelListSetStyle(other, LBX_StyleOutline, nullptr), 1);
     const H home = ZelListLoadChild(other, ZelListGetRoot(other), 0, 0, L"home", 0, 0);
     ASSERT_EQ(ZelListShowOutline(other, LBX_ShowEverything), 1);

@@ -25,9 +25,9 @@ TEST_F(FamilyFixture, DemoteMakesTheNodeLastChildOfItsPreviousSiblingWhichKeepsH
     EXPECT_EQ(ZelListDemote(list, 6, 0, 0), 1); // B under A
     EXPECT_EQ(Rows(), L"A .A1 .A2 ..A2a ..A2b ..A3 .B C .C1");
     Check();
-    EXPECT_EQ(ZelListDemote(list, 0, 0, 0), 0);                      // row 0
-    EXPECT_EQ(ZelListDemote(list, 1, 0, 0), 0);                      // A1 has no previous sibling
-    EXPECT_EQ(ZelListDemote(list, 7, 0, ZelPicHandle{12345}), 0);    // no such picture
+    EXPECT_EQ(ZelListDemote(list, 0, 0, 0), 0);                   // row 0
+    EXPECT_EQ(ZelListDemote(list, 1, 0, 0), 0);                   // A1 has no previous sibling
+    EXPECT_EQ(ZelListDemote(list, 7, 0, ZelPicHandle{12345}), 0); // no such picture
     ZelListCollapse(list, 2);
     zkt::MessageRecorder rec;
     rec.watch(list);

@@ -9,8 +9,8 @@
 #include <string>
 #include <vector>
 
-#include "tree_consistency.h"
 #include "outline/core/lbx.h"
+#include "tree_consistency.h"
 #include "zkharness.h"
 #include "zklib.h"
 
@@ -32,7 +32,8 @@ inline std::wstring TextOf(H h) { return reinterpret_cast<const wchar_t *>(N(h)-
 inline int LastRedraw(const zkt::MessageRecorder &rec, HWND window) {
     int last = -1;
     for (const auto &m : rec.messages())
-        if (m.hwnd == window && m.message == WM_SETREDRAW) last = m.wParam ? 1 : 0;
+        if (m.hwnd == window && m.message == WM_SETREDRAW)
+            last = m.wParam ? 1 : 0;
     return last;
 }
 
@@ -43,7 +44,7 @@ struct OutlineFixture : ::testing::Test {
     Tolerance tolerance;
 
     void SetUp() override {
-        list = form.addListBox(201, {10, 10, 220, 300}, kListStyle);
+        list = form.AddListBox(201, {10, 10, 220, 300}, kListStyle);
         ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOutline, nullptr), 1);
         root = ZelListGetRoot(list);
         ASSERT_NE(root, 0);
@@ -61,7 +62,8 @@ struct OutlineFixture : ::testing::Test {
         const int count = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0));
         for (int row = 0; row < count; ++row) {
             const H h = ZelListGetItemHandle(list, row);
-            if (!out.empty()) out += L' ';
+            if (!out.empty())
+                out += L' ';
             if (!h) {
                 out += L'?';
                 continue;
@@ -74,9 +76,10 @@ struct OutlineFixture : ::testing::Test {
     uint32_t Flags(H h) { return ZelListGetItemFlags(h); }
     // An adopted combo box with the top-level entries given, shown whole.
     HWND Combo(std::initializer_list<const wchar_t *> texts) {
-        HWND combo = form.addComboBox(203, {240, 10, 100, 200}, CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE);
+        HWND combo = form.AddComboBox(203, {240, 10, 100, 200}, CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE);
         EXPECT_EQ(ZelListSetStyle(combo, LBX_StyleOutline, nullptr), 1);
-        for (const wchar_t *t : texts) ZelListLoadChild(combo, ZelListGetRoot(combo), 0, 0, t, 0, 0);
+        for (const wchar_t *t : texts)
+            ZelListLoadChild(combo, ZelListGetRoot(combo), 0, 0, t, 0, 0);
         EXPECT_EQ(ZelListShowOutline(combo, LBX_ShowEverything), 1);
         return combo;
     }

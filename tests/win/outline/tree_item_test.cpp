@@ -12,7 +12,8 @@ std::wstring HostText(HostStr s) {
     int32_t size = 0;
     const wchar_t *p = s ? HostStrLock(s, &size) : nullptr;
     std::wstring out = p ? p : L"<none>";
-    if (s) ZkHostStrRelease(s);
+    if (s)
+        ZkHostStrRelease(s);
     return out;
 }
 
@@ -36,7 +37,7 @@ TEST_F(FamilyFixture, FieldsSearchesAndEnumerationsByHandle) {
     EXPECT_EQ(HostText(data), L"three");
     EXPECT_EQ(value, 5);
     zkt::TestWindow other;
-    EXPECT_EQ(ZelListSetItemData(other.addListBox(1, {0, 0, 50, 50}), a1, L"x", 0, 0), 0); // not adopted
+    EXPECT_EQ(ZelListSetItemData(other.AddListBox(1, {0, 0, 50, 50}), a1, L"x", 0, 0), 0); // not adopted
     EXPECT_EQ(TextOf(a1), L"renamed");
     // Searches and enumerations walk parents before children.
     ZelListSetItemValue(a2b, 77);
@@ -161,7 +162,7 @@ TEST_F(FamilyFixture, SetItemFlagsOnAComboActsOnTheCurrentSelectionsRow) {
 }
 
 TEST_F(FamilyFixture, OutlineRedrawIsOneSwitchForAllListsAndVisibleRangeCountsWholeRows) {
-    HWND second = form.addListBox(202, {240, 10, 200, 200}, kListStyle);
+    HWND second = form.AddListBox(202, {240, 10, 200, 200}, kListStyle);
     ASSERT_EQ(ZelListSetStyle(second, LBX_StyleOutline, nullptr), 1);
     zkt::MessageRecorder rec;
     rec.watch(list);
@@ -174,14 +175,13 @@ TEST_F(FamilyFixture, OutlineRedrawIsOneSwitchForAllListsAndVisibleRangeCountsWh
     ZelListExpand(list, 0);
     EXPECT_EQ(LastRedraw(rec, list), 1);
     zkt::TestWindow other;
-    EXPECT_EQ(ZelListSetOutlineRedraw(other.addListBox(1, {0, 0, 50, 50}), 1), 0);
+    EXPECT_EQ(ZelListSetOutlineRedraw(other.AddListBox(1, {0, 0, 50, 50}), 1), 0);
     int32_t first = -5, last = -5;
     const int32_t count = ZelListGetVisibleRange(list, &first, &last);
     EXPECT_EQ(first, 0);
     EXPECT_EQ(count, last - first + 1);
     EXPECT_GE(count, 1);
-    EXPECT_EQ(ZelListGetVisibleRange(form.addComboBox(204, {240, 10, 100, 200}), &first, &last),
-              ZEL_INVALID_PARAMETER);
+    EXPECT_EQ(ZelListGetVisibleRange(form.AddComboBox(204, {240, 10, 100, 200}), &first, &last), ZEL_INVALID_PARAMETER);
 }
 
 } // namespace

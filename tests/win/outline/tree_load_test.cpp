@@ -11,8 +11,8 @@ TEST_F(OutlineFixture, LoadMakesNoRowsKeepsFirstBitsOnAnOnlyChildAndHidesNewSibl
     const H top = Load(root, L"top");
     const H kid = Load(top, L"kid", 0x0000BEEF, 7);
     EXPECT_EQ(Send(list, LB_GETCOUNT), 0);
-    EXPECT_EQ(Flags(top) & kConn, 0x00080000u);                // level 0: no left line
-    EXPECT_EQ(Flags(kid) & (kConn | 0xFFFFu), 0x0009BEEFu);    // first bits, though the only one
+    EXPECT_EQ(Flags(top) & kConn, 0x00080000u);             // level 0: no left line
+    EXPECT_EQ(Flags(kid) & (kConn | 0xFFFFu), 0x0009BEEFu); // first bits, though the only one
     EXPECT_EQ(Flags(top) & (LBX_ItemHasChildren | LBX_ItemPlus | LBX_ItemMinus), LBX_ItemHasChildren | LBX_ItemPlus);
     const H second = Load(top, L"second");
     EXPECT_EQ(Flags(second) & kConn, 0x00070000u);
@@ -44,7 +44,7 @@ TEST_F(OutlineFixture, LoadFailsOnBadParentsPicturesAndUnadoptedWindows) {
     ASSERT_EQ(ZelListFreeChild(gone), 1);
     EXPECT_EQ(ZelListLoadChild(list, gone, 0, 0, L"x", 0, 0), 0);
     zkt::TestWindow other;
-    EXPECT_EQ(ZelListLoadChild(other.addListBox(1, {0, 0, 50, 50}), root, 0, 0, L"x", 0, 0), 0);
+    EXPECT_EQ(ZelListLoadChild(other.AddListBox(1, {0, 0, 50, 50}), root, 0, 0, L"x", 0, 0), 0);
     EXPECT_EQ(ZelListLoadChild(list, root, 0x777, 0, L"x", 0, 0), 0);
 }
 
@@ -72,10 +72,12 @@ TEST_F(OutlineFixture, LoadChildrenFromArraysAndOpensTheParent) {
     HostArraySetBounds(flags, 0, 2);
     EXPECT_EQ(ZelListLoadChildren(list, 0x4444, 0, 0, texts, values, flags), ZEL_NOT_ENOUGH_MEMORY);
     // Three empty arrays agree: nothing is loaded and the count is 0.
-    for (HostArray a : {texts, values, flags}) HostArraySetBounds(a, 0, -1);
+    for (HostArray a : {texts, values, flags})
+        HostArraySetBounds(a, 0, -1);
     EXPECT_EQ(ZelListLoadChildren(list, top, 0, 0, texts, values, flags), 0);
     EXPECT_EQ(Rows(), L"top .one .two .three");
-    for (HostArray a : {texts, values, flags}) HostArrayDestroy(a);
+    for (HostArray a : {texts, values, flags})
+        HostArrayDestroy(a);
 }
 
 TEST_F(OutlineFixture, StockOrEmptyTextsOfShellFolderValuesTakeTheRegistryName) {

@@ -26,9 +26,11 @@ struct Walker : OutlineFixture {
     std::vector<LbxNode *> Nodes() { return Walk(reinterpret_cast<LbxNode *>(root)); }
 
     bool SubtreeHasRow(LbxNode *node) {
-        if (ZelListGetItemIndex(reinterpret_cast<H>(node)) >= 0) return true;
+        if (ZelListGetItemIndex(reinterpret_cast<H>(node)) >= 0)
+            return true;
         for (LbxNode *c = node->firstChild; c; c = c->next)
-            if (SubtreeHasRow(c)) return true;
+            if (SubtreeHasRow(c))
+                return true;
         return false;
     }
 
@@ -36,9 +38,11 @@ struct Walker : OutlineFixture {
     // hidden nodes then gives that child a row without its parent's.
     bool HiddenAboveShown() {
         for (LbxNode *n : Nodes()) {
-            if (!(n->item->flags & LBX_ItemHidden)) continue;
+            if (!(n->item->flags & LBX_ItemHidden))
+                continue;
             for (LbxNode *c = n->firstChild; c; c = c->next)
-                if (!(c->item->flags & LBX_ItemHidden)) return true;
+                if (!(c->item->flags & LBX_ItemHidden))
+                    return true;
         }
         return false;
     }
@@ -63,7 +67,8 @@ struct Walker : OutlineFixture {
         case 0:
         case 1:
         case 2: {
-            if (nodes.size() > 120) break;
+            if (nodes.size() > 120)
+                break;
             const H parent = Pick(4) == 0 ? root : any;
             const std::wstring text = L"n" + std::to_wstring(++made);
             const H h = ZelListLoadChild(list, parent, 0, 0, text.c_str(), made, 0);
@@ -86,17 +91,38 @@ struct Walker : OutlineFixture {
             what << "ShowOutline " << level;
             break;
         }
-        case 5: what << "Expand " << row << " = " << ZelListExpand(list, row); break;
-        case 6: what << "Collapse " << row << " = " << ZelListCollapse(list, row); break;
-        case 7: rowsMayLag = true; what << "ExpandDescendents " << row << " = " << ZelListExpandDescendents(list, row); break;
-        case 8:
-            if (Pick(3) == 0) what << "DeleteChild " << row << " = " << ZelListDeleteChild(list, row);
-            else what << "DeleteDescendents " << row << " = " << ZelListDeleteDescendents(list, row);
+        case 5:
+            what << "Expand " << row << " = " << ZelListExpand(list, row);
             break;
-        case 9: rowsMayLag = true; what << "Demote " << row << " = " << ZelListDemote(list, row, 0, 0); break;
-        case 10: rowsMayLag = true; what << "Promote " << row << " = " << ZelListPromote(list, row, 0, 0); break;
-        case 11: rowsMayLag = true; what << "MoveUp " << row << " = " << ZelListMoveUp(list, row); break;
-        case 12: rowsMayLag = true; what << "MoveDown " << row << " = " << ZelListMoveDown(list, row); break;
+        case 6:
+            what << "Collapse " << row << " = " << ZelListCollapse(list, row);
+            break;
+        case 7:
+            rowsMayLag = true;
+            what << "ExpandDescendents " << row << " = " << ZelListExpandDescendents(list, row);
+            break;
+        case 8:
+            if (Pick(3) == 0)
+                what << "DeleteChild " << row << " = " << ZelListDeleteChild(list, row);
+            else
+                what << "DeleteDescendents " << row << " = " << ZelListDeleteDescendents(list, row);
+            break;
+        case 9:
+            rowsMayLag = true;
+            what << "Demote " << row << " = " << ZelListDemote(list, row, 0, 0);
+            break;
+        case 10:
+            rowsMayLag = true;
+            what << "Promote " << row << " = " << ZelListPromote(list, row, 0, 0);
+            break;
+        case 11:
+            rowsMayLag = true;
+            what << "MoveUp " << row << " = " << ZelListMoveUp(list, row);
+            break;
+        case 12:
+            rowsMayLag = true;
+            what << "MoveDown " << row << " = " << ZelListMoveDown(list, row);
+            break;
         case 13:
         case 14: {
             const int32_t to = AnyRow();
@@ -106,7 +132,8 @@ struct Walker : OutlineFixture {
             what << "DragDrop " << row << " -> " << to << " mode " << mode << " = "
                  << ZelListDragDrop(list, row, list, to, mode);
             // A drop on its own descendant that stops half way keeps the bit.
-            if (source) tolerance.childBitFree.insert(reinterpret_cast<const LbxNode *>(source));
+            if (source)
+                tolerance.childBitFree.insert(reinterpret_cast<const LbxNode *>(source));
             break;
         }
         case 15:
@@ -139,7 +166,8 @@ struct Walker : OutlineFixture {
 
     void Run(uint32_t seed, int steps) {
         rng.seed(seed);
-        for (int i = 0; i < 12; ++i) Load(i % 3 ? reinterpret_cast<H>(Nodes().back()) : root, L"seed");
+        for (int i = 0; i < 12; ++i)
+            Load(i % 3 ? reinterpret_cast<H>(Nodes().back()) : root, L"seed");
         ZelListShowOutline(list, LBX_ShowEverything);
         tolerance.pending.clear();
         // Connector patterns are left to the operations' own rules.
@@ -149,18 +177,22 @@ struct Walker : OutlineFixture {
         for (int step = 0; step < steps; ++step) {
             bool rowsMayLag = false;
             recent.push_back(Step(rowsMayLag));
-            if (recent.size() > 6) recent.erase(recent.begin());
+            if (recent.size() > 6)
+                recent.erase(recent.begin());
             std::string fault = CheckTree(list, tolerance);
             if (fault.empty() && rowsMayLag && !CheckRows(list, tolerance).empty()) {
                 Rebuild();
                 ++rebuilt;
                 recent.back() += " (rows rebuilt)";
             }
-            if (fault.empty()) fault = CheckRows(list, tolerance);
+            if (fault.empty())
+                fault = CheckRows(list, tolerance);
             if (!fault.empty()) {
                 std::string trail;
-                for (const auto &r : recent) trail += "\n  " + r;
-                FAIL() << "seed " << seed << " step " << step << ": " << fault << "\nlast steps:" << trail << "\n" << DumpOutline(list);
+                for (const auto &r : recent)
+                    trail += "\n  " + r;
+                FAIL() << "seed " << seed << " step " << step << ": " << fault << "\nlast steps:" << trail << "\n"
+                       << DumpOutline(list);
             }
         }
         RecordProperty("rebuilt", rebuilt);

@@ -69,7 +69,7 @@ TEST_F(OutlineFixture, ShowOutlineOfAnEmptyTreeOrUnadoptedListFails) {
     EXPECT_EQ(ZelListShowOutline(list, LBX_ShowEverything), 1);
     EXPECT_EQ(Rows(), L"only");
     zkt::TestWindow other;
-    EXPECT_EQ(ZelListShowOutline(other.addListBox(1, {0, 0, 50, 50}), LBX_ShowEverything), 0);
+    EXPECT_EQ(ZelListShowOutline(other.AddListBox(1, {0, 0, 50, 50}), LBX_ShowEverything), 0);
 }
 
 TEST_F(FamilyFixture, DeleteTakesRowsAndNodesOfTheSubtree) {

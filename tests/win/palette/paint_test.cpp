@@ -107,7 +107,7 @@ TEST(PalettePaint, RolesOneAndEightFollowTheNotifyWindowAtEveryPaint) {
 
 TEST(PalettePaint, MovingTheFocusMarksOnlyTheTwoCellsForPainting) {
     FormPalette p;
-    zkt::pumpMessages();
+    zkt::PumpMessages();
     ValidateRect(p.hwnd(), nullptr);
     auto &model = p.object().Model();
     const zk::Rect before = model.FocusArea(0, 0), after = model.FocusArea(0, 4);

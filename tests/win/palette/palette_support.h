@@ -3,8 +3,8 @@
 // a memory context, and the messages it posts.
 #pragma once
 
-#include <gtest/gtest.h>
 #include <windows.h>
+#include <gtest/gtest.h>
 
 #include <vector>
 

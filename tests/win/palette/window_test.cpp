@@ -164,7 +164,7 @@ TEST(PaletteMouse, TheOtherColourLinePostsSelectThenCommandZeroWhichOpensTheDial
         zkt::DrainQueue();
         EXPECT_EQ(answerer.answered(), 1);
     }
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(), {{HostMsgSelect, zkt::posted | zkt::wparam | zkt::lparam, 1, 0},
+    EXPECT_TRUE(zkt::MatchNamed(recorder.messages(), {{HostMsgSelect, zkt::posted | zkt::wparam | zkt::lparam, 1, 0},
                                                       {ZKM_PaletteCommand, zkt::posted | zkt::wparam | zkt::lparam,
                                                        reinterpret_cast<WPARAM>(p.hwnd()), 0}}));
     EXPECT_EQ(p.object().Model().RecentCount(), 1);
@@ -194,7 +194,7 @@ TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
     SendMessageW(p.hwnd(), WM_KEYDOWN, VK_RETURN, 0);
     SendMessageW(p.hwnd(), WM_KEYDOWN, VK_LEFT, 0);
     zkt::DrainQueue();
-    EXPECT_TRUE(zkt::matchNamed(recorder.messages(),
+    EXPECT_TRUE(zkt::MatchNamed(recorder.messages(),
                                 {{WM_KEYDOWN, zkt::sent},
                                  {WM_KEYDOWN, zkt::sent},
                                  {ZKM_PaletteCommand, zkt::posted | zkt::lparam, 0, 100},
@@ -205,7 +205,7 @@ TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
 class Popup : public testing::Test {
 protected:
     void SetUp() override {
-        edit = notify.addEdit(9, {10, 10, 80, 20});
+        edit = notify.AddEdit(9, {10, 10, 80, 20});
         popup = new zk::pal::CColorPalette(); // owned by its window from Create on
         ASSERT_TRUE(popup->Create(RECT{60, 60, 260, 200}, notify, notify));
         window = popup->GetSafeHwnd();
@@ -213,7 +213,7 @@ protected:
     void TearDown() override {
         if (IsWindow(window))
             DestroyWindow(window);
-        zkt::pumpMessages();
+        zkt::PumpMessages();
     }
 
     zkt::TestWindow notify;

@@ -86,8 +86,8 @@ TEST_F(Find, DatesMatchToTheSecond) {
     HostDateConstruct(&later, 2020, 5, 17, 13, 45, 11);
     // A quarter of a second on: the same whole second.
     HostDateTime quarter{};
-    quarter.length = static_cast<uint8_t>(HostNumberAddDouble(quarter.digits, base.digits, base.length,
-                                                              0.25 / 86400.0));
+    quarter.length =
+        static_cast<uint8_t>(HostNumberAddDouble(quarter.digits, base.digits, base.length, 0.25 / 86400.0));
     ASSERT_FALSE(SameRecord(base, quarter));
     HostArray array = Own(HostArrayCreate(HOST_TYPE_DATETIME));
     HostArraySetBounds(array, 4, 3);

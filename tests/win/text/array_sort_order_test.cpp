@@ -11,13 +11,21 @@ using namespace arraytest;
 namespace {
 
 // Words whose comparisons tie in many ways: case, width, kana type.
-const wchar_t *const kWords[] = {L"apple", L"Apple", L"APPLE", L"banana", L"Banana", L"cherry",
-                                 L"\xFF43\xFF48\xFF45\xFF52\xFF52\xFF59", L"", L"a-b", L"ab", L"co-op",
-                                 L"coop", L"Zebra", L"zebra", L"\x00E4pple", L"\x3042", L"\x30A2", L"10",
-                                 L"9", L"z"};
+const wchar_t *const kWords[] = {
+    L"apple",      L"Apple",  L"APPLE",  L"banana", L"Banana", L"cherry", L"\xFF43\xFF48\xFF45\xFF52\xFF52\xFF59",
+    L"",           L"a-b",    L"ab",     L"co-op",  L"coop",   L"Zebra",  L"zebra",
+    L"\x00E4pple", L"\x3042", L"\x30A2", L"10",     L"9",      L"z"};
 // Distinct records that are one double, and repeats.
-const wchar_t *const kNumbers[] = {L"1", L"1.0000000000000000000001", L"1.00000000000000000000001", L"-1",
-                                   L"0", L"2.5", L"2.50000000000000000001", L"1000000", L"-0.001", L"3"};
+const wchar_t *const kNumbers[] = {L"1",
+                                   L"1.0000000000000000000001",
+                                   L"1.00000000000000000000001",
+                                   L"-1",
+                                   L"0",
+                                   L"2.5",
+                                   L"2.50000000000000000001",
+                                   L"1000000",
+                                   L"-0.001",
+                                   L"3"};
 
 struct Element {
     HostNumber record{};
@@ -81,9 +89,8 @@ TEST_F(SortOrder, MatchesAStableSort) {
                         HostArraySetNumber(array, &n, index);
                 }
                 std::vector<Element> expected = ElementsOf(array, type);
-                std::stable_sort(expected.begin(), expected.end(), [&](const Element &a, const Element &b) {
-                    return Before(a, b, type, descending);
-                });
+                std::stable_sort(expected.begin(), expected.end(),
+                                 [&](const Element &a, const Element &b) { return Before(a, b, type, descending); });
                 ASSERT_EQ(count, ZelArraySort(array, descending ? 1 : 0, type));
                 EXPECT_EQ((Bounds{count, low, low + count - 1}), BoundsOf(array)) << what;
                 const std::vector<Element> sorted = ElementsOf(array, type);

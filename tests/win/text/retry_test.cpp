@@ -69,8 +69,8 @@ TEST_F(Retry, EveryStringResultAsksUntilTheHostGivesIn) {
             ASSERT_EQ(3, answerer.answered());
             for (const zkt::AnsweredDialog &d : answerer.dialogs()) {
                 EXPECT_EQ(L"Zelkova Kit", d.caption);
-                EXPECT_TRUE(d.hasControl(kRetry));
-                EXPECT_TRUE(d.hasControl(kHalt));
+                EXPECT_TRUE(d.HasControl(kRetry));
+                EXPECT_TRUE(d.HasControl(kHalt));
             }
         }
         EXPECT_EQ(calls + 4, ZkHostAllocCalls()) << "one try, then one per answer";

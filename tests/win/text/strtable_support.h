@@ -11,8 +11,9 @@ using filestest::Take;
 // The bytes in the system code page as the loader must read them.
 inline std::wstring Ansi(const std::string &bytes) {
     std::wstring out(bytes.size(), L'\0');
-    const int n = bytes.empty() ? 0 : MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()),
-                                                           out.data(), static_cast<int>(out.size()));
+    const int n = bytes.empty() ? 0
+                                : MultiByteToWideChar(CP_ACP, 0, bytes.data(), static_cast<int>(bytes.size()),
+                                                      out.data(), static_cast<int>(out.size()));
     out.resize(n > 0 ? n : 0);
     return out;
 }

@@ -29,8 +29,8 @@ inline std::wstring Take(HostStr handle) {
 // Bytes of the text in the system code page.
 inline int AnsiBytes(const std::wstring &text) {
     return text.empty() ? 0
-                        : WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(text.size()), nullptr,
-                                              0, nullptr, nullptr);
+                        : WideCharToMultiByte(CP_ACP, 0, text.c_str(), static_cast<int>(text.size()), nullptr, 0,
+                                              nullptr, nullptr);
 }
 
 // A temporary array of numbers from index `low` on.
