@@ -222,7 +222,7 @@ void MeasureMessageBox(Run &run, HWND form) {
 } // namespace
 
 int main(int argc, char **argv) {
-    Run run("window_bench", argc, argv);
+    Run run("bench_window", argc, argv);
     HWND form = MakeForm();
     MeasureAccelerators(run, form);
     MeasureMessageBox(run, form);
