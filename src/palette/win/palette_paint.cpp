@@ -1,6 +1,10 @@
 // The three painters of the palette.
 #include "palette/win/palette_paint.h"
 
+#include <initializer_list>
+#include <utility>
+#include <vector>
+
 namespace zk::pal {
 
 namespace {
@@ -26,6 +30,37 @@ void Bevel(HDC dc, RECT &r, const RoleTools &tools) {
     BevelPass(dc, r, tools.Pen(PALR_OuterTopLeft), tools.Pen(PALR_OuterBottomRight));
     BevelPass(dc, r, tools.Pen(PALR_InnerTopLeft), tools.Pen(PALR_InnerBottomRight));
 }
+
+// The two bevel passes of many rectangles, gathered by pen: each pass is
+// two three-point polylines (top-left, then bottom-right), as BevelPass
+// draws them with its line calls. The rectangle ends shrunk by two.
+class BevelBatch {
+public:
+    void Add(RECT &r) {
+        for (int pass = 0; pass < 2; ++pass) {
+            Put(pass * 2, {{r.right, r.top}, {r.left, r.top}, {r.left, r.bottom}});
+            Put(pass * 2 + 1, {{r.left, r.bottom}, {r.right, r.bottom}, {r.right, r.top}});
+            InflateRect(&r, -1, -1);
+        }
+    }
+    void Draw(HDC dc, const RoleTools &tools) const {
+        static constexpr int kRoles[4] = {PALR_OuterTopLeft, PALR_OuterBottomRight, PALR_InnerTopLeft,
+                                          PALR_InnerBottomRight};
+        for (int pen = 0; pen < 4; ++pen) {
+            if (points_[pen].empty())
+                continue;
+            SelectObject(dc, tools.Pen(kRoles[pen]));
+            const std::vector<DWORD> counts(points_[pen].size() / 3, 3);
+            PolyPolyline(dc, points_[pen].data(), counts.data(), static_cast<DWORD>(counts.size()));
+        }
+    }
+
+private:
+    void Put(int pen, std::initializer_list<POINT> points) {
+        points_[pen].insert(points_[pen].end(), points.begin(), points.end());
+    }
+    std::vector<POINT> points_[4];
+};
 
 // The four sides of a rectangle whose right and bottom are painted too.
 void Outline(HDC dc, const RECT &r, HPEN pen) {
@@ -58,20 +93,29 @@ void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const Pa
     // Only the cells that meet the clip box: the rest of the buffer is not
     // copied to the screen.
     const PalLayout::CellBlock cells = layout.CellsMeeting(zone, clip, count);
+    // Cells sit a pixel apart and every line of a cell's bevel stays within
+    // the cell and that gap, so no two cells share a pixel: the bevels of
+    // all cells go out in one polyline call per pen, the same pixels as a
+    // pass of line calls per cell, then the fills.
+    BevelBatch bevels;
+    std::vector<std::pair<RECT, COLORREF>> fills;
     for (int32_t row = cells.firstRow; row <= cells.lastRow; ++row) {
         for (int32_t column = cells.firstColumn; column <= cells.lastColumn; ++column) {
             const int32_t index = row * columns + column;
             if (index >= count)
                 break;
             RECT r = ToRECT(layout.GetColorCellRect(zone, index, count));
-            Bevel(dc, r, tools);
+            bevels.Add(r);
             r.right += 1;
             r.bottom += 1;
-            if (const SPaletteColor *colour = model.GetColorItem(palette, index)) {
-                const Brush brush = SolidBrush(colour->colour);
-                FillRect(dc, &r, brush);
-            }
+            if (const SPaletteColor *colour = model.GetColorItem(palette, index))
+                fills.emplace_back(r, colour->colour);
         }
+    }
+    bevels.Draw(dc, tools);
+    for (const auto &[r, colour] : fills) {
+        const Brush brush = SolidBrush(colour);
+        FillRect(dc, &r, brush);
     }
 }
 
