@@ -49,26 +49,15 @@ LRESULT CCalendar::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
         return 0;
     case WM_TIMER:
         return input_.Timer(static_cast<uint32_t>(wParam)) ? 0 : Default();
-    case WM_CANCELMODE: {
-        const LRESULT result = Default();
-        input_.CancelMode();
-        return result;
-    }
+    case WM_CANCELMODE:
+        return CancelMode(input_);
     case WM_SETFOCUS:
-        return OnSetFocus();
+        return FocusGained(input_);
     case WM_KILLFOCUS:
         return OnKillFocus();
     default:
         return CGenericControl::WindowProc(message, wParam, lParam);
     }
-}
-
-LRESULT CCalendar::OnSetFocus() {
-    if (FieldValidate(0) == 0)
-        return 0;
-    const LRESULT result = Default();
-    input_.FocusGained();
-    return result;
 }
 
 LRESULT CCalendar::OnKillFocus() {

@@ -58,7 +58,6 @@ protected:
     void Paint(HDC dc, const Rect &clip) override;
 
 private:
-    LRESULT OnSetFocus();
     // The colours of a paint: etched, or what the notify window's answer
     // for a list box says; they stand until the next paint.
     void TakePaintColours(HDC dc);

@@ -65,6 +65,25 @@ protected:
     // WM_PAINT, WM_PRINTCLIENT, WM_DESTROY; everything else to Default().
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
+    // WM_SETFOCUS of a control with an input machine: refused while the
+    // host's field validation holds the focus elsewhere; otherwise the
+    // default first, then the machine.
+    template <class Input>
+    LRESULT FocusGained(Input &input) {
+        if (FieldValidate(0) == 0)
+            return 0;
+        const LRESULT result = Default();
+        input.FocusGained();
+        return result;
+    }
+    // WM_CANCELMODE: the default first, then the machine lets go.
+    template <class Input>
+    LRESULT CancelMode(Input &input) {
+        const LRESULT result = Default();
+        input.CancelMode();
+        return result;
+    }
+
     int32_t created = 0;         // 1 once the control's own creation is finished
     HWND notifyWindow = nullptr; // receives the notifications; the parent unless set
 

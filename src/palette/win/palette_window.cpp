@@ -54,13 +54,10 @@ LRESULT CColorPalette::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     case WM_LBUTTONDBLCLK:
         input_.LButtonDblClk(at.x, at.y);
         return 0;
-    case WM_CANCELMODE: {
-        const LRESULT result = Default();
-        input_.CancelMode();
-        return result;
-    }
+    case WM_CANCELMODE:
+        return CancelMode(input_);
     case WM_SETFOCUS:
-        return OnSetFocus();
+        return FocusGained(input_);
     case WM_KILLFOCUS: {
         const LRESULT result = Default();
         input_.FocusLost();
@@ -71,14 +68,6 @@ LRESULT CColorPalette::WindowProc(UINT message, WPARAM wParam, LPARAM lParam) {
     default:
         return CGenericControl::WindowProc(message, wParam, lParam);
     }
-}
-
-LRESULT CColorPalette::OnSetFocus() {
-    if (FieldValidate(0) == 0)
-        return 0;
-    const LRESULT result = Default();
-    input_.FocusGained();
-    return result;
 }
 
 // Id 0 is the other-colour entry's; any other id is the application's,

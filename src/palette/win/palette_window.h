@@ -69,7 +69,6 @@ protected:
 
 private:
     LRESULT OnCreate();
-    LRESULT OnSetFocus();
     LRESULT OnPaletteCommand();
     // The other-colour entry: the platform's colour dialog, and the chosen
     // colour as the newest recent colour.
