@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "zkhost.h"
+#include "zkt_pump.h"
 #include "zkt_window.h"
 
 namespace zkt {
@@ -99,5 +100,30 @@ struct NullControlCall {
     std::function<int64_t()> call;
 };
 void ExpectNullControlFailures(const std::vector<NullControlCall> &calls);
+
+// A control's pop-up form on a test window that is its notify window, with
+// an edit beside it: MakePopup creates the control and gives it the window;
+// the window goes at the end of the test if it is still there.
+template <class Control>
+class PopupTest : public ::testing::Test {
+protected:
+    void SetUp() override {
+        edit = notify.AddEdit(9, {10, 10, 80, 20});
+        popup = new Control(); // owned by its window once created
+        ASSERT_TRUE(MakePopup(*popup));
+        window = popup->GetSafeHwnd();
+    }
+    void TearDown() override {
+        if (IsWindow(window))
+            DestroyWindow(window);
+        PumpMessages();
+    }
+    virtual bool MakePopup(Control &control) = 0;
+
+    TestWindow notify;
+    HWND edit = nullptr;
+    Control *popup = nullptr;
+    HWND window = nullptr;
+};
 
 } // namespace zkt

@@ -4,25 +4,14 @@
 
 namespace {
 
-class Popup : public testing::Test {
+class Popup : public zkt::PopupTest<zk::cal::CCalendar> {
 protected:
-    void SetUp() override {
-        edit = notify.AddEdit(9, {10, 10, 80, 20});
-        popup = new zk::cal::CCalendar(); // owned by its window from CreatePopup on
-        ASSERT_TRUE(popup->CreatePopup(RECT{60, 60, 300, 240}, notify));
-        window = popup->GetSafeHwnd();
-        popup->Model().AssignStyleFlag(CALS_PopUp, 1);
+    bool MakePopup(zk::cal::CCalendar &control) override {
+        if (!control.CreatePopup(RECT{60, 60, 300, 240}, notify))
+            return false;
+        control.Model().AssignStyleFlag(CALS_PopUp, 1);
+        return true;
     }
-    void TearDown() override {
-        if (IsWindow(window))
-            DestroyWindow(window);
-        zkt::PumpMessages();
-    }
-
-    zkt::TestWindow notify;
-    HWND edit = nullptr;
-    zk::cal::CCalendar *popup = nullptr;
-    HWND window = nullptr;
 };
 
 TEST_F(Popup, IsABorderedPopUpOfTheInnerClassWithoutParent) {

@@ -202,24 +202,11 @@ TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
     EXPECT_EQ(p.Focus(), (PalHit{0, 7}));
 }
 
-class Popup : public testing::Test {
+class Popup : public zkt::PopupTest<zk::pal::CColorPalette> {
 protected:
-    void SetUp() override {
-        edit = notify.AddEdit(9, {10, 10, 80, 20});
-        popup = new zk::pal::CColorPalette(); // owned by its window from Create on
-        ASSERT_TRUE(popup->Create(RECT{60, 60, 260, 200}, notify, notify));
-        window = popup->GetSafeHwnd();
+    bool MakePopup(zk::pal::CColorPalette &control) override {
+        return control.Create(RECT{60, 60, 260, 200}, notify, notify);
     }
-    void TearDown() override {
-        if (IsWindow(window))
-            DestroyWindow(window);
-        zkt::PumpMessages();
-    }
-
-    zkt::TestWindow notify;
-    HWND edit = nullptr;
-    zk::pal::CColorPalette *popup = nullptr;
-    HWND window = nullptr;
 };
 
 TEST_F(Popup, IsAHiddenBorderedPopUpOfTheInnerClass) {
