@@ -23,35 +23,18 @@ int32_t Append(const wchar_t *source, const wchar_t *destination) {
     SpaceBudget space;
     if (!space.Read(destination))
         return 0;
-
-    TransferBuffer buffer;
-    int32_t count = 0;
-    while (walk.Next()) {
-        if (walk.IsDirectory())
-            continue;
-        ++count;
-        const WIN32_FIND_DATAW &entry = walk.entry();
-        if (!space.Take(entry))
-            return ZEL_DISK_FULL;
-
-        FileHandle from(ZelFileOpenEx(walk.Path().c_str(), nullptr, 0, OF_SHARE_DENY_WRITE));
-        if (!from.Valid())
-            return LastErrorCode();
+    return TransferEach(walk, space, [&](const WIN32_FIND_DATAW &entry, FileHandle &from, TransferBuffer &buffer) {
         FileHandle to(OpenDestination(destination, entry.dwFileAttributes));
         if (!to.Valid())
             return LastErrorCode();
         if (!SetFilePointerEx(to.get(), LARGE_INTEGER{}, nullptr, FILE_END))
             return LastErrorCode();
-        if (const int32_t code = buffer.Move(from.get(), to.get(), FullSize(entry)))
-            return code;
-    }
-    return count;
+        return buffer.Move(from.get(), to.get(), FullSize(entry));
+    });
 }
 
 } // namespace
 
 int32_t ZKAPI ZelFileAppend(const wchar_t *source, const wchar_t *destination) {
-    if (!source || !destination)
-        return ZEL_INVALID_PARAMETER;
-    return zk::Quietly([&] { return Append(source, destination); }, [] { return ZEL_NOT_ENOUGH_MEMORY; });
+    return PatternExport(source, destination, Append);
 }

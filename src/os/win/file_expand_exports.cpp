@@ -60,17 +60,16 @@ int32_t Expand(const wchar_t *source, const wchar_t *destination) {
     FileWalk walk(source);
     if (!walk.Found())
         return walk.error();
-    std::wstring outDir, outName;
-    if (const int32_t code = AbsoluteTarget(destination, outDir, outName))
+    TargetMask targets;
+    if (const int32_t code = targets.Read(destination))
         return code;
-    const std::wstring mask = outName.empty() ? std::wstring(L"*.*") : outName;
 
     int32_t count = 0;
     while (walk.Next()) {
         if (walk.IsDirectory())
             continue;
         ++count;
-        const std::wstring target = outDir + ZelPathApplyMask(walk.entry().cFileName, mask);
+        const std::wstring target = targets.For(walk.entry().cFileName);
         if (const int32_t code = CheckSource(walk.Path()))
             return code;
         SetLastError(0);
@@ -100,7 +99,5 @@ int32_t Expand(const wchar_t *source, const wchar_t *destination) {
 } // namespace
 
 int32_t ZKAPI ZelFileExpand(const wchar_t *source, const wchar_t *destination) {
-    if (!source || !destination)
-        return ZEL_INVALID_PARAMETER;
-    return zk::Quietly([&] { return Expand(source, destination); }, [] { return ZEL_NOT_ENOUGH_MEMORY; });
+    return PatternExport(source, destination, Expand);
 }

@@ -50,19 +50,21 @@ int32_t TransferBuffer::Move(HANDLE source, HANDLE destination, uint64_t fileSiz
     return code;
 }
 
-int32_t AbsoluteTarget(const wchar_t *destination, std::wstring &outDir, std::wstring &outName) {
-    if (const int32_t code = ZelPathSplitTarget(destination, outDir, outName))
-        return code;
-    if (!outDir.empty())
-        return 0;
-    const DWORD length = GetCurrentDirectoryW(0, nullptr);
-    std::wstring absolute(length, L'\\');
-    absolute.resize(GetCurrentDirectoryW(length, absolute.data()));
-    // The root of a drive already ends in a backslash.
-    if (absolute.empty() || absolute.back() != L'\\')
-        absolute += L'\\';
-    absolute += destination;
-    return ZelPathSplitTarget(absolute, outDir, outName);
+int32_t TargetMask::Read(const wchar_t *destination) {
+    int32_t code = ZelPathSplitTarget(destination, dir_, mask_);
+    if (!code && dir_.empty()) {
+        const DWORD length = GetCurrentDirectoryW(0, nullptr);
+        std::wstring absolute(length, L'\\');
+        absolute.resize(GetCurrentDirectoryW(length, absolute.data()));
+        // The root of a drive already ends in a backslash.
+        if (absolute.empty() || absolute.back() != L'\\')
+            absolute += L'\\';
+        absolute += destination;
+        code = ZelPathSplitTarget(absolute, dir_, mask_);
+    }
+    if (!code && mask_.empty())
+        mask_ = L"*.*";
+    return code;
 }
 
 bool SpaceBudget::Read(const wchar_t *destination) {

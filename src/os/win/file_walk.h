@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 
+#include "frame/win/guard.h"
 #include "os/win/files.h"
 
 namespace zk::os {
@@ -85,9 +86,18 @@ private:
     HGLOBAL block_ = nullptr;
 };
 
-// Splits the destination of a copy; a destination without a folder is taken
-// in the current directory. 0 or the negative code of ZelPathSplitTarget.
-int32_t AbsoluteTarget(const wchar_t *destination, std::wstring &outDir, std::wstring &outName);
+// The destination of a copy: its folder, made absolute (a destination
+// without one is taken in the current directory), and the mask each match's
+// name goes through ("*.*" when it names no file).
+class TargetMask {
+public:
+    // 0 or the negative code of ZelPathSplitTarget.
+    int32_t Read(const wchar_t *destination);
+    std::wstring For(const wchar_t *name) const { return dir_ + ZelPathApplyMask(name, mask_); }
+
+private:
+    std::wstring dir_, mask_;
+};
 
 // The copy's own estimate of the space left on the destination's drive (the
 // current drive if it names none): free bytes counted in 32 bits, from which
@@ -110,6 +120,39 @@ private:
 
 inline uint64_t FullSize(const WIN32_FIND_DATAW &entry) {
     return static_cast<uint64_t>(entry.nFileSizeHigh) << 32 | entry.nFileSizeLow;
+}
+
+// The loop that the copy and the append share: each file the walk finds
+// (folders passed over) is counted, takes its share of the space budget and
+// is opened for reading; then `write(entry, from, buffer)` puts it in place.
+// The count, or the first negative code.
+template <class Write>
+int32_t TransferEach(FileWalk &walk, SpaceBudget &space, Write write) {
+    TransferBuffer buffer;
+    int32_t count = 0;
+    while (walk.Next()) {
+        if (walk.IsDirectory())
+            continue;
+        ++count;
+        const WIN32_FIND_DATAW &entry = walk.entry();
+        if (!space.Take(entry))
+            return ZEL_DISK_FULL;
+        FileHandle from(ZelFileOpenEx(walk.Path().c_str(), nullptr, 0, OF_SHARE_DENY_WRITE));
+        if (!from.Valid())
+            return LastErrorCode();
+        if (const int32_t code = write(entry, from, buffer))
+            return code;
+    }
+    return count;
+}
+
+// The pattern exports' one answer to a missing argument and to running out
+// of memory half-way.
+template <class Body>
+int32_t PatternExport(const wchar_t *source, const wchar_t *destination, Body body) {
+    if (!source || !destination)
+        return ZEL_INVALID_PARAMETER;
+    return zk::Quietly([&] { return body(source, destination); }, [] { return ZEL_NOT_ENOUGH_MEMORY; });
 }
 
 } // namespace zk::os
