@@ -21,18 +21,15 @@ int32_t Rename(const wchar_t *source, const wchar_t *destination) {
     FileWalk walk(source);
     if (!walk.Found())
         return walk.error();
-    // No folder of its own keeps a bare destination relative to the current
-    // directory.
-    std::wstring outDir, outName;
-    if (const int32_t code = ZelPathSplitTarget(destination, outDir, outName))
+    TargetMask targets;
+    if (const int32_t code = targets.Read(destination, false))
         return code;
-    const std::wstring mask = outName.empty() ? std::wstring(L"*.*") : outName;
 
     int32_t renamed = 0;
     while (renamed < total && walk.Next()) {
         if (walk.IsDirectory())
             continue;
-        const std::wstring target = outDir + ZelPathApplyMask(walk.entry().cFileName, mask);
+        const std::wstring target = targets.For(walk.entry().cFileName);
         if (!MoveFileW(walk.Path().c_str(), target.c_str()))
             return LastErrorCode();
         ++renamed;
@@ -58,9 +55,7 @@ int32_t Delete(const wchar_t *pattern) {
 } // namespace
 
 int32_t ZKAPI ZelFileRename(const wchar_t *source, const wchar_t *destination) {
-    if (!source || !destination)
-        return ZEL_INVALID_PARAMETER;
-    return zk::Quietly([&] { return Rename(source, destination); }, [] { return ZEL_NOT_ENOUGH_MEMORY; });
+    return PatternExport(source, destination, Rename);
 }
 
 int32_t ZKAPI ZelFileDelete(const wchar_t *pattern) {

@@ -50,9 +50,9 @@ int32_t TransferBuffer::Move(HANDLE source, HANDLE destination, uint64_t fileSiz
     return code;
 }
 
-int32_t TargetMask::Read(const wchar_t *destination) {
+int32_t TargetMask::Read(const wchar_t *destination, bool absolute) {
     int32_t code = ZelPathSplitTarget(destination, dir_, mask_);
-    if (!code && dir_.empty()) {
+    if (!code && dir_.empty() && absolute) {
         const DWORD length = GetCurrentDirectoryW(0, nullptr);
         std::wstring absolute(length, L'\\');
         absolute.resize(GetCurrentDirectoryW(length, absolute.data()));

@@ -86,13 +86,14 @@ private:
     HGLOBAL block_ = nullptr;
 };
 
-// The destination of a copy: its folder, made absolute (a destination
-// without one is taken in the current directory), and the mask each match's
-// name goes through ("*.*" when it names no file).
+// The destination of a copy or a rename: its folder and the mask each
+// match's name goes through ("*.*" when it names no file).
 class TargetMask {
 public:
-    // 0 or the negative code of ZelPathSplitTarget.
-    int32_t Read(const wchar_t *destination);
+    // 0 or the negative code of ZelPathSplitTarget. A destination without a
+    // folder is taken in the current directory, made absolute for a copy;
+    // a rename keeps it relative (`absolute` false).
+    int32_t Read(const wchar_t *destination, bool absolute = true);
     std::wstring For(const wchar_t *name) const { return dir_ + ZelPathApplyMask(name, mask_); }
 
 private:
