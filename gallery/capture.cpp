@@ -2,37 +2,20 @@
 
 #include <cstring>
 
+#include "frame/win/dib32.h"
+#include "frame/win/gdi.h"
+
 namespace gallery {
 namespace {
 
 // A 32-bit top-down DIB section selected into a memory DC.
 class Canvas {
 public:
-    Canvas(int width, int height) : width_(width), height_(height) {
-        BITMAPINFO info{};
-        info.bmiHeader.biSize = sizeof(info.bmiHeader);
-        info.bmiHeader.biWidth = width;
-        info.bmiHeader.biHeight = -height;
-        info.bmiHeader.biPlanes = 1;
-        info.bmiHeader.biBitCount = 32;
-        info.bmiHeader.biCompression = BI_RGB;
-        dc_ = CreateCompatibleDC(nullptr);
-        bitmap_ = CreateDIBSection(dc_, &info, DIB_RGB_COLORS, &bits_, nullptr, 0);
-        if (dc_ && bitmap_)
-            old_ = SelectObject(dc_, bitmap_);
-    }
-    ~Canvas() {
-        if (old_)
-            SelectObject(dc_, old_);
-        if (bitmap_)
-            DeleteObject(bitmap_);
-        if (dc_)
-            DeleteDC(dc_);
-    }
-    Canvas(const Canvas &) = delete;
-    Canvas &operator=(const Canvas &) = delete;
+    Canvas(int width, int height)
+        : width_(width), height_(height), bitmap_(zk::CreateDib32(dc_, width, height, &bits_)),
+          selected_(dc_, bitmap_) {}
 
-    bool Valid() const { return dc_ && bitmap_ && bits_ && old_; }
+    bool Valid() const { return dc_ && bitmap_ && bits_; }
     HDC Dc() const { return dc_; }
 
     Picture Take() const {
@@ -50,10 +33,10 @@ public:
 private:
     int width_;
     int height_;
-    HDC dc_ = nullptr;
-    HBITMAP bitmap_ = nullptr;
-    HGDIOBJ old_ = nullptr;
+    zk::MemoryDC dc_{nullptr};
     void *bits_ = nullptr;
+    zk::Bitmap bitmap_;
+    zk::Selected selected_;
 };
 
 } // namespace
