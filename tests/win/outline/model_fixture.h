@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
@@ -18,18 +19,7 @@ namespace outlinetest {
 constexpr int kListId = 101;
 constexpr int kComboId = 102;
 
-// Owner-draw rows without strings, as adoption makes them.
-constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 constexpr DWORD kComboStyle = CBS_DROPDOWN | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
-
-inline LRESULT Send(HWND w, UINT m, WPARAM wp = 0, LPARAM lp = 0) { return SendMessageW(w, m, wp, lp); }
-
-// The data word a row holds in the list itself, past the subclass.
-inline std::uintptr_t RawData(HWND list, int row, bool combo = false) {
-    const WNDPROC base = reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC));
-    return static_cast<std::uintptr_t>(
-        CallWindowProcW(base, list, combo ? CB_GETITEMDATA : LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
-}
 
 // The item of a row, read through the record layout: the item test itself
 // lives inside the library, with its table of live items. A row whose flags
@@ -48,36 +38,6 @@ inline std::wstring RowText(HWND list, int row) {
     wchar_t buffer[512] = {};
     Send(list, LB_GETTEXT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(buffer));
     return buffer;
-}
-
-// The records as the library keeps them in the window properties.
-inline LbxChild ChildRecord(HWND window) {
-    LbxChild copy{};
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxChild *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
-}
-
-inline LbxParent ParentRecord(HWND window) {
-    LbxParent copy{};
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ParentLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxParent *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
-}
-
-template <class F>
-void EditChildRecord(HWND window, F &&f) {
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        f(*static_cast<LbxChild *>(p));
-        LocalUnlock(handle);
-    }
 }
 
 inline LONG WindowStyle(HWND w) { return GetWindowLongW(w, GWL_STYLE); }

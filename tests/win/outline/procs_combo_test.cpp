@@ -54,12 +54,7 @@ TEST_F(Combo, TextsAndDataThroughTheItems) {
 
 TEST_F(Combo, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
     HFONT big = CreateFontW(-30, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
-    HDC dc = GetDC(combo);
-    HGDIOBJ old = SelectObject(dc, big);
-    TEXTMETRICW tm{};
-    GetTextMetricsW(dc, &tm);
-    SelectObject(dc, old);
-    ReleaseDC(combo, dc);
+    const TEXTMETRICW tm = FontMetrics(combo, big);
     for (int row = 0; row < 3; ++row) {
         ItemAt(combo, row, true)->font = nullptr;
     }
@@ -75,9 +70,7 @@ TEST_F(Combo, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
 }
 
 TEST_F(Combo, AMousePressMakesTheFocusKnown) {
-    HLOCAL record = static_cast<HLOCAL>(GetPropW(form, L"ZK:ParentLbx"));
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags = 0;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags = 0; });
     Send(combo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     Send(combo, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     EXPECT_TRUE(ParentRecord(form).parentFlags & LBX_ParentFocusKnown);

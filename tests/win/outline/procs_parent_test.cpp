@@ -10,13 +10,7 @@ namespace {
 using namespace outlinetest;
 
 int FontHeight(HWND window, HFONT font) {
-    HDC dc = GetDC(window);
-    HGDIOBJ old = SelectObject(dc, font ? font : GetStockObject(SYSTEM_FONT));
-    TEXTMETRICW tm{};
-    GetTextMetricsW(dc, &tm);
-    SelectObject(dc, old);
-    ReleaseDC(window, dc);
-    return tm.tmHeight;
+    return FontMetrics(window, font ? font : GetStockObject(SYSTEM_FONT)).tmHeight;
 }
 
 TEST_F(ListFixture, MeasureOfARowWithoutAnItemIsFourPixelsTighterThanItsFont) {
@@ -74,12 +68,9 @@ TEST_F(ListFixture, CompareByItemTextWithoutCaseAndByStringsOtherwise) {
 TEST_F(ListFixture, DeleteUnderTheKeepBitFreesNothing) {
     Add({L"a", L"b"});
     LbxItem *item = ItemAt(list, 0);
-    HLOCAL record = static_cast<HLOCAL>(GetPropW(form, L"ZK:ParentLbx"));
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags |= LBX_ParentKeepItems;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags |= LBX_ParentKeepItems; });
     Send(list, LB_DELETESTRING, 0);
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags &= ~LBX_ParentKeepItems;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags &= ~LBX_ParentKeepItems; });
     EXPECT_EQ(item->self, item); // still alive
     EXPECT_EQ(Send(list, ZKM_LbxInsertRow, 0, reinterpret_cast<LPARAM>(item)), 0);
     EXPECT_EQ(RowText(list, 0), L"a");
@@ -184,7 +175,7 @@ TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
 }
 
 TEST_F(ComboFixture, SelectionChangeCopiesTheTextAndSendsTheHostSelect) {
-    CallWindowProcW(reinterpret_cast<WNDPROC>(GetClassLongPtrW(combo, GCLP_WNDPROC)), combo, CB_SETCURSEL, 1, 0);
+    CallWindowProcW(BaseProc(combo), combo, CB_SETCURSEL, 1, 0);
     zkt::MessageRecorder recorder;
     recorder.watch(combo);
     EXPECT_EQ(Send(form, WM_COMMAND, MAKEWPARAM(kComboId, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo)), 1);
