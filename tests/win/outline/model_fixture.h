@@ -51,6 +51,15 @@ inline std::vector<UINT> PaintNoise() {
     return ignore;
 }
 
+// The item data of every WM_DELETEITEM the form hears from now on.
+inline void RecordDeletes(zkt::TestWindow &form, std::vector<ULONG_PTR> &deleted) {
+    form.OnMessage([&deleted](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
+        if (message == WM_DELETEITEM)
+            deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
+        return false;
+    });
+}
+
 struct ListFixture : ::testing::Test {
     zkt::TestWindow form{400, 300};
     HWND list = nullptr;
@@ -63,6 +72,36 @@ struct ListFixture : ::testing::Test {
         for (const wchar_t *t : texts) {
             ASSERT_GE(ZelListAddColor(list, t, 0), 0);
         }
+    }
+};
+
+// An adopted combo box of three rows in one colour, its edit, and the
+// notification codes of the commands the form's own procedure receives.
+struct ComboFixture : ::testing::Test {
+    zkt::TestWindow form{400, 300};
+    HWND combo = nullptr;
+    HWND edit = nullptr;
+    std::vector<UINT> formCommands;
+
+    void SetUp() override {
+        form.OnMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
+            if (m == WM_COMMAND)
+                formCommands.push_back(HIWORD(w));
+            return false;
+        });
+        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
+        ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
+        for (const wchar_t *t : {L"one", L"two", L"three"})
+            ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
+        edit = GetDlgItem(combo, 1001);
+        ASSERT_NE(edit, nullptr);
+        zkt::PumpMessages();
+        formCommands.clear();
+    }
+    std::wstring EditText() {
+        wchar_t text[64] = {};
+        GetWindowTextW(edit, text, 64);
+        return text;
     }
 };
 

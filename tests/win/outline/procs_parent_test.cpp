@@ -129,34 +129,6 @@ TEST(ParentCommands, DropSelectionPostsTheDropAndRestoresFromTheCaret) {
     EXPECT_EQ(Send(list, LB_GETCURSEL), 1); // sent at once: the flag is known now
 }
 
-struct ComboFixture : ::testing::Test {
-    zkt::TestWindow form{400, 300};
-    HWND combo = nullptr;
-    HWND edit = nullptr;
-    std::vector<UINT> formCommands;
-    void SetUp() override {
-        form.OnMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
-            if (m == WM_COMMAND) {
-                formCommands.push_back(HIWORD(w));
-            }
-            return false;
-        });
-        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
-        ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
-        for (const wchar_t *t : {L"one", L"two", L"three"}) {
-            ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
-        }
-        edit = GetDlgItem(combo, 1001);
-        zkt::PumpMessages();
-        formCommands.clear();
-    }
-    std::wstring EditText() {
-        wchar_t text[64] = {};
-        GetWindowTextW(edit, text, 64);
-        return text;
-    }
-};
-
 TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
     zkt::PumpMessages();
     zkt::MessageRecorder recorder;
