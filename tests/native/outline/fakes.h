@@ -141,4 +141,12 @@ inline std::u16string TextOf(FakeRows &rows, int32_t row) {
     return item ? std::u16string(item->text.view()) : u"?";
 }
 
+// The texts of all rows, joined by blanks.
+inline std::u16string Texts(FakeRows &rows) {
+    std::u16string out;
+    for (int32_t r = 0; r < static_cast<int32_t>(rows.rows.size()); ++r)
+        out += (r ? u" " : u"") + TextOf(rows, r);
+    return out;
+}
+
 } // namespace outlinetest

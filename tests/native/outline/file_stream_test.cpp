@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "byte_writer.h"
 #include "outline/core/ofile_stream.h"
 
 using namespace zk::ofile;
@@ -11,27 +12,9 @@ using Bytes = std::vector<uint8_t>;
 
 namespace {
 
-// Little-endian pieces for vectors too long to spell out.
-struct Spell {
-    Bytes b;
-    Spell &u8(uint8_t v) {
-        b.push_back(v);
-        return *this;
-    }
-    Spell &u16(uint16_t v) { return u8(v & 0xFF).u8(v >> 8); }
-    Spell &u32(uint32_t v) { return u16(v & 0xFFFF).u16(v >> 16); }
-    Spell &wide(std::u16string_view s) { // tag and a one-byte length
-        u8(0xFF).u16(0xFFFE).u8(static_cast<uint8_t>(s.size()));
-        for (char16_t c : s)
-            u16(c);
-        return *this;
-    }
-    Spell &narrow(std::string_view s) { // an older stream's string
-        u8(static_cast<uint8_t>(s.size()));
-        for (char c : s)
-            u8(static_cast<uint8_t>(c));
-        return *this;
-    }
+// An outline stream of the default header (indent 5) and items whose
+// picture stands for both states.
+struct Spell : zkt::ByteWriterOf<Spell> {
     Spell &header(uint32_t pics, uint32_t fonts, uint32_t items) {
         return u16(0x8759).u32(0).u32(5).u32(0).u32(pics).u32(fonts).u32(items);
     }

@@ -32,21 +32,17 @@ RowInput WithPicture(RowInput in, int32_t w = 16, int32_t h = 16) {
     return in;
 }
 
+auto Fields(const LbxRect &r) { return std::tuple(r.left, r.top, r.right, r.bottom); }
+
 TEST(PaintGeometry, LineAndBoxSums) {
     // indent 8, average width 7: half 3, step 24.
     const RowLayout l = LayoutRow(TreeRow(2));
-    EXPECT_EQ(l.half, 3);
-    EXPECT_EQ(l.step, 24);
-    EXPECT_EQ(l.indentPx, 48);
+    EXPECT_EQ(std::tuple(l.half, l.step, l.indentPx), std::tuple(3, 24, 48));
     EXPECT_EQ(LbxLineX(l.step, 2, 0), 38); // the box of level 2 centres at 38
     EXPECT_EQ(LbxLineX(l.step, 1, 0), l.step / 2 + 2);
     EXPECT_EQ(LbxLineX(l.step, 1, 100), 114);
     EXPECT_EQ(LbxMidY(LbxRect{0, 20, 10, 35}), 27);
-    const LbxRect box = LbxBoxRect(38, 28);
-    EXPECT_EQ(box.left, 34);
-    EXPECT_EQ(box.top, 24);
-    EXPECT_EQ(box.right - box.left, 9);
-    EXPECT_EQ(box.bottom - box.top, 9);
+    EXPECT_EQ(Fields(LbxBoxRect(38, 28)), std::tuple(34, 24, 34 + 9, 24 + 9));
     // Odd average widths truncate.
     RowInput odd = TreeRow(1);
     odd.ave = 9;
@@ -87,10 +83,7 @@ TEST(PaintGeometry, TextUnderThePicture) {
 
 TEST(PaintGeometry, Frames) {
     RowLayout l = LayoutRow(WithPicture(TreeRow(1, LBX_StyleTextSelect)));
-    EXPECT_EQ(l.frame.left, l.textX - 2);
-    EXPECT_EQ(l.frame.right, l.textX - 2 + 50 + 4);
-    EXPECT_EQ(l.frame.top, 20);
-    EXPECT_EQ(l.frame.bottom, 36);
+    EXPECT_EQ(Fields(l.frame), std::tuple(l.textX - 2, 20, l.textX - 2 + 50 + 4, 36));
     RowInput wide = TreeRow(1, LBX_StyleTextSelect);
     wide.textW = 500;
     EXPECT_EQ(LayoutRow(wide).frame.right, 200);
@@ -110,21 +103,15 @@ TEST(PaintGeometry, DisabledRowsGetAMargin) {
     in.disabled = true;
     EXPECT_EQ(LayoutRow(in).frame.left, LayoutRow(in).textX - 2); // left edge 0: no margin
     in.row.left = 1;
-    const LbxRect f = LayoutRow(in).frame;
-    EXPECT_EQ(f.left, 0);
-    EXPECT_EQ(f.top, 19);
-    EXPECT_EQ(f.right, 202);
-    EXPECT_EQ(f.bottom, 38);
+    EXPECT_EQ(Fields(LayoutRow(in).frame), std::tuple(0, 19, 202, 38));
 }
 
 TEST(PaintGeometry, TextRectangleUsesTheAverageGapForFlatItems) {
     RowInput in = WithPicture(Row());
-    const LbxRect r = TextRectangle(in);
-    EXPECT_EQ(r.left, 7 + 16); // the paint puts it at 5 + 16
+    // Left at 7 + 16 where the paint puts it at 5 + 16; the bottom from the
+    // larger of text and picture.
+    EXPECT_EQ(Fields(TextRectangle(in)), std::tuple(7 + 16, 21, 7 + 16 + 54, 21 + 16));
     EXPECT_EQ(LayoutRow(in).textX, 5 + 16);
-    EXPECT_EQ(r.top, 21);
-    EXPECT_EQ(r.right, r.left + 54);
-    EXPECT_EQ(r.bottom, 21 + 16); // the larger of text and picture
     const LbxRect t = TextRectangle(TreeRow(3));
     EXPECT_EQ(t.left, 72);
     EXPECT_EQ(t.bottom, 21 + 13);
@@ -135,71 +122,58 @@ TEST(PaintGeometry, TextRectangleUsesTheAverageGapForFlatItems) {
 }
 
 TEST(PaintLook, ColoursAndPictureByState) {
-    StateLook l = ChooseLook(0, 0, false);
-    EXPECT_EQ(l.text, TextColour::Item);
-    EXPECT_EQ(l.back, BackColour::Background);
-    EXPECT_EQ(l.picture, PictureChoice::Normal);
-    EXPECT_EQ(l.mark, SelectedMark::Clear);
-    l = ChooseLook(0, 0, true);
-    EXPECT_EQ(l.text, TextColour::HighlightText);
-    EXPECT_EQ(l.back, BackColour::Highlight);
-    EXPECT_EQ(l.picture, PictureChoice::Selected);
-    EXPECT_EQ(l.mark, SelectedMark::Set);
-    EXPECT_EQ(ChooseLook(LBX_StyleKeepTextColor, 0, true).text, TextColour::Item);
-    EXPECT_EQ(ChooseLook(LBX_StyleKeepTextColor, 0, true).back, BackColour::Highlight);
-    l = ChooseLook(LBX_StyleNoHighlight | LBX_StyleItemColorBack, 0, true);
-    EXPECT_EQ(l.text, TextColour::Item);
-    EXPECT_EQ(l.back, BackColour::Background);
-    EXPECT_EQ(ChooseLook(LBX_StyleItemColorBack, 0, true).back, BackColour::Item);
+    using enum TextColour;
+    using enum PictureChoice;
+    using enum SelectedMark;
+    const struct {
+        uint32_t style, flags;
+        bool selected;
+        std::tuple<TextColour, BackColour, PictureChoice, SelectedMark> look;
+    } cases[] = {
+        {0, 0, false, {Item, BackColour::Background, Normal, Clear}},
+        {0, 0, true, {HighlightText, BackColour::Highlight, Selected, Set}},
+        {LBX_StyleKeepTextColor, 0, true, {Item, BackColour::Highlight, Selected, Set}},
+        {LBX_StyleNoHighlight | LBX_StyleItemColorBack, 0, true, {Item, BackColour::Background, Selected, Set}},
+        {LBX_StyleItemColorBack, 0, true, {HighlightText, BackColour::Item, Selected, Set}},
+        // A selected disabled row paints as not selected.
+        {0, LBX_ItemDisabled, true, {Item, BackColour::Background, Normal, Clear}},
+        // An owed inactive frame keeps the selection mark as it is.
+        {0, LBX_ItemInactive, true, {Item, BackColour::Background, SelectedElseNormal, Keep}},
+        {0, LBX_ItemInactive, false, {Item, BackColour::Background, Normal, Keep}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << std::hex << c.style << " " << c.flags << " " << c.selected);
+        const StateLook l = ChooseLook(c.style, c.flags, c.selected);
+        EXPECT_EQ(std::tuple(l.text, l.back, l.picture, l.mark), c.look);
+    }
 }
 
-TEST(PaintLook, DisabledAndInactiveRows) {
-    // A selected disabled row paints as not selected.
-    StateLook l = ChooseLook(0, LBX_ItemDisabled, true);
-    EXPECT_EQ(l.back, BackColour::Background);
-    EXPECT_EQ(l.mark, SelectedMark::Clear);
-    EXPECT_EQ(l.picture, PictureChoice::Normal);
-    // An owed inactive frame keeps the selection mark as it is.
-    l = ChooseLook(0, LBX_ItemInactive, true);
-    EXPECT_EQ(l.text, TextColour::Item);
-    EXPECT_EQ(l.back, BackColour::Background);
-    EXPECT_EQ(l.picture, PictureChoice::SelectedElseNormal);
-    EXPECT_EQ(l.mark, SelectedMark::Keep);
-    EXPECT_EQ(ChooseLook(0, LBX_ItemInactive, false).picture, PictureChoice::Normal);
-}
-
-TEST(PaintPicture, BitmapPlaces) {
+TEST(PaintPicture, BitmapAndIconPlaces) {
     const LbxRect row{0, 20, 200, 36};
-    // A 32-line bitmap in a 16-line row shows its middle 16 lines.
-    PicturePlace p = PlaceBitmap(row, 0, 32, 32, 7, 24);
-    EXPECT_EQ(p.sourceTop, 8);
-    EXPECT_EQ(p.top, 20);
-    EXPECT_EQ(p.height, 16);
-    EXPECT_EQ(p.left, 3 + 24);
-    EXPECT_FALSE(p.fillColumn);
-    p = PlaceBitmap(row, LBX_StyleTextSelect, 16, 10, 5, 0);
-    EXPECT_EQ(p.sourceTop, 0);
-    EXPECT_EQ(p.top, 23);
-    EXPECT_EQ(p.height, 10);
-    EXPECT_EQ(p.left, 2);
-    EXPECT_TRUE(p.fillColumn);
-    p = PlaceBitmap(row, LBX_StylePictureAbove | LBX_StyleTextSelect, 32, 32, 7, 24);
-    EXPECT_EQ(p.top, 20);
-    EXPECT_EQ(p.left, (200 - 32) / 2 + 1);
-    EXPECT_EQ(p.sourceTop, 0);
-    EXPECT_FALSE(p.fillColumn);
-    p = PlaceBitmap({50, 0, 60, 16}, LBX_StylePictureAbove, 32, 16, 0, 0);
-    EXPECT_EQ(p.left, 50); // never left of the row
-}
-
-TEST(PaintPicture, IconPlaces) {
-    const LbxRect row{0, 20, 200, 36};
-    PicturePlace p = PlaceIcon(row, 0, 32, 32, 7, 24);
-    EXPECT_EQ(p.top, 12); // no source offset: the icon stands out of the row
-    EXPECT_EQ(p.left, 27);
-    EXPECT_EQ(p.height, 32);
-    EXPECT_TRUE(PlaceIcon(row, LBX_StyleTextSelect, 16, 16, 0, 0).fillColumn);
-    EXPECT_EQ(PlaceIcon(row, LBX_StylePictureAbove, 16, 16, 0, 0).top, 20);
+    const uint32_t above = LBX_StylePictureAbove, text = LBX_StyleTextSelect;
+    const struct {
+        bool icon;
+        LbxRect row;
+        uint32_t style;
+        int32_t picW, picH, gap, indentPx;
+        std::tuple<int32_t, int32_t, int32_t, int32_t, bool> place; // left, top, source top, height, fill
+    } cases[] = {
+        // A 32-line bitmap in a 16-line row shows its middle 16 lines.
+        {false, row, 0, 32, 32, 7, 24, {3 + 24, 20, 8, 16, false}},
+        {false, row, text, 16, 10, 5, 0, {2, 23, 0, 10, true}},
+        {false, row, above | text, 32, 32, 7, 24, {(200 - 32) / 2 + 1, 20, 0, 16, false}},
+        {false, {50, 0, 60, 16}, above, 32, 16, 0, 0, {50, 0, 0, 16, false}}, // never left of the row
+        // No source offset: the icon stands out of the row.
+        {true, row, 0, 32, 32, 7, 24, {27, 12, 0, 32, false}},
+        {true, row, text, 16, 16, 0, 0, {0, 20, 0, 16, true}},
+        {true, row, above, 16, 16, 0, 0, {(200 - 16) / 2 + 1, 20, 0, 16, false}},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << (c.icon ? "icon " : "bitmap ") << c.picW << "x" << c.picH << " style "
+                                        << std::hex << c.style);
+        const PicturePlace p = (c.icon ? PlaceIcon : PlaceBitmap)(c.row, c.style, c.picW, c.picH, c.gap, c.indentPx);
+        EXPECT_EQ(std::tuple(p.left, p.top, p.sourceTop, p.height, p.fillColumn), c.place);
+    }
 }
 
 } // namespace

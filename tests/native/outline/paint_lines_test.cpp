@@ -119,57 +119,52 @@ TEST(PaintTabs, ClearedStopsUseTheDialogUnit) {
     EXPECT_EQ(TextAfterLastTab(u"abc\t"), u"");
 }
 
-TEST(PaintFlow, FullDrawOfATreeRow) {
-    const LbxRect row{0, 0, 100, 16};
-    PaintFlow f = PlanPaint(LBX_StyleAutoExtent, kActionDrawEntire, 0, true, true, 0, row);
-    EXPECT_TRUE(f.fillRow);
-    EXPECT_TRUE(f.textAndPicture);
-    EXPECT_TRUE(f.lines);
-    EXPECT_TRUE(f.autoExtent);
-    EXPECT_FALSE(f.focusOnFrame);
-    EXPECT_FALSE(f.focusOnRow);
-    EXPECT_FALSE(PlanPaint(LBX_StyleNoLines, kActionDrawEntire, 0, true, true, 0, row).lines);
-    EXPECT_FALSE(PlanPaint(0, kActionDrawEntire, 0, true, false, 0, row).lines);
-    EXPECT_FALSE(PlanPaint(0, kActionSelect, 0, true, true, 0, row).fillRow);
-    EXPECT_TRUE(PlanPaint(LBX_StyleNoHighlight, kActionSelect, 0, true, true, 0, row).fillRow);
+// The parts a plan paints, by name.
+std::string Parts(const PaintFlow &f) {
+    const std::pair<bool, const char *> parts[] = {{f.fillRow, "fill"},           {f.focusOnFrame, "focus"},
+                                                   {f.textAndPicture, "text"},    {f.lines, "lines"},
+                                                   {f.inactiveFrame, "inactive"}, {f.focusMarkFrame, "mark"},
+                                                   {f.focusMarkClear, "unmark"},  {f.focusOnFrameLate, "late"},
+                                                   {f.focusOnRow, "row"},         {f.autoExtent, "extent"}};
+    std::string out;
+    for (const auto &[on, name] : parts)
+        if (on)
+            out += (out.empty() ? "" : " ") + std::string(name);
+    return out;
 }
 
-TEST(PaintFlow, FocusActions) {
+TEST(PaintFlow, PartsByStyleActionStateAndItem) {
     const LbxRect row{0, 0, 100, 16};
-    PaintFlow f = PlanPaint(0, kActionFocus, kStateFocus, true, true, 0, row);
-    EXPECT_TRUE(f.focusOnFrame);
-    EXPECT_FALSE(f.textAndPicture);
-    EXPECT_FALSE(f.lines);
-    EXPECT_FALSE(f.focusOnFrameLate);
-    f = PlanPaint(LBX_StyleDropSelection, kActionFocus, kStateFocus, true, true, 0, row);
-    EXPECT_FALSE(f.focusOnFrame);
-    EXPECT_FALSE(f.textAndPicture);
-    EXPECT_TRUE(f.focusOnFrameLate);
-    f = PlanPaint(LBX_StyleShowInactive, kActionFocus, 0, true, true, 0, row);
-    EXPECT_TRUE(f.textAndPicture);
-    EXPECT_FALSE(f.lines);
-    EXPECT_FALSE(f.focusOnFrameLate);
-    // A row that does not start at the left edge gets its focus frame twice.
-    f = PlanPaint(LBX_StyleShowInactive, kActionFocus, kStateFocus, true, true, 0, {4, 0, 100, 16});
-    EXPECT_TRUE(f.focusOnFrameLate);
-    EXPECT_TRUE(f.focusOnRow);
-}
-
-TEST(PaintFlow, OwedFrames) {
-    const LbxRect row{0, 0, 100, 16};
-    PaintFlow f = PlanPaint(0, kActionFocus, 0, true, true, LBX_ItemInactive | LBX_ItemFocusMark, row);
-    EXPECT_TRUE(f.inactiveFrame);
-    EXPECT_FALSE(f.focusMarkFrame);
-    EXPECT_TRUE(f.focusMarkClear);
-    f = PlanPaint(0, kActionSelect, kStateSelected, true, true, LBX_ItemFocusMark, row);
-    EXPECT_TRUE(f.focusMarkFrame);
-    EXPECT_FALSE(f.focusMarkClear);
-    // A foreign row owes nothing and has no lines.
-    f = PlanPaint(0, kActionDrawEntire, kStateSelected, false, false, LBX_ItemInactive | LBX_ItemFocusMark, row);
-    EXPECT_FALSE(f.inactiveFrame);
-    EXPECT_FALSE(f.focusMarkFrame);
-    EXPECT_FALSE(f.lines);
-    EXPECT_TRUE(f.textAndPicture);
+    const uint32_t entire = kActionDrawEntire, select = kActionSelect, focus = kActionFocus;
+    const uint32_t owed = LBX_ItemInactive | LBX_ItemFocusMark;
+    const struct {
+        uint32_t style, action, state;
+        bool hasItem, hasNode;
+        uint32_t flags;
+        LbxRect row;
+        const char *parts;
+    } cases[] = {
+        {LBX_StyleAutoExtent, entire, 0, true, true, 0, row, "fill text lines extent"},
+        {LBX_StyleNoLines, entire, 0, true, true, 0, row, "fill text"},
+        {0, entire, 0, true, false, 0, row, "fill text"},
+        {0, select, 0, true, true, 0, row, "text lines"},
+        {LBX_StyleNoHighlight, select, 0, true, true, 0, row, "fill text lines"},
+        // Focus actions.
+        {0, focus, kStateFocus, true, true, 0, row, "focus"},
+        {LBX_StyleDropSelection, focus, kStateFocus, true, true, 0, row, "late"},
+        {LBX_StyleShowInactive, focus, 0, true, true, 0, row, "text"},
+        // A row that does not start at the left edge gets its focus frame twice.
+        {LBX_StyleShowInactive, focus, kStateFocus, true, true, 0, {4, 0, 100, 16}, "text late row"},
+        // Owed frames; a foreign row owes nothing and has no lines.
+        {0, focus, 0, true, true, owed, row, "focus inactive unmark"},
+        {0, select, kStateSelected, true, true, LBX_ItemFocusMark, row, "text lines mark"},
+        {0, entire, kStateSelected, false, false, owed, row, "fill text"},
+    };
+    for (const auto &c : cases) {
+        SCOPED_TRACE(testing::Message() << "style " << std::hex << c.style << " action " << c.action << " state "
+                                        << c.state << " item " << c.hasItem << c.hasNode << " flags " << c.flags);
+        EXPECT_EQ(Parts(PlanPaint(c.style, c.action, c.state, c.hasItem, c.hasNode, c.flags, c.row)), c.parts);
+    }
 }
 
 } // namespace

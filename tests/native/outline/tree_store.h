@@ -38,15 +38,7 @@ public:
     int32_t FocusCaret() override { return -1; }
     void *Window() override { return this; }
 
-    std::u16string Texts() {
-        std::u16string out;
-        for (int32_t r = 0; r < static_cast<int32_t>(base.rows.size()); ++r) {
-            if (!out.empty())
-                out += u' ';
-            out += TextOf(base, r);
-        }
-        return out;
-    }
+    std::u16string Texts() { return outlinetest::Texts(base); }
     // Rows for the nodes given, in that order, as ShowOutline would leave them.
     void Fill(std::initializer_list<LbxNode *> nodes) {
         base.rows.clear();

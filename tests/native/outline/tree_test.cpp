@@ -109,35 +109,31 @@ TEST(LbxFreeTree, FreesEveryNodeAndItem) {
     EXPECT_EQ(zk::LiveCount(zk::LiveKind::OutlineItem), items);
 }
 
-TEST(LbxFindText, PreOrderFromTheNodeItself) {
+// Pre-order from the node itself, without case; the whole mode compares the
+// whole text, and an empty search matches the start node.
+TEST(LbxFindText, PrefixOrWholeInPreOrderFromTheNodeItself) {
     Tree t;
     AsciiRules rules;
     LbxNode *fruit = t.Add(t.root, u"Fruit");
     LbxNode *apple = t.Add(fruit, u"Apple");
     LbxNode *apricot = t.Add(apple, u"Apricot");
     LbxNode *avocado = t.Add(t.root, u"Avocado");
-    EXPECT_EQ(LbxFindText(t.root, u"a", LBX_FindPrefix, rules), apple);
-    EXPECT_EQ(LbxFindText(t.root, u"APR", LBX_FindPrefix, rules), apricot);
-    EXPECT_EQ(LbxFindText(fruit, u"fr", LBX_FindPrefix, rules), fruit);
-    EXPECT_EQ(LbxFindText(fruit, u"avo", LBX_FindPrefix, rules), nullptr); // outside the subtree
-    EXPECT_EQ(LbxFindText(t.root, u"avo", LBX_FindPrefix, rules), avocado);
-    EXPECT_EQ(LbxFindText(t.root, u"Apricots", LBX_FindPrefix, rules), nullptr);
-}
-
-TEST(LbxFindText, WholeModeComparesTheWholeText) {
-    Tree t;
-    AsciiRules rules;
-    t.Add(t.root, u"Apple");
     LbxNode *ap = t.Add(t.root, u"Ap");
-    EXPECT_EQ(LbxFindText(t.root, u"aP", LBX_FindWhole, rules), ap);
-    EXPECT_EQ(LbxFindText(t.root, u"App", LBX_FindWhole, rules), nullptr);
-}
-
-TEST(LbxFindText, AnEmptySearchMatchesTheStartNode) {
-    Tree t;
-    AsciiRules rules;
-    t.Add(t.root, u"Apple");
-    EXPECT_EQ(LbxFindText(t.root, u"", LBX_FindPrefix, rules), t.root);
+    const struct {
+        LbxNode *from;
+        const char16_t *text;
+        int mode;
+        LbxNode *found;
+    } cases[] = {
+        {t.root, u"a", LBX_FindPrefix, apple},     {t.root, u"APR", LBX_FindPrefix, apricot},
+        {fruit, u"fr", LBX_FindPrefix, fruit},     {fruit, u"avo", LBX_FindPrefix, nullptr}, // outside the subtree
+        {t.root, u"avo", LBX_FindPrefix, avocado}, {t.root, u"Apricots", LBX_FindPrefix, nullptr},
+        {t.root, u"aP", LBX_FindWhole, ap},        {t.root, u"App", LBX_FindWhole, nullptr},
+        {t.root, u"", LBX_FindPrefix, t.root},
+    };
+    for (const auto &c : cases)
+        EXPECT_EQ(LbxFindText(c.from, c.text, c.mode, rules), c.found)
+            << std::string(c.text, c.text + std::char_traits<char16_t>::length(c.text)) << " mode " << c.mode;
 }
 
 } // namespace

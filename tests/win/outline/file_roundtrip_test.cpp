@@ -10,7 +10,7 @@ using namespace ofiletest;
 // colour, the application's bits and the hidden bit.
 std::string Content(ZelItemHandle root) {
     std::string out;
-    for (const LbxNode *n = Node(root)->firstChild; n;) {
+    for (const LbxNode *n : Walk(Node(root))) {
         char line[64];
         std::snprintf(line, sizeof line, "%d %d %06x %04x %d|", n->level, n->item->value,
                       static_cast<unsigned>(n->item->color), static_cast<unsigned>(n->item->flags & 0xFFFF),
@@ -18,13 +18,6 @@ std::string Content(ZelItemHandle root) {
         out += line;
         const std::wstring text = NodeText(n);
         out += std::string(reinterpret_cast<const char *>(text.data()), 2 * text.size());
-        if (n->firstChild) {
-            n = n->firstChild;
-            continue;
-        }
-        while (n != Node(root) && !n->next)
-            n = n->parent;
-        n = n == Node(root) ? nullptr : n->next;
     }
     return out;
 }

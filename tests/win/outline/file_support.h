@@ -12,6 +12,9 @@
 #include <string>
 #include <vector>
 
+#include "byte_writer.h"
+#include "files_support.h"
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "outline/win/pic.h"
 #include "zkharness.h"
@@ -21,34 +24,16 @@
 namespace ofiletest {
 
 using Bytes = std::vector<uint8_t>;
+using outlinetest::kListStyle;
+using outlinetest::Walk;
 using zk::CPicArray;
 
-constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 constexpr DWORD kComboStyle = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
 // Adoption with the outline bit completes the style thus.
 constexpr uint32_t kOutlineStyle = LBX_StyleOutline | LBX_StyleTextSelect | LBX_StyleOwnerDraw;
 
-// Little-endian pieces of a stream.
-struct Spell {
-    Bytes b;
-    Spell &u8(uint8_t v) {
-        b.push_back(v);
-        return *this;
-    }
-    Spell &u16(uint16_t v) { return u8(v & 0xFF).u8(v >> 8); }
-    Spell &u32(uint32_t v) { return u16(v & 0xFFFF).u16(v >> 16); }
-    Spell &wide(std::wstring_view s) {
-        u8(0xFF).u16(0xFFFE).u8(static_cast<uint8_t>(s.size()));
-        for (wchar_t c : s)
-            u16(static_cast<uint16_t>(c));
-        return *this;
-    }
-    Spell &narrow(std::string_view s) {
-        u8(static_cast<uint8_t>(s.size()));
-        for (char c : s)
-            u8(static_cast<uint8_t>(c));
-        return *this;
-    }
+// An outline stream spelt out piece by piece.
+struct Spell : zkt::ByteWriterOf<Spell> {
     Spell &header(uint32_t style, uint32_t indent, int32_t top, uint32_t pics, uint32_t fonts, uint32_t items) {
         return u16(0x8759).u32(style).u32(indent).u32(static_cast<uint32_t>(top)).u32(pics).u32(fonts).u32(items);
     }
@@ -84,31 +69,16 @@ inline std::wstring NodeText(const LbxNode *node) {
 // value, flags and colour in hex.
 inline std::string Describe(ZelItemHandle root) {
     std::string out;
-    const LbxNode *stop = Node(root);
-    for (const LbxNode *n = stop->firstChild; n;) {
+    for (const LbxNode *n : Walk(Node(root))) {
         char line[160];
         std::snprintf(line, sizeof line, "%*s%ls v%d f%08x c%06x\n", 2 * n->level, "", NodeText(n).c_str(),
                       n->item->value, static_cast<unsigned>(n->item->flags), static_cast<unsigned>(n->item->color));
         out += line;
-        if (n->firstChild) {
-            n = n->firstChild;
-            continue;
-        }
-        while (n != stop && !n->next)
-            n = n->parent;
-        n = n == stop ? nullptr : n->next;
     }
     return out;
 }
 
-inline int32_t Indent(HWND window) {
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    const auto *record = handle ? static_cast<const LbxChild *>(LocalLock(handle)) : nullptr;
-    const int32_t indent = record ? record->indent : -1;
-    if (record)
-        LocalUnlock(handle);
-    return indent;
-}
+inline int32_t Indent(HWND window) { return outlinetest::ChildRecord(window).indent; }
 
 inline int Rows(HWND list) { return static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0)); }
 inline CPicArray *PicRegistry(HWND list) { return static_cast<CPicArray *>(GetPropW(list, L"ZK:PicList")); }

@@ -18,12 +18,7 @@ struct TextFileTest : FileFixture {
 
     ZelItemHandle LoadText(const std::string &bytes, ZelPicHandle pn = 0, ZelPicHandle ps = 0, ZelPicHandle ln = 0,
                            ZelPicHandle ls = 0, HWND w = nullptr) {
-        HANDLE file =
-            CreateFileW(path.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, FILE_ATTRIBUTE_NORMAL, nullptr);
-        EXPECT_NE(file, INVALID_HANDLE_VALUE);
-        DWORD written = 0;
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(file);
+        EXPECT_TRUE(filestest::Write(path, bytes));
         return ZelListLoadOutlineFile(w ? w : list, path.c_str(), pn, ps, ln, ls);
     }
 };

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "files_support.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
@@ -50,13 +51,7 @@ inline HWND MakeList(zkt::TestWindow &form, Kind kind, DWORD listStyle = 0) {
     return w;
 }
 
-inline std::wstring Take(HostStr s) {
-    int32_t size = 0;
-    const wchar_t *text = s ? HostStrLock(s, &size) : nullptr;
-    std::wstring out = text ? text : L"<null>";
-    ZkHostStrRelease(s);
-    return out;
-}
+using filestest::Take;
 
 inline void Fill(HWND list, int rows) {
     for (int i = 0; i < rows; ++i)

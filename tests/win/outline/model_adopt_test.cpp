@@ -151,12 +151,7 @@ TEST(ZelListSetStyle, AComboCreateStructureTakesTheOwnerDrawStyle) {
 TEST(ZelListSetStyle, TheListFreesItsItemsAtItsEndAndTheParentStaysAdopted) {
     zkt::TestWindow form;
     std::vector<ULONG_PTR> deleted;
-    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
-        if (message == WM_DELETEITEM) {
-            deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
-        }
-        return false;
-    });
+    RecordDeletes(form, deleted);
     HWND list = form.AddListBox(kListId, {0, 0, 100, 100}, kListStyle);
     ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr);
     ZelListAddColor(list, L"a", 0);

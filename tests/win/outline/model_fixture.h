@@ -9,6 +9,7 @@
 #include <string>
 #include <vector>
 
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
@@ -18,18 +19,7 @@ namespace outlinetest {
 constexpr int kListId = 101;
 constexpr int kComboId = 102;
 
-// Owner-draw rows without strings, as adoption makes them.
-constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 constexpr DWORD kComboStyle = CBS_DROPDOWN | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
-
-inline LRESULT Send(HWND w, UINT m, WPARAM wp = 0, LPARAM lp = 0) { return SendMessageW(w, m, wp, lp); }
-
-// The data word a row holds in the list itself, past the subclass.
-inline std::uintptr_t RawData(HWND list, int row, bool combo = false) {
-    const WNDPROC base = reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC));
-    return static_cast<std::uintptr_t>(
-        CallWindowProcW(base, list, combo ? CB_GETITEMDATA : LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
-}
 
 // The item of a row, read through the record layout: the item test itself
 // lives inside the library, with its table of live items. A row whose flags
@@ -50,36 +40,6 @@ inline std::wstring RowText(HWND list, int row) {
     return buffer;
 }
 
-// The records as the library keeps them in the window properties.
-inline LbxChild ChildRecord(HWND window) {
-    LbxChild copy{};
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxChild *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
-}
-
-inline LbxParent ParentRecord(HWND window) {
-    LbxParent copy{};
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ParentLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        copy = *static_cast<LbxParent *>(p);
-        LocalUnlock(handle);
-    }
-    return copy;
-}
-
-template <class F>
-void EditChildRecord(HWND window, F &&f) {
-    HLOCAL handle = static_cast<HLOCAL>(GetPropW(window, L"ZK:ChildLbx"));
-    if (void *p = handle ? LocalLock(handle) : nullptr) {
-        f(*static_cast<LbxChild *>(p));
-        LocalUnlock(handle);
-    }
-}
-
 inline LONG WindowStyle(HWND w) { return GetWindowLongW(w, GWL_STYLE); }
 
 // What Wine paints when it likes, besides the common noise.
@@ -89,6 +49,15 @@ inline std::vector<UINT> PaintNoise() {
                   {WM_PAINT, WM_ERASEBKGND, WM_NCPAINT, WM_CTLCOLORLISTBOX, WM_CTLCOLOREDIT, WM_CTLCOLORSTATIC,
                    WM_DRAWITEM, WM_GETTEXT, WM_GETTEXTLENGTH, WM_SYNCPAINT, WM_GETFONT});
     return ignore;
+}
+
+// The item data of every WM_DELETEITEM the form hears from now on.
+inline void RecordDeletes(zkt::TestWindow &form, std::vector<ULONG_PTR> &deleted) {
+    form.OnMessage([&deleted](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
+        if (message == WM_DELETEITEM)
+            deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
+        return false;
+    });
 }
 
 struct ListFixture : ::testing::Test {
@@ -103,6 +72,36 @@ struct ListFixture : ::testing::Test {
         for (const wchar_t *t : texts) {
             ASSERT_GE(ZelListAddColor(list, t, 0), 0);
         }
+    }
+};
+
+// An adopted combo box of three rows in one colour, its edit, and the
+// notification codes of the commands the form's own procedure receives.
+struct ComboFixture : ::testing::Test {
+    zkt::TestWindow form{400, 300};
+    HWND combo = nullptr;
+    HWND edit = nullptr;
+    std::vector<UINT> formCommands;
+
+    void SetUp() override {
+        form.OnMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
+            if (m == WM_COMMAND)
+                formCommands.push_back(HIWORD(w));
+            return false;
+        });
+        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
+        ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
+        for (const wchar_t *t : {L"one", L"two", L"three"})
+            ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
+        edit = GetDlgItem(combo, 1001);
+        ASSERT_NE(edit, nullptr);
+        zkt::PumpMessages();
+        formCommands.clear();
+    }
+    std::wstring EditText() {
+        wchar_t text[64] = {};
+        GetWindowTextW(edit, text, 64);
+        return text;
     }
 };
 

@@ -6,7 +6,7 @@ namespace painttest {
 
 void PaintBench::SetUp() {
     list = form.AddListBox(1, {0, 0, kRowWidth, 150}, LBS_NOTIFY | LBS_OWNERDRAWVARIABLE | WS_VSCROLL);
-    font = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0, L"Tahoma");
+    font = outlinetest::PaintFont();
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
     record = LocalAlloc(LMEM_MOVEABLE | LMEM_ZEROINIT, sizeof(LbxChild));
     ASSERT_NE(record, nullptr);
@@ -38,10 +38,10 @@ void PaintBench::TearDown() {
 }
 
 void PaintBench::SetStyle(uint32_t style, int32_t indent) {
-    auto *c = static_cast<LbxChild *>(LocalLock(record));
-    c->style = style | LBX_StyleOwnerDraw;
-    c->indent = indent;
-    LocalUnlock(record);
+    outlinetest::EditChildRecord(list, [&](LbxChild &c) {
+        c.style = style | LBX_StyleOwnerDraw;
+        c.indent = indent;
+    });
 }
 
 void PaintBench::SetTabs(std::vector<int32_t> positions, int32_t count) {
@@ -50,17 +50,10 @@ void PaintBench::SetTabs(std::vector<int32_t> positions, int32_t count) {
         memcpy(LocalLock(stops), positions.data(), positions.size() * sizeof(int32_t));
         LocalUnlock(stops);
     }
-    auto *c = static_cast<LbxChild *>(LocalLock(record));
-    c->tabCount = count;
-    c->tabStops = stops;
-    LocalUnlock(record);
-}
-
-LbxChild PaintBench::Child() const {
-    LbxChild copy{};
-    copy = *static_cast<LbxChild *>(LocalLock(record));
-    LocalUnlock(record);
-    return copy;
+    outlinetest::EditChildRecord(list, [&](LbxChild &c) {
+        c.tabCount = count;
+        c.tabStops = stops;
+    });
 }
 
 LbxItem *PaintBench::Item(const wchar_t *text, COLORREF colour, uint32_t flags) {
@@ -137,26 +130,6 @@ bool PaintBench::Draw(const void *data, UINT action, UINT state, RECT row, LRESU
     if (answer)
         *answer = result;
     return handled;
-}
-
-TEXTMETRICW PaintBench::Metrics() const {
-    HDC dc = GetDC(list);
-    HGDIOBJ old = SelectObject(dc, font);
-    TEXTMETRICW tm{};
-    GetTextMetricsW(dc, &tm);
-    SelectObject(dc, old);
-    ReleaseDC(list, dc);
-    return tm;
-}
-
-int PaintBench::Width(const wchar_t *text) const {
-    HDC dc = GetDC(list);
-    HGDIOBJ old = SelectObject(dc, font);
-    SIZE size{};
-    GetTextExtentPoint32W(dc, text, lstrlenW(text), &size);
-    SelectObject(dc, old);
-    ReleaseDC(list, dc);
-    return size.cx;
 }
 
 int PaintBench::FirstColumn(COLORREF colour, int fromX, int toX) const {

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "outline/win/lbx_paint_entry.h"
 #include "outline/win/pic.h"
@@ -32,7 +33,7 @@ protected:
     // The child record's fields.
     void SetStyle(uint32_t style, int32_t indent = 8);
     void SetTabs(std::vector<int32_t> stops, int32_t count);
-    LbxChild Child() const;
+    LbxChild Child() const { return outlinetest::ChildRecord(list); }
 
     LbxItem *Item(const wchar_t *text, COLORREF colour = kBlack, uint32_t flags = 0);
     // A node under `parent` (null: under the root), made the last child.
@@ -45,8 +46,8 @@ protected:
     bool Draw(const void *data, UINT action, UINT state, RECT row = {0, 0, kRowWidth, kRowHeight},
               LRESULT *answer = nullptr);
 
-    TEXTMETRICW Metrics() const;
-    int Width(const wchar_t *text) const;
+    TEXTMETRICW Metrics() const { return outlinetest::FontMetrics(list, font); }
+    int Width(const wchar_t *text) const { return outlinetest::TextWidth(list, font, text); }
     // Columns of the canvas row band that hold the colour, first and last; -1 if none.
     int FirstColumn(COLORREF colour, int fromX = 0, int toX = kRowWidth) const;
 

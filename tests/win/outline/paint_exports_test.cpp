@@ -6,13 +6,14 @@
 #include <algorithm>
 #include <vector>
 
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "zkharness.h"
 #include "zklib.h"
 
 namespace {
 
-constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
+using namespace outlinetest;
 constexpr COLORREF kRed = RGB(255, 0, 0);
 constexpr COLORREF kBlue = RGB(0, 0, 255);
 
@@ -34,7 +35,7 @@ struct StyleWatch {
 class Exports : public ::testing::Test {
 protected:
     void SetUp() override {
-        font = CreateFontW(-11, 0, 0, 0, FW_NORMAL, 0, 0, 0, ANSI_CHARSET, 0, 0, NONANTIALIASED_QUALITY, 0, L"Tahoma");
+        font = PaintFont();
         list = form.AddListBox(1, {10, 10, 160, 150}, kListStyle);
         SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(font), FALSE);
         ASSERT_EQ(ZelListSetStyle(list, LBX_StyleOwnerDraw, nullptr), 1);
@@ -46,24 +47,8 @@ protected:
         ZelPicFree(picture);
         DeleteObject(font);
     }
-    TEXTMETRICW Metrics() const {
-        HDC dc = GetDC(list);
-        HGDIOBJ old = SelectObject(dc, font);
-        TEXTMETRICW tm{};
-        GetTextMetricsW(dc, &tm);
-        SelectObject(dc, old);
-        ReleaseDC(list, dc);
-        return tm;
-    }
-    int Width(const wchar_t *text) const {
-        HDC dc = GetDC(list);
-        HGDIOBJ old = SelectObject(dc, font);
-        SIZE size{};
-        GetTextExtentPoint32W(dc, text, lstrlenW(text), &size);
-        SelectObject(dc, old);
-        ReleaseDC(list, dc);
-        return size.cx;
-    }
+    TEXTMETRICW Metrics() const { return FontMetrics(list, font); }
+    int Width(const wchar_t *text) const { return TextWidth(list, font, text); }
     RECT Row(int row) const {
         RECT r{};
         SendMessageW(list, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&r));

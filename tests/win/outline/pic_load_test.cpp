@@ -22,12 +22,16 @@ struct Loaded {
     PIC *operator->() const { return Pic(handle); }
 };
 
+// Width and height of a loaded picture; none if it did not load.
+std::pair<int32_t, int32_t> Size(const Loaded &p) {
+    return p.handle ? std::pair(p->width, p->height) : std::pair(-1, -1);
+}
+
 TEST(PicLoad, ModuleBitmapGetsAMaskFromItsTopLeftPixel) {
     Loaded p(ZelPicLoad(0x8201, L"ZKLIB.dll", L"plusdk"));
     ASSERT_NE(p.handle, 0);
     EXPECT_EQ(p->type, PIC_TypeBitmap);
-    EXPECT_EQ(p->width, 16);
-    EXPECT_EQ(p->height, 16);
+    EXPECT_EQ(Size(p), std::pair(16, 16));
     EXPECT_EQ(p->flags, 0x8201);
     EXPECT_EQ(p->source, L"ZKLIB.dll");
     EXPECT_EQ(p->name, L"plusdk");
@@ -50,21 +54,15 @@ TEST(PicLoad, ExtensionOfTheModuleNameAddsTheSource) {
 
 TEST(PicLoad, ScalingToTheAskedSize) {
     Loaded natural(ZelPicLoad(0x0201, L"ZKLIB.dll", L"IDB_PATTERNGRAY"));
-    ASSERT_NE(natural.handle, 0);
-    EXPECT_EQ(natural->width, 8);
-    EXPECT_EQ(natural->height, 8);
+    EXPECT_EQ(Size(natural), std::pair(8, 8));
     Loaded small(ZelPicLoad(PIC_SizeSmall | PIC_SizeLarge | 0x0201, L"ZKLIB.dll", L"IDB_PATTERNGRAY"));
-    ASSERT_NE(small.handle, 0);
-    EXPECT_EQ(small->width, 16);
-    EXPECT_EQ(small->height, 16);
+    ASSERT_EQ(Size(small), std::pair(16, 16));
     BITMAP bits{};
     GetObjectW(small->bitmap, sizeof(bits), &bits);
     EXPECT_EQ(bits.bmWidth, 16);
     Loaded large(ZelPicLoad(PIC_SizeLarge | 0x0201, L"ZKLIB.dll", L"fdr"));
-    ASSERT_NE(large.handle, 0);
-    EXPECT_EQ(large->width, GetSystemMetrics(SM_CXICON));
-    EXPECT_EQ(large->height, GetSystemMetrics(SM_CYICON));
-    ASSERT_NE(large->mask, nullptr);
+    ASSERT_EQ(Size(large), std::pair(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)));
+    EXPECT_NE(large->mask, nullptr);
 }
 
 TEST(PicLoad, ModuleFailures) {
@@ -86,9 +84,7 @@ TEST(PicLoad, ModuleIconsByNameAndByIndex) {
     EXPECT_NE(named->icon, nullptr);
     EXPECT_EQ(named->width, GetSystemMetrics(SM_CXICON));
     Loaded small(ZelPicLoad(PIC_SizeSmall | 0x0202, L"ZKLIB.dll", L"ZK"));
-    ASSERT_NE(small.handle, 0);
-    EXPECT_EQ(small->width, 16);
-    EXPECT_EQ(small->height, 16);
+    EXPECT_EQ(Size(small), std::pair(16, 16));
     Loaded first(ZelPicLoad(0x0202, L"ZKLIB.dll", L"#0"));
     ASSERT_NE(first.handle, 0);
     EXPECT_EQ(first->type, PIC_TypeIcon);
@@ -104,14 +100,10 @@ TEST(PicLoad, BitmapFilesPaintOpaque) {
     ASSERT_NE(p.handle, 0);
     EXPECT_EQ(p->type, PIC_TypeBitmap);
     EXPECT_EQ(p->flags, PIC_LoadFile | PIC_FormatBitmap);
-    EXPECT_EQ(p->width, 5);
-    EXPECT_EQ(p->height, 3);
+    EXPECT_EQ(Size(p), std::pair(5, 3));
     EXPECT_EQ(p->mask, nullptr);
     EXPECT_EQ(BitmapPixel(p->bitmap, 1, 1), RGB(0, 0, 255));
-    Loaded scaled(ZelPicLoad(PIC_SizeSmall, file.path().c_str(), L""));
-    ASSERT_NE(scaled.handle, 0);
-    EXPECT_EQ(scaled->width, 16);
-    EXPECT_EQ(scaled->height, 16);
+    EXPECT_EQ(Size(Loaded(ZelPicLoad(PIC_SizeSmall, file.path().c_str(), L""))), std::pair(16, 16));
     EXPECT_EQ(ZelPicLoad(0, L"c:\\no\\such\\file.bmp", L""), 0);
 }
 
@@ -120,11 +112,8 @@ TEST(PicLoad, IconFilesTakeTheirSizeFromTheHotSpot) {
     Loaded p(ZelPicLoad(0, file.path().c_str(), L""));
     ASSERT_NE(p.handle, 0);
     EXPECT_EQ(p->type, PIC_TypeIcon);
-    EXPECT_EQ(p->width, 32);
-    EXPECT_EQ(p->height, 32);
-    Loaded small(ZelPicLoad(PIC_SizeSmall, file.path().c_str(), L""));
-    ASSERT_NE(small.handle, 0);
-    EXPECT_EQ(small->width, 16);
+    EXPECT_EQ(Size(p), std::pair(32, 32));
+    EXPECT_EQ(Size(Loaded(ZelPicLoad(PIC_SizeSmall, file.path().c_str(), L""))).first, 16);
 }
 
 TEST(PicLoad, NamesThatReadAsNothingGiveTheEmptyPicture) {
@@ -147,16 +136,14 @@ TEST(PicLoad, BitmapFromMemory) {
     Loaded p(ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap, reinterpret_cast<const wchar_t *>(bmp.data()), L""));
     ASSERT_NE(p.handle, 0);
     EXPECT_EQ(p->type, PIC_TypeBitmap);
-    EXPECT_EQ(p->width, 6);
-    EXPECT_EQ(p->height, 4);
+    EXPECT_EQ(Size(p), std::pair(6, 4));
     ASSERT_NE(p->mask, nullptr);
     EXPECT_EQ(BitmapPixel(p->mask, 0, 0), kWhite);
     EXPECT_EQ(BitmapPixel(p->mask, 1, 0), kBlack);
     EXPECT_EQ(BitmapPixel(p->bitmap, 3, 3), RGB(0, 0, 128));
-    Loaded small(ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap | PIC_SizeSmall,
-                            reinterpret_cast<const wchar_t *>(bmp.data()), L""));
-    ASSERT_NE(small.handle, 0);
-    EXPECT_EQ(small->width, 16);
+    const Loaded small(ZelPicLoad(PIC_LoadMemory | PIC_FormatBitmap | PIC_SizeSmall,
+                                  reinterpret_cast<const wchar_t *>(bmp.data()), L""));
+    EXPECT_EQ(Size(small).first, 16);
     // No format bit: the trace names what reads as the source.
     zkt::DebugOutputCapture debug;
     EXPECT_EQ(ZelPicLoad(PIC_LoadMemory, reinterpret_cast<const wchar_t *>(bmp.data()), L""), 0);
@@ -198,12 +185,10 @@ TEST(PicLoad, IconFromMemory) {
     ASSERT_NE(p.handle, 0);
     EXPECT_EQ(p->type, PIC_TypeMemoryIcon);
     // Without a size bit an icon from memory takes the system icon size.
-    EXPECT_EQ(p->width, GetSystemMetrics(SM_CXICON));
-    EXPECT_EQ(p->height, GetSystemMetrics(SM_CYICON));
-    Loaded small(ZelPicLoad(PIC_LoadMemory | PIC_FormatIcon | PIC_SizeSmall,
-                            reinterpret_cast<const wchar_t *>(ico.data()), L""));
-    ASSERT_NE(small.handle, 0);
-    EXPECT_EQ(small->width, 16);
+    EXPECT_EQ(Size(p), std::pair(GetSystemMetrics(SM_CXICON), GetSystemMetrics(SM_CYICON)));
+    const Loaded small(ZelPicLoad(PIC_LoadMemory | PIC_FormatIcon | PIC_SizeSmall,
+                                  reinterpret_cast<const wchar_t *>(ico.data()), L""));
+    EXPECT_EQ(Size(small).first, 16);
     Bytes lying = ico;
     lying[38] = 1; // the image claims to be compressed
     EXPECT_EQ(ZelPicLoad(PIC_LoadMemory | PIC_FormatIcon, reinterpret_cast<const wchar_t *>(lying.data()), L""), 0);

@@ -1,17 +1,14 @@
 #include "pic_support.h"
 
+#include "files_support.h"
+
 namespace pictest {
 
 TempFile::TempFile(const std::wstring &name, const Bytes &bytes) {
     wchar_t folder[MAX_PATH] = {};
     GetTempPathW(MAX_PATH, folder);
     path_ = std::wstring(folder) + name;
-    HANDLE file = CreateFileW(path_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    if (file != INVALID_HANDLE_VALUE) {
-        DWORD written = 0;
-        WriteFile(file, bytes.data(), static_cast<DWORD>(bytes.size()), &written, nullptr);
-        CloseHandle(file);
-    }
+    EXPECT_TRUE(filestest::Write(path_, std::string(bytes.begin(), bytes.end())));
 }
 
 TempFile::~TempFile() { DeleteFileW(path_.c_str()); }

@@ -5,42 +5,21 @@ namespace {
 
 using namespace outlinetest;
 
-struct Combo : ::testing::Test {
-    zkt::TestWindow form{400, 300};
-    HWND combo = nullptr;
-    HWND edit = nullptr;
-    void SetUp() override {
-        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
-        ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
-        for (const wchar_t *t : {L"one", L"two", L"three"}) {
-            ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
-        }
-        edit = GetDlgItem(combo, 1001);
-        ASSERT_NE(edit, nullptr);
-        zkt::PumpMessages();
-    }
-    std::wstring EditText() {
-        wchar_t text[64] = {};
-        GetWindowTextW(edit, text, 64);
-        return text;
-    }
-};
-
-TEST_F(Combo, SetCurSelCopiesTheItemTextIntoTheEdit) {
+TEST_F(ComboFixture, SetCurSelCopiesTheItemTextIntoTheEdit) {
     EXPECT_EQ(Send(combo, CB_SETCURSEL, 2), 2);
     EXPECT_EQ(EditText(), L"three");
     EXPECT_EQ(Send(combo, 1038, static_cast<WPARAM>(-1)), CB_ERR); // the old number
     EXPECT_EQ(EditText(), L"");
 }
 
-TEST_F(Combo, ADisabledRowClearsTheEditAndTheSelection) {
+TEST_F(ComboFixture, ADisabledRowClearsTheEditAndTheSelection) {
     ZelListDisableItem(combo, 1, 0);
     EXPECT_EQ(Send(combo, CB_SETCURSEL, 1), 1);
     EXPECT_EQ(EditText(), L"");
     EXPECT_EQ(Send(combo, CB_GETCURSEL), CB_ERR);
 }
 
-TEST_F(Combo, TextsAndDataThroughTheItems) {
+TEST_F(ComboFixture, TextsAndDataThroughTheItems) {
     wchar_t text[16] = {};
     EXPECT_EQ(Send(combo, CB_GETLBTEXT, 1, reinterpret_cast<LPARAM>(text)), 3);
     EXPECT_STREQ(text, L"two");
@@ -52,14 +31,9 @@ TEST_F(Combo, TextsAndDataThroughTheItems) {
     EXPECT_EQ(Send(combo, 1031), CB_ERR);
 }
 
-TEST_F(Combo, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
+TEST_F(ComboFixture, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
     HFONT big = CreateFontW(-30, 0, 0, 0, FW_NORMAL, 0, 0, 0, DEFAULT_CHARSET, 0, 0, 0, 0, L"Tahoma");
-    HDC dc = GetDC(combo);
-    HGDIOBJ old = SelectObject(dc, big);
-    TEXTMETRICW tm{};
-    GetTextMetricsW(dc, &tm);
-    SelectObject(dc, old);
-    ReleaseDC(combo, dc);
+    const TEXTMETRICW tm = FontMetrics(combo, big);
     for (int row = 0; row < 3; ++row) {
         ItemAt(combo, row, true)->font = nullptr;
     }
@@ -74,24 +48,17 @@ TEST_F(Combo, SetFontSetsTheFieldHeightAndMeasuresTheRows) {
     DeleteObject(big);
 }
 
-TEST_F(Combo, AMousePressMakesTheFocusKnown) {
-    HLOCAL record = static_cast<HLOCAL>(GetPropW(form, L"ZK:ParentLbx"));
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags = 0;
-    LocalUnlock(record);
+TEST_F(ComboFixture, AMousePressMakesTheFocusKnown) {
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags = 0; });
     Send(combo, WM_LBUTTONDOWN, MK_LBUTTON, MAKELPARAM(5, 5));
     Send(combo, WM_LBUTTONUP, 0, MAKELPARAM(5, 5));
     EXPECT_TRUE(ParentRecord(form).parentFlags & LBX_ParentFocusKnown);
     Send(combo, CB_SHOWDROPDOWN, FALSE);
 }
 
-TEST_F(Combo, ItsEndFreesItemsAndBrush) {
+TEST_F(ComboFixture, ItsEndFreesItemsAndBrush) {
     std::vector<ULONG_PTR> deleted;
-    form.OnMessage([&](HWND, UINT message, WPARAM, LPARAM lParam, LRESULT &) {
-        if (message == WM_DELETEITEM) {
-            deleted.push_back(reinterpret_cast<const DELETEITEMSTRUCT *>(lParam)->itemData);
-        }
-        return false;
-    });
+    RecordDeletes(form, deleted);
     HBRUSH brush = static_cast<HBRUSH>(ChildRecord(combo).bkBrush);
     ASSERT_NE(brush, nullptr);
     DestroyWindow(combo);

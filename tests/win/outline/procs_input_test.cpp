@@ -37,8 +37,7 @@ TEST_F(KeyFixture, TypeAheadFindsTheNextRowWithTheLetter) {
 
 TEST_F(KeyFixture, TypeAheadStopsAtARowThatIsNoItem) {
     static const wchar_t foreign[] = L"bravo";
-    CallWindowProcW(reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC)), list, LB_INSERTSTRING, 1,
-                    reinterpret_cast<LPARAM>(foreign));
+    CallWindowProcW(BaseProc(list), list, LB_INSERTSTRING, 1, reinterpret_cast<LPARAM>(foreign));
     Send(list, LB_SETCURSEL, 0);
     Key('B');
     EXPECT_EQ(Send(list, LB_GETCURSEL), 0);
@@ -79,13 +78,7 @@ struct BoxFixture : ListFixture {
         item->node = root;
         root->level = 1;
         Send(list, LB_GETITEMRECT, 0, reinterpret_cast<LPARAM>(&row));
-        HDC dc = GetDC(list);
-        HGDIOBJ old = SelectObject(dc, GetStockObject(DEFAULT_GUI_FONT));
-        TEXTMETRICW tm{};
-        GetTextMetricsW(dc, &tm);
-        SelectObject(dc, old);
-        ReleaseDC(list, dc);
-        const int step = 8 * (tm.tmAveCharWidth / 2);
+        const int step = 8 * (FontMetrics(list, GetStockObject(DEFAULT_GUI_FONT)).tmAveCharWidth / 2);
         boxX = LbxLineX(step, 1, row.left);
         boxY = LbxMidY(LbxRect{row.left, row.top, row.right, row.bottom});
         zkt::PumpMessages();

@@ -5,8 +5,6 @@ namespace {
 
 using namespace outlinetest;
 
-WNDPROC BaseProc(HWND list) { return reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC)); }
-
 // A row put in past the engine, as rows added before adoption are.
 LRESULT AddForeign(HWND list, const void *data) {
     return CallWindowProcW(BaseProc(list), list, LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(data));
@@ -106,9 +104,7 @@ TEST_F(ListFixture, TabStopsAreKeptInPixelsOrClearedToMinusOne) {
 }
 
 void ForgetFocus(HWND form) {
-    HLOCAL record = static_cast<HLOCAL>(GetPropW(form, L"ZK:ParentLbx"));
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags = 0;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags = 0; });
 }
 
 // The list notifies its focus in any case; a focus that came from a sibling

@@ -10,13 +10,7 @@ namespace {
 using namespace outlinetest;
 
 int FontHeight(HWND window, HFONT font) {
-    HDC dc = GetDC(window);
-    HGDIOBJ old = SelectObject(dc, font ? font : GetStockObject(SYSTEM_FONT));
-    TEXTMETRICW tm{};
-    GetTextMetricsW(dc, &tm);
-    SelectObject(dc, old);
-    ReleaseDC(window, dc);
-    return tm.tmHeight;
+    return FontMetrics(window, font ? font : GetStockObject(SYSTEM_FONT)).tmHeight;
 }
 
 TEST_F(ListFixture, MeasureOfARowWithoutAnItemIsFourPixelsTighterThanItsFont) {
@@ -74,12 +68,9 @@ TEST_F(ListFixture, CompareByItemTextWithoutCaseAndByStringsOtherwise) {
 TEST_F(ListFixture, DeleteUnderTheKeepBitFreesNothing) {
     Add({L"a", L"b"});
     LbxItem *item = ItemAt(list, 0);
-    HLOCAL record = static_cast<HLOCAL>(GetPropW(form, L"ZK:ParentLbx"));
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags |= LBX_ParentKeepItems;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags |= LBX_ParentKeepItems; });
     Send(list, LB_DELETESTRING, 0);
-    static_cast<LbxParent *>(LocalLock(record))->parentFlags &= ~LBX_ParentKeepItems;
-    LocalUnlock(record);
+    EditParentRecord(form, [](LbxParent &p) { p.parentFlags &= ~LBX_ParentKeepItems; });
     EXPECT_EQ(item->self, item); // still alive
     EXPECT_EQ(Send(list, ZKM_LbxInsertRow, 0, reinterpret_cast<LPARAM>(item)), 0);
     EXPECT_EQ(RowText(list, 0), L"a");
@@ -138,34 +129,6 @@ TEST(ParentCommands, DropSelectionPostsTheDropAndRestoresFromTheCaret) {
     EXPECT_EQ(Send(list, LB_GETCURSEL), 1); // sent at once: the flag is known now
 }
 
-struct ComboFixture : ::testing::Test {
-    zkt::TestWindow form{400, 300};
-    HWND combo = nullptr;
-    HWND edit = nullptr;
-    std::vector<UINT> formCommands;
-    void SetUp() override {
-        form.OnMessage([this](HWND, UINT m, WPARAM w, LPARAM, LRESULT &) {
-            if (m == WM_COMMAND) {
-                formCommands.push_back(HIWORD(w));
-            }
-            return false;
-        });
-        combo = form.AddComboBox(kComboId, {10, 10, 150, 200}, kComboStyle);
-        ASSERT_EQ(ZelListSetStyle(combo, LBX_StyleOwnerDraw, nullptr), 1);
-        for (const wchar_t *t : {L"one", L"two", L"three"}) {
-            ASSERT_GE(ZelListAddColor(combo, t, 0x0000FF), 0);
-        }
-        edit = GetDlgItem(combo, 1001);
-        zkt::PumpMessages();
-        formCommands.clear();
-    }
-    std::wstring EditText() {
-        wchar_t text[64] = {};
-        GetWindowTextW(edit, text, 64);
-        return text;
-    }
-};
-
 TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
     zkt::PumpMessages();
     zkt::MessageRecorder recorder;
@@ -184,7 +147,7 @@ TEST_F(ComboFixture, FirstFocusPostsTheNextControlAndIsNotForwarded) {
 }
 
 TEST_F(ComboFixture, SelectionChangeCopiesTheTextAndSendsTheHostSelect) {
-    CallWindowProcW(reinterpret_cast<WNDPROC>(GetClassLongPtrW(combo, GCLP_WNDPROC)), combo, CB_SETCURSEL, 1, 0);
+    CallWindowProcW(BaseProc(combo), combo, CB_SETCURSEL, 1, 0);
     zkt::MessageRecorder recorder;
     recorder.watch(combo);
     EXPECT_EQ(Send(form, WM_COMMAND, MAKEWPARAM(kComboId, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo)), 1);

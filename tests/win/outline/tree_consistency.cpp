@@ -11,10 +11,7 @@ namespace treetest {
 
 namespace {
 
-std::uintptr_t BaseData(HWND list, int row) {
-    const WNDPROC base = reinterpret_cast<WNDPROC>(GetClassLongPtrW(list, GCLP_WNDPROC));
-    return static_cast<std::uintptr_t>(CallWindowProcW(base, list, LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
-}
+using outlinetest::RawData;
 
 std::string Name(const LbxNode *node) {
     std::string out;
@@ -88,21 +85,6 @@ LbxNode *RootOf(HWND list) { return reinterpret_cast<LbxNode *>(ZelListGetRoot(l
 
 } // namespace
 
-std::vector<LbxNode *> Walk(LbxNode *root) {
-    std::vector<LbxNode *> order;
-    for (LbxNode *n = root->firstChild; n;) {
-        order.push_back(n);
-        if (n->firstChild) {
-            n = n->firstChild;
-            continue;
-        }
-        while (n != root && !n->next)
-            n = n->parent;
-        n = n == root ? nullptr : n->next;
-    }
-    return order;
-}
-
 std::string CheckTree(HWND list, const Tolerance &tol) {
     LbxNode *root = RootOf(list);
     if (!root)
@@ -128,7 +110,7 @@ std::string CheckRows(HWND list, const Tolerance &tol) {
     const int count = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0));
     std::size_t lastPos = 0;
     for (int row = 0; row < count; ++row) {
-        auto found = position.find(reinterpret_cast<const LbxItem *>(BaseData(list, row)));
+        auto found = position.find(reinterpret_cast<const LbxItem *>(RawData(list, row)));
         if (found == position.end())
             return "row " + std::to_string(row) + " holds no node of the tree";
         LbxNode *node = order[found->second];
@@ -165,7 +147,7 @@ std::string DumpOutline(HWND list) {
     const int count = static_cast<int>(SendMessageW(list, LB_GETCOUNT, 0, 0));
     out << "rows:";
     for (int row = 0; row < count; ++row) {
-        auto *item = reinterpret_cast<LbxItem *>(BaseData(list, row));
+        auto *item = reinterpret_cast<LbxItem *>(RawData(list, row));
         out << " " << (item && item->node ? Name(item->node) : "?");
     }
     out << "\ntree:\n";

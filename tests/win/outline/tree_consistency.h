@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "list_support.h"
 #include "outline/core/lbx.h"
 
 namespace treetest {
@@ -27,8 +28,7 @@ struct Tolerance {
     std::set<const LbxNode *> childBitFree;
 };
 
-// The nodes below `root` in pre-order.
-std::vector<LbxNode *> Walk(LbxNode *root);
+using outlinetest::Walk;
 
 // Links, levels, LBX_ItemHasChildren and (as the tolerance says) connector
 // bits of every node. Empty when all agree, else the first fault.

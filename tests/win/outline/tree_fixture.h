@@ -9,6 +9,8 @@
 #include <string>
 #include <vector>
 
+#include "files_support.h"
+#include "list_support.h"
 #include "outline/core/lbx.h"
 #include "tree_consistency.h"
 #include "zkharness.h"
@@ -16,15 +18,15 @@
 
 namespace treetest {
 
-constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
+using filestest::Take;
+using outlinetest::kListStyle;
+using outlinetest::Send;
 
 using H = ZelItemHandle;
 constexpr uint32_t kConn = LBX_ItemConnectors;
 constexpr uint32_t kBox = LBX_ItemExpanded | LBX_ItemMinus | LBX_ItemPlus;
 
 inline const LbxNode *N(H h) { return reinterpret_cast<const LbxNode *>(h); }
-
-inline LRESULT Send(HWND w, UINT m, WPARAM wp = 0, LPARAM lp = 0) { return SendMessageW(w, m, wp, lp); }
 
 inline std::wstring TextOf(H h) { return reinterpret_cast<const wchar_t *>(N(h)->item->text.c_str()); }
 

@@ -8,15 +8,6 @@ namespace {
 
 using namespace treetest;
 
-std::wstring HostText(HostStr s) {
-    int32_t size = 0;
-    const wchar_t *p = s ? HostStrLock(s, &size) : nullptr;
-    std::wstring out = p ? p : L"<none>";
-    if (s)
-        ZkHostStrRelease(s);
-    return out;
-}
-
 TEST_F(FamilyFixture, FieldsSearchesAndEnumerationsByHandle) {
     EXPECT_EQ(ZelListGetParent(a2a), a2);
     EXPECT_EQ(ZelListGetParent(root), 0);
@@ -24,7 +15,7 @@ TEST_F(FamilyFixture, FieldsSearchesAndEnumerationsByHandle) {
     EXPECT_EQ(ZelListSetItemColor(a1, 0x12345678), 1);
     EXPECT_EQ(ZelListGetItemColor(a1), 0x12345678); // high byte kept
     EXPECT_EQ(ZelListSetItemText(a1, L"renamed"), a1);
-    EXPECT_EQ(HostText(ZelListGetItemText(a1)), L"renamed");
+    EXPECT_EQ(Take(ZelListGetItemText(a1)), L"renamed");
     EXPECT_EQ(ZelListGetItemIndex(a2b), 4);
     EXPECT_EQ(ZelListGetItemIndex(root), -1);
     // SetItemData stores the whole flag word, connector bits included.
@@ -34,7 +25,7 @@ TEST_F(FamilyFixture, FieldsSearchesAndEnumerationsByHandle) {
     int32_t value = 0;
     uint32_t flags = 0;
     EXPECT_EQ(ZelListGetItemData(a3, &data, &value, &flags), 1);
-    EXPECT_EQ(HostText(data), L"three");
+    EXPECT_EQ(Take(data), L"three");
     EXPECT_EQ(value, 5);
     zkt::TestWindow other;
     EXPECT_EQ(ZelListSetItemData(other.AddListBox(1, {0, 0, 50, 50}), a1, L"x", 0, 0), 0); // not adopted
@@ -78,7 +69,7 @@ TEST_F(FamilyFixture, StaleFreedAndForgedHandlesGetTheFailureValues) {
         EXPECT_EQ(ZelListGetItemFont(h), -1);
         EXPECT_EQ(ZelListGetItemFlags(h), 0u);
         EXPECT_EQ(ZelListGetItemValue(h), 0);
-        EXPECT_EQ(HostText(ZelListGetItemText(h)), L"");
+        EXPECT_EQ(Take(ZelListGetItemText(h)), L"");
         EXPECT_EQ(ZelListGetItemData(h, nullptr, nullptr, nullptr), 0);
         EXPECT_EQ(ZelListGetItemPicture(h, nullptr, nullptr), 0);
         EXPECT_EQ(ZelListGetItemIndex(h), -1);
