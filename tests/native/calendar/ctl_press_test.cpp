@@ -21,7 +21,7 @@ long At(const Events &events, const std::string &event) {
     return found == events.end() ? -1 : found - events.begin();
 }
 
-TEST(CalPressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
+TEST(PressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     Control c(2024, 3, 15);
     c.Style(CALS_PopUp, 1);
     const auto p = c.Centre(25); // 21 March
@@ -36,7 +36,7 @@ TEST(CalPressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     EXPECT_EQ(c.state, 0);
 }
 
-TEST(CalPressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
+TEST(PressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
     Control c(2024, 3, 15);
     const auto cell = c.layout.CellRect(10);
     c.input.LButtonDown(cell.right, cell.top + 2, 0); // the gap after cell 10
@@ -53,7 +53,7 @@ TEST(CalPressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15})) << "an extra cell is not taken without Select Extra";
 }
 
-TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
+TEST(PressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
     Control c(2024, 3, 15);
     const auto p = c.Centre(19);
     c.input.LButtonDown(p.x, p.y, 0);
@@ -79,7 +79,7 @@ TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
     EXPECT_EQ(c.state, 0);
 }
 
-TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) {
+TEST(PressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) {
     Control c(2024, 3, 15);
     c.fx.timersFail = true;
     const auto p = c.Centre(19);
@@ -94,7 +94,7 @@ TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) 
     EXPECT_EQ(d.Focus(), (Ymd{2024, 3, 15}));
 }
 
-TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksArePosted) {
+TEST(PressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksArePosted) {
     Control c(2024, 3, 15);
     c.Style(CALS_MultipleSelection, 1);
     c.cal().ClearMarks(0);
@@ -113,7 +113,7 @@ TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksAre
     EXPECT_FALSE(Has(c.fx.Take(), "post dblclk 20"));
 }
 
-TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
+TEST(PressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     Control c(2024, 3, 15);
     const auto r = c.layout.RightButton();
     c.input.LButtonDown(r.left + 2, 3, 0);
@@ -140,7 +140,7 @@ TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     EXPECT_FALSE(c.input.Timer(507));
 }
 
-TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
+TEST(PressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     Control c(2024, 3, 15);
     const auto l = c.layout.LeftButton();
     c.input.LButtonDown(l.left + 2, 3, zk::kMouseControl);
@@ -156,7 +156,7 @@ TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     EXPECT_TRUE(Has(c.fx.Take(), "start 502/100"));
 }
 
-TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut) {
+TEST(PressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut) {
     Control c(2024, 3, 31);
     const auto l = c.layout.LeftButton();
     c.input.LButtonDown(l.left + 2, 3, 0);
@@ -175,7 +175,7 @@ TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut
     EXPECT_EQ(c.cal().DisplayMonth(), 2);
 }
 
-TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
+TEST(PressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     Control c(2024, 3, 15);
     c.fx.focused = false;
     c.fx.validateAnswer = 0;
@@ -189,7 +189,7 @@ TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 21}));
 }
 
-TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
+TEST(PressFocus, LosingTheFocusCancelsAtTheNextTick) {
     Control c(2024, 3, 15);
     const auto r = c.layout.RightButton();
     c.input.LButtonDown(r.left + 2, 3, 0);
@@ -208,7 +208,7 @@ TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 5, 15})) << "ticks count again";
 }
 
-TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
+TEST(PressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
     Control c(2024, 3, 15);
     c.Style(CALS_PopUp, 1);
     c.input.LButtonDown(-5, 40, 0);
@@ -224,7 +224,7 @@ TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
     EXPECT_FALSE(c.input.CancelPending()) << "a press clears the cancel";
 }
 
-TEST(CalPressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
+TEST(PressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
     Control c(2024, 3, 15);
     c.input.FocusGained();
     EXPECT_EQ(c.fx.Take(), (Events{"inv cell 19", "update"}));

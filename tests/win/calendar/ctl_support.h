@@ -39,7 +39,7 @@ public:
 
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_); }
     zk::cal::CCalendar &object() const { return *object_; }
-    const zk::cal::CalLayout &layout() const { return object_->Layout(); }
+    const zk::cal::MonthLayout &layout() const { return object_->Layout(); }
     Ymd Focus() const;
     int FocusCell() const { return object_->Model().FocusCell(); }
     // The client area as the control paints it.
