@@ -13,13 +13,8 @@ using caltest::Ymd;
 using Events = std::vector<std::string>;
 namespace k = zk::cal;
 
-bool Has(const Events &events, const std::string &event) {
-    return std::find(events.begin(), events.end(), event) != events.end();
-}
-long At(const Events &events, const std::string &event) {
-    const auto found = std::find(events.begin(), events.end(), event);
-    return found == events.end() ? -1 : found - events.begin();
-}
+using zkt::EventAt;
+using zkt::Has;
 
 TEST(PressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     Control c(2024, 3, 15);
@@ -31,8 +26,8 @@ TEST(PressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     EXPECT_FALSE(Has(c.fx.Take(), "capture")) << "a pop-up does not take the capture";
     c.input.LButtonUp(p.x, p.y, 0);
     const Events e = c.fx.Take();
-    ASSERT_NE(At(e, "post select 25"), -1);
-    EXPECT_LT(At(e, "post select 25"), At(e, "notify 8")) << "the selection is posted before the close";
+    ASSERT_NE(EventAt(e, "post select 25"), -1);
+    EXPECT_LT(EventAt(e, "post select 25"), EventAt(e, "notify 8")) << "the selection is posted before the close";
     EXPECT_EQ(c.state, 0);
 }
 
@@ -185,7 +180,7 @@ TEST(PressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
     c.fx.validateAnswer = 1;
     c.input.LButtonDown(p.x, p.y, 0);
-    EXPECT_EQ(At(c.fx.Take(), "focus"), 1);
+    EXPECT_EQ(EventAt(c.fx.Take(), "focus"), 1);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 21}));
 }
 
