@@ -4,6 +4,7 @@
 // written out as [left,top,right,bottom].
 #pragma once
 
+#include <algorithm>
 #include <cstdint>
 #include <functional>
 #include <string>
@@ -85,5 +86,14 @@ private:
     }
     void Log(std::string event) { events.push_back(std::move(event)); }
 };
+
+// Where an event stands among those recorded, -1 when it is not there.
+inline long EventAt(const std::vector<std::string> &events, const std::string &event) {
+    const auto found = std::find(events.begin(), events.end(), event);
+    return found == events.end() ? -1 : static_cast<long>(found - events.begin());
+}
+inline bool Has(const std::vector<std::string> &events, const std::string &event) {
+    return EventAt(events, event) >= 0;
+}
 
 } // namespace zkt

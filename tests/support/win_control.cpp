@@ -27,6 +27,14 @@ std::vector<int> NotificationCodes(const std::vector<Posted> &posted, HWND notif
     return codes;
 }
 
+Bitmap PrintClient(HWND window) {
+    RECT client{};
+    GetClientRect(window, &client);
+    Bitmap picture(client.right, client.bottom);
+    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
+    return picture;
+}
+
 Announced CreateAnnounced(const wchar_t *className, HWND parent, Box box, int id, void *parameter) {
     Announced a;
     a.hwnd = CreateWindowExW(0, className, L"", WS_CHILD | WS_VISIBLE, box.x, box.y, box.width, box.height, parent,

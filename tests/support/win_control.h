@@ -12,6 +12,7 @@
 #include <vector>
 
 #include "zkhost.h"
+#include "zkt_bitmap.h"
 #include "zkt_pump.h"
 #include "zkt_window.h"
 
@@ -30,6 +31,13 @@ std::vector<Posted> DrainQueue();
 // The codes of the WM_COMMAND notifications that `control` posted to
 // `notify` (to any window when it is null), in order.
 std::vector<int> NotificationCodes(const std::vector<Posted> &posted, HWND notify, HWND control);
+
+// A client point as a mouse message's lParam, negative coordinates kept.
+inline LPARAM ClientPoint(int x, int y) {
+    return MAKELPARAM(static_cast<WORD>(static_cast<short>(x)), static_cast<WORD>(static_cast<short>(y)));
+}
+// The client area as the window paints it for WM_PRINTCLIENT.
+Bitmap PrintClient(HWND window);
 
 // A visible child of a control class on `parent`, and the pointer that its
 // ZKM_ControlCreate announced (0 when none was queued).

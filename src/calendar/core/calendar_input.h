@@ -21,7 +21,7 @@ inline constexpr uint16_t CALF_GridDown = 0x0020;  // grid pressed
 inline constexpr uint16_t kPressFlags = CALF_LeftDown | CALF_RightDown | CALF_GridDown;
 
 // Timers of the control's own window.
-enum CalTimer : uint32_t {
+enum TimerId : uint32_t {
     kTimerScrollDown = 500, // dragging below the client area: as the down key, every 75 ms
     kTimerScrollUp = 501,   // dragging above it: as the up key
     kTimerCatchUp = 502,    // 100 ms after a month button's release: the whole window again
@@ -32,9 +32,9 @@ enum CalTimer : uint32_t {
 };
 inline constexpr uint32_t kScrollPeriod = 75, kCatchUpPeriod = 100, kRepeatPeriod = 250;
 
-class CalInput {
+class Input {
 public:
-    CalInput(CalendarModel &model, const CalLayout &layout, ControlEffects &effects, uint16_t &state)
+    Input(CalendarModel &model, const MonthLayout &layout, ControlEffects &effects, uint16_t &state)
         : model_(model), layout_(layout), fx_(effects), state_(state) {}
 
     // WM_KEYDOWN and WM_CHAR: false when the default procedure is to have
@@ -73,7 +73,7 @@ private:
     void RefreshCell(int32_t cell, bool update);
 
     CalendarModel &model_;
-    const CalLayout &layout_;
+    const MonthLayout &layout_;
     ControlEffects &fx_;
     uint16_t &state_;
     uint8_t cancelPending_ = 0;

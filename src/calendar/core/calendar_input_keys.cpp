@@ -14,7 +14,7 @@ CDateTime MonthEnd(const CalendarModel &model, bool last) {
 
 } // namespace
 
-bool CalInput::KeyDown(uint32_t key) {
+bool Input::KeyDown(uint32_t key) {
     if (!FlagOn(model_.Flags().enableKeyboard))
         return false;
     const bool ctrl = fx_.KeyDown(kKeyControl);
@@ -79,7 +79,7 @@ bool CalInput::KeyDown(uint32_t key) {
     }
 }
 
-bool CalInput::Char(uint32_t character) {
+bool Input::Char(uint32_t character) {
     if (!FlagOn(model_.Flags().enableKeyboard))
         return false;
     switch (character) {

@@ -9,12 +9,12 @@
 
 namespace zk::cal {
 
-void CalInput::RefreshButton(bool left) {
+void Input::RefreshButton(bool left) {
     fx_.Invalidate(left ? layout_.LeftButton() : layout_.RightButton(), false);
     fx_.Update();
 }
 
-void CalInput::RefreshCell(int32_t cell, bool update) {
+void Input::RefreshCell(int32_t cell, bool update) {
     fx_.Invalidate(layout_.CellRect(cell), false);
     if (update)
         fx_.Update();
@@ -27,18 +27,18 @@ constexpr uint32_t kAllTimers[] = {kTimerScrollDown, kTimerScrollUp, kTimerCatch
 
 } // namespace
 
-void CalInput::StopAllTimers() {
+void Input::StopAllTimers() {
     for (uint32_t id : kAllTimers)
         fx_.StopTimer(id);
 }
 
 // A timer the platform cannot give is made up for by one tick at once.
-void CalInput::StartOrRun(uint32_t id, uint32_t period) {
+void Input::StartOrRun(uint32_t id, uint32_t period) {
     if (!fx_.StartTimer(id, period))
         Timer(id);
 }
 
-void CalInput::PressButton(bool left, bool ctrl) {
+void Input::PressButton(bool left, bool ctrl) {
     state_ =
         static_cast<uint16_t>((state_ & ~(CALF_LeftDown | CALF_RightDown)) | (left ? CALF_LeftDown : CALF_RightDown));
     RefreshButton(left);
@@ -50,7 +50,7 @@ void CalInput::PressButton(bool left, bool ctrl) {
     fx_.StartTimer(id, kRepeatPeriod);
 }
 
-void CalInput::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
+void Input::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
     cancelPending_ = 0;
     if (PopUp() && !layout_.Client().Contains(x, y)) {
         // A press beside the pop-up asks to close it; the press still counts.
@@ -73,7 +73,7 @@ void CalInput::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
     if (!layout_.Grid().Contains(x, y))
         return;
     state_ = static_cast<uint16_t>((state_ & ~(CALF_LeftDown | CALF_RightDown)) | CALF_GridDown);
-    const CalFlags &f = model_.Flags();
+    const StyleFlags &f = model_.Flags();
     const int32_t cell = layout_.HitTestCell(x, y, model_.FocusCell(), f.showExtra == 1 && FlagOn(f.selectExtra),
                                              model_.FirstCell(), model_.LastCell());
     if (cell != -1) {
@@ -85,13 +85,13 @@ void CalInput::LButtonDown(int32_t x, int32_t y, uint32_t keys) {
         fx_.TakeCapture();
 }
 
-void CalInput::LButtonDblClk(int32_t x, int32_t y, uint32_t keys) {
+void Input::LButtonDblClk(int32_t x, int32_t y, uint32_t keys) {
     LButtonDown(x, y, keys);
     if (layout_.Grid().Contains(x, y))
         fx_.PostToSelf(kHostMsgDoubleClick, model_.FocusCell(), 0);
 }
 
-void CalInput::DragOutsideGrid(int32_t y) {
+void Input::DragOutsideGrid(int32_t y) {
     state_ |= CALF_Outside;
     if (y >= layout_.Client().bottom) {
         fx_.StopTimer(kTimerScrollUp);
@@ -105,7 +105,7 @@ void CalInput::DragOutsideGrid(int32_t y) {
     }
 }
 
-void CalInput::MouseMove(int32_t x, int32_t y, uint32_t) {
+void Input::MouseMove(int32_t x, int32_t y, uint32_t) {
     if (!(state_ & kPressFlags))
         return;
     if (state_ & CALF_GridDown) {
@@ -113,7 +113,7 @@ void CalInput::MouseMove(int32_t x, int32_t y, uint32_t) {
             DragOutsideGrid(y);
             return;
         }
-        const CalFlags &f = model_.Flags();
+        const StyleFlags &f = model_.Flags();
         model_.SetFocusCell(layout_.HitTestCell(x, y, model_.FocusCell(), f.showExtra == 1 && FlagOn(f.selectExtra),
                                                 model_.FirstCell(), model_.LastCell()),
                             0);
@@ -136,7 +136,7 @@ void CalInput::MouseMove(int32_t x, int32_t y, uint32_t) {
         RefreshButton(left);
 }
 
-void CalInput::LButtonUp(int32_t, int32_t, uint32_t) {
+void Input::LButtonUp(int32_t, int32_t, uint32_t) {
     if (!PopUp())
         fx_.DropCapture();
     StopAllTimers();
@@ -156,12 +156,12 @@ void CalInput::LButtonUp(int32_t, int32_t, uint32_t) {
     state_ &= static_cast<uint16_t>(~(CALF_Outside | kPressFlags));
 }
 
-void CalInput::ButtonTick(bool forward, bool byYear) {
+void Input::ButtonTick(bool forward, bool byYear) {
     ButtonStep(model_, forward, byYear);
     fx_.PaintNow(layout_.Caption());
 }
 
-bool CalInput::Timer(uint32_t id) {
+bool Input::Timer(uint32_t id) {
     if (cancelPending_) {
         cancelPending_ = 0;
         CancelMode();
@@ -197,18 +197,18 @@ bool CalInput::Timer(uint32_t id) {
     }
 }
 
-void CalInput::CancelMode() {
+void Input::CancelMode() {
     state_ &= static_cast<uint16_t>(~(CALF_LeftDown | CALF_RightDown));
     fx_.DropCapture();
     StopAllTimers();
 }
 
-void CalInput::FocusGained() {
+void Input::FocusGained() {
     if (FlagOn(model_.Flags().showFocus))
         RefreshCell(model_.FocusCell(), true);
 }
 
-void CalInput::FocusLost() {
+void Input::FocusLost() {
     cancelPending_ = 1;
     if (!PopUp()) {
         RefreshCell(model_.FocusCell(), false);

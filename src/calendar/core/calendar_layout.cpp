@@ -4,27 +4,27 @@
 
 namespace zk::cal {
 
-Rect CalLayout::AreaRect(CalArea area) const {
+Rect MonthLayout::AreaRect(Area area) const {
     switch (area) {
-    case CalArea::Window:
+    case Area::Window:
         return client_;
-    case CalArea::Grid:
+    case Area::Grid:
         return grid_;
-    case CalArea::Caption:
+    case Area::Caption:
         return caption_;
-    case CalArea::WeekdayHeader:
+    case Area::WeekdayHeader:
         return weekdayHeader_;
-    case CalArea::CaptionAndHeader:
+    case Area::CaptionAndHeader:
         return caption_.Union(weekdayHeader_);
-    case CalArea::Buttons:
+    case Area::Buttons:
         return leftButton_.Union(rightButton_);
-    case CalArea::Body:
+    case Area::Body:
         return body_;
     }
     return {};
 }
 
-void CalLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int32_t rowHeight) {
+void MonthLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int32_t rowHeight) {
     client_ = {0, 0, width, height};
     // The cells grow with the window but never fall below 2.5 columns by one row.
     cellWidth_ = std::max(width / 7 - 1, columnWidth * 250 / 100);
@@ -48,9 +48,11 @@ void CalLayout::Compute(int32_t width, int32_t height, int32_t columnWidth, int3
     body_ = {client_.left, grid_.top, client_.right, client_.bottom};
 }
 
-Rect CalLayout::WeekdayBand() const { return {client_.left, weekdayHeader_.top, client_.right, weekdayHeader_.bottom}; }
+Rect MonthLayout::WeekdayBand() const {
+    return {client_.left, weekdayHeader_.top, client_.right, weekdayHeader_.bottom};
+}
 
-Rect CalLayout::CellRect(int32_t cell) const {
+Rect MonthLayout::CellRect(int32_t cell) const {
     if (cell < 0 || cell >= 42)
         return {};
     const int32_t left = grid_.left + (cell % 7) * (cellWidth_ + 1);
@@ -58,7 +60,7 @@ Rect CalLayout::CellRect(int32_t cell) const {
     return {left, top, left + cellWidth_, top + cellHeight_};
 }
 
-CellSpan CalLayout::CellRange(const Rect &area) const {
+CellSpan MonthLayout::CellRange(const Rect &area) const {
     const Rect r = area.Intersect(grid_);
     if (r.Empty() || cellWidth_ <= 0 || cellHeight_ <= 0)
         return {};
@@ -71,8 +73,8 @@ CellSpan CalLayout::CellRange(const Rect &area) const {
     return span;
 }
 
-int32_t CalLayout::HitTestCell(int32_t x, int32_t y, int32_t focusCell, bool extraPickable, int32_t firstCell,
-                               int32_t lastCell) const {
+int32_t MonthLayout::HitTestCell(int32_t x, int32_t y, int32_t focusCell, bool extraPickable, int32_t firstCell,
+                                 int32_t lastCell) const {
     int32_t result = focusCell;
     for (int32_t row = 0; row < 6; ++row)
         for (int32_t column = 0; column < 7; ++column) {

@@ -14,7 +14,7 @@ namespace zk::cal {
 
 // Which parts of the control an invalidation names; the layout knows where
 // they lie.
-enum class CalArea {
+enum class Area {
     Window,        // the whole client area
     Grid,          // the 42 cells
     Caption,       // month and year
@@ -30,7 +30,7 @@ struct CellSpan {
     bool Empty() const { return first > last; }
 };
 
-class CalLayout {
+class MonthLayout {
 public:
     // Metrics, frame and rectangles for a client area of width x height and
     // the frame's column width and row height.
@@ -69,7 +69,7 @@ public:
 
     // The rectangle of an area; Window is the client area, Buttons the
     // two buttons together.
-    Rect AreaRect(CalArea area) const;
+    Rect AreaRect(Area area) const;
 
     // The window size that fits the month exactly.
     int32_t FitWidth() const { return 7 * cellWidth_ + 8; }

@@ -25,7 +25,7 @@ inline constexpr int32_t kRoleCount = CALR_Count;
 // The style flags, stored as given. The first six are the control frame's
 // (auto-size, pop-up and its third to sixth flags); the others the
 // calendar's own. A flag counts as set above 0, auto-size when not 0.
-struct CalFlags {
+struct StyleFlags {
     int32_t autoSize = 0;
     int32_t popUp = 0;
     int32_t enableButtons = 1;
@@ -53,7 +53,7 @@ public:
 
     // The window that shows the model, as its effects and the layout that
     // tells where each area lies; null for none. The model owns neither.
-    void AttachView(ControlEffects *effects, const CalLayout *layout) {
+    void AttachView(ControlEffects *effects, const MonthLayout *layout) {
         effects_ = effects;
         layout_ = layout;
     }
@@ -121,7 +121,7 @@ public:
     static const std::array<uint16_t, kRoleCount> &RoleTable();
 
     // ---- style --------------------------------------------------------------
-    const CalFlags &Flags() const { return flags_; }
+    const StyleFlags &Flags() const { return flags_; }
     uint32_t GetStyle() const;
     // Assigns value to the flag of every bit in mask, in the fixed order,
     // with each flag's effects; unknown bits are ignored. The old bits.
@@ -136,14 +136,14 @@ public:
     void WeekdayNamesChanged();
 
 private:
-    void Invalidate(CalArea area, bool erase = false);
+    void Invalidate(Area area, bool erase = false);
     void InvalidateCell(int32_t cell);
     void UpdateNow();
     void Notify(int32_t code);
     void CheckRole(int32_t role) const;
     void MoveFocusIntoMonth();
 
-    CalFlags flags_;
+    StyleFlags flags_;
     RoleColors<kRoleCount> roles_;
     CDateTime anchorDate_;
     CDateTime focusDate_;
@@ -156,7 +156,7 @@ private:
     int32_t lastCell_ = -1;
     int32_t weekStart_ = 1;
     ControlEffects *effects_ = nullptr;
-    const CalLayout *layout_ = nullptr;
+    const MonthLayout *layout_ = nullptr;
     std::function<void(uint32_t, int32_t)> flagAssigned_;
 };
 

@@ -64,8 +64,8 @@ void CalendarModel::SetDisplayMonth(int32_t year, int32_t month, int redraw) {
     if (!Created())
         return;
     if (redraw == 1) {
-        Invalidate(CalArea::Caption);
-        Invalidate(CalArea::Grid);
+        Invalidate(Area::Caption);
+        Invalidate(Area::Grid);
     }
     Notify(CALN_MonthChange);
 }
@@ -81,10 +81,10 @@ int32_t CalendarModel::SetWeekStart(int32_t weekday) {
     return old;
 }
 
-void CalendarModel::Invalidate(CalArea area, bool erase) {
+void CalendarModel::Invalidate(Area area, bool erase) {
     if (!Created())
         return;
-    if (area == CalArea::Window)
+    if (area == Area::Window)
         effects_->InvalidateAll(erase);
     else if (layout_)
         effects_->Invalidate(layout_->AreaRect(area), erase);

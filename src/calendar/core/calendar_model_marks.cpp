@@ -69,7 +69,7 @@ int CalendarModel::ClearMarks(int updateNow) {
     const bool had = !marks_.empty();
     marks_.clear();
     if (had && Created()) {
-        Invalidate(CalArea::Grid);
+        Invalidate(Area::Grid);
         if (updateNow == 1)
             UpdateNow();
     }

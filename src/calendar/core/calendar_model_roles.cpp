@@ -19,7 +19,7 @@ constexpr std::array<uint16_t, kRoleCount> kRoleTable = {
     kBtnText, kWindowText, kFollows, kGrayText, kGrayText,  kFollows, kHighlightText, kWindowFrame,
 };
 
-CalArea RedrawArea(int32_t role) {
+Area RedrawArea(int32_t role) {
     switch (role) {
     case CALR_CellBack:
     case CALR_ExtraBack:
@@ -27,20 +27,20 @@ CalArea RedrawArea(int32_t role) {
     case CALR_CellText:
     case CALR_ExtraText:
     case CALR_MarkText:
-        return CalArea::Grid;
+        return Area::Grid;
     case CALR_HeaderBack:
-        return CalArea::CaptionAndHeader;
+        return Area::CaptionAndHeader;
     case CALR_ButtonFace:
     case CALR_ButtonLight:
     case CALR_ButtonShadow:
     case CALR_ButtonArrow:
-        return CalArea::Buttons;
+        return Area::Buttons;
     case CALR_WeekdayText:
-        return CalArea::WeekdayHeader;
+        return Area::WeekdayHeader;
     case CALR_CaptionText:
-        return CalArea::Caption;
+        return Area::Caption;
     default: // background, disabled text, frame
-        return CalArea::Window;
+        return Area::Window;
     }
 }
 

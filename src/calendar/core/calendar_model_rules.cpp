@@ -84,7 +84,7 @@ int CalendarModel::SetSpecialRule(const SSpecialRule &rule, int add) {
         if (rule.type == SPECIAL_Date)
             InvalidateCell(DateToCell(CDateTime(rule.year, rule.month, rule.day, 0, 0, 0)));
         else
-            Invalidate(CalArea::Grid);
+            Invalidate(Area::Grid);
         UpdateNow();
     }
     return 1;
@@ -94,7 +94,7 @@ int CalendarModel::ClearSpecials(int updateNow) {
     const bool had = !rules_.empty();
     rules_.clear();
     if (had && Created()) {
-        Invalidate(CalArea::Grid);
+        Invalidate(Area::Grid);
         if (updateNow == 1)
             UpdateNow();
     }

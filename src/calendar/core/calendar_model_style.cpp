@@ -19,7 +19,7 @@ bool On(int32_t flag) { return flag > 0; }
 } // namespace
 
 uint32_t CalendarModel::GetStyle() const {
-    const CalFlags &f = flags_;
+    const StyleFlags &f = flags_;
     uint32_t bits = 0;
     if (f.autoSize != 0)
         bits |= CALS_AutoSize;
@@ -55,7 +55,7 @@ uint32_t CalendarModel::SetStyle(uint32_t mask, int32_t value) {
 }
 
 void CalendarModel::AssignStyleFlag(uint32_t bit, int32_t value) {
-    CalFlags &f = flags_;
+    StyleFlags &f = flags_;
     const bool created = Created();
     switch (bit) {
     case CALS_AutoSize:
@@ -69,15 +69,15 @@ void CalendarModel::AssignStyleFlag(uint32_t bit, int32_t value) {
         break;
     case CALS_EnableButtons:
         f.enableButtons = value;
-        Invalidate(CalArea::Buttons);
+        Invalidate(Area::Buttons);
         break;
     case CALS_AlternateButtons:
         f.alternateButtons = value;
-        Invalidate(CalArea::Buttons);
+        Invalidate(Area::Buttons);
         break;
     case CALS_EtchedLook:
         f.etchedLook = value;
-        Invalidate(CalArea::Window);
+        Invalidate(Area::Window);
         break;
     case CALS_MultipleSelection:
         f.multipleSelection = value;
@@ -103,23 +103,23 @@ void CalendarModel::AssignStyleFlag(uint32_t bit, int32_t value) {
                 MoveFocusIntoMonth();
             else if (!On(f.selectExtra))
                 UnmarkExtraCells();
-            Invalidate(CalArea::Grid);
+            Invalidate(Area::Grid);
         }
         break;
     case CALS_ShowFocus:
         f.showFocus = value;
-        Invalidate(CalArea::Grid);
+        Invalidate(Area::Grid);
         break;
     case CALS_ShowGridlines:
         f.showGridlines = value;
-        Invalidate(CalArea::Body);
+        Invalidate(Area::Body);
         break;
     case CALS_ShowSpecial:
         f.showSpecial = value;
         if (created) {
             if (On(value) && !On(f.selectSpecial))
                 UnmarkSpecialCells();
-            Invalidate(CalArea::Grid);
+            Invalidate(Area::Grid);
         }
         break;
     default: // not a style bit: ignored
@@ -138,14 +138,14 @@ void CalendarModel::MoveFocusIntoMonth() {
 
 void CalendarModel::MonthNamesChanged() {
     if (Created()) {
-        Invalidate(CalArea::Caption);
+        Invalidate(Area::Caption);
         UpdateNow();
     }
 }
 
 void CalendarModel::WeekdayNamesChanged() {
     if (Created()) {
-        Invalidate(CalArea::WeekdayHeader);
+        Invalidate(Area::WeekdayHeader);
         UpdateNow();
     }
 }

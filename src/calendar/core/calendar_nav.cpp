@@ -119,8 +119,8 @@ void SelectToggle(CalendarModel &model, bool ctrl, bool shift) {
         model.MarkDate(focus, 1, 0, 1);
 }
 
-CalDay DayOfCell(const CalendarModel &model, int32_t cell) {
-    CalDay d{model.DisplayYear(), model.DisplayMonth(), 0};
+GridDay DayOfCell(const CalendarModel &model, int32_t cell) {
+    GridDay d{model.DisplayYear(), model.DisplayMonth(), 0};
     int32_t offset = cell - model.FirstCell();
     while (offset < 0) {
         PreviousMonth(d.year, d.month);
@@ -138,7 +138,7 @@ CalDay DayOfCell(const CalendarModel &model, int32_t cell) {
     return d;
 }
 
-CalDay NextCalDay(CalDay d) {
+GridDay NextGridDay(GridDay d) {
     if (++d.day > CDateTime::DaysInMonth(d.year, d.month)) {
         d.day = 1;
         NextMonth(d.year, d.month);
@@ -146,7 +146,7 @@ CalDay NextCalDay(CalDay d) {
     return d;
 }
 
-std::u16string MidnightKey(const CalDay &d) {
+std::u16string MidnightKey(const GridDay &d) {
     // yyyy-MM-dd-hh.mm.ss.mmmmmm at midnight.
     std::u16string key = u"0000-00-00-00.00.00.000000";
     auto put = [&key](size_t at, int32_t value, int digits) {

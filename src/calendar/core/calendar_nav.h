@@ -40,14 +40,14 @@ void SelectRemove(CalendarModel &model, bool ctrl, bool shift);
 
 // A day of the grid as plain numbers: what painting walks cell by cell
 // without asking the host for each date.
-struct CalDay {
+struct GridDay {
     int32_t year = 0, month = 0, day = 0;
 };
 // The day shown in a cell of the month on display.
-CalDay DayOfCell(const CalendarModel &model, int32_t cell);
-CalDay NextCalDay(CalDay d);
+GridDay DayOfCell(const CalendarModel &model, int32_t cell);
+GridDay NextGridDay(GridDay d);
 // The key text a midnight of that day has in the mark store, for years 0
 // to 9999; the caller checks once against the host's own text.
-std::u16string MidnightKey(const CalDay &d);
+std::u16string MidnightKey(const GridDay &d);
 
 } // namespace zk::cal

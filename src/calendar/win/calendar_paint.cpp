@@ -26,7 +26,7 @@ RoleTools PaintTools(const CalendarModel &model) {
     return RoleTools::ForRoles(kRoleCount, [&](int role) { return model.GetRoleColor(role); });
 }
 
-void PaintBackground(HDC dc, const RoleTools &kit, const CalLayout &layout) {
+void PaintBackground(HDC dc, const RoleTools &kit, const MonthLayout &layout) {
     const Rect &client = layout.Client();
     {
         const Selected pen(dc, kit.Pen(CALR_Background)), brush(dc, kit.Brush(CALR_Background));
@@ -36,7 +36,8 @@ void PaintBackground(HDC dc, const RoleTools &kit, const CalLayout &layout) {
     Rectangle(dc, client.left, client.top, client.right, layout.WeekdayHeader().bottom);
 }
 
-void PaintCaption(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look) {
+void PaintCaption(HDC dc, const RoleTools &kit, const MonthLayout &layout, const CalendarModel &model,
+                  const Look &look) {
     const RECT r = ToRECT(layout.Caption());
     FillRect(dc, &r, kit.Brush(CALR_HeaderBack));
     char year[16];
@@ -51,7 +52,7 @@ void PaintCaption(HDC dc, const RoleTools &kit, const CalLayout &layout, const C
               kit.Pen(CALR_ButtonFace));
 }
 
-void PaintWeekdayBand(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model,
+void PaintWeekdayBand(HDC dc, const RoleTools &kit, const MonthLayout &layout, const CalendarModel &model,
                       const Look &look) {
     const RECT band = ToRECT(layout.WeekdayBand());
     FillRect(dc, &band, kit.Brush(CALR_HeaderBack));
@@ -67,7 +68,7 @@ void PaintWeekdayBand(HDC dc, const RoleTools &kit, const CalLayout &layout, con
               kit.Pen(CALR_ButtonFace));
 }
 
-void PaintButton(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look,
+void PaintButton(HDC dc, const RoleTools &kit, const MonthLayout &layout, const CalendarModel &model, const Look &look,
                  bool left, bool down) {
     const Rect &area = left ? layout.LeftButton() : layout.RightButton();
     const RECT r = ToRECT(area);
@@ -95,7 +96,7 @@ void PaintButton(HDC dc, const RoleTools &kit, const CalLayout &layout, const Ca
     Polygon(dc, points, 3);
 }
 
-void PaintGridlines(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model) {
+void PaintGridlines(HDC dc, const RoleTools &kit, const MonthLayout &layout, const CalendarModel &model) {
     const HPEN pen = kit.Pen(On(model.Flags().etchedLook) ? CALR_ButtonShadow : CALR_Frame);
     const Rect &body = layout.Body();
     for (int32_t i = 1; i <= 6; ++i)

@@ -21,17 +21,17 @@ struct Look {
     bool focusMark = false; // the focus cell shows its mark
 };
 
-void PaintBackground(HDC dc, const RoleTools &tools, const CalLayout &layout);
-void PaintCaption(HDC dc, const RoleTools &tools, const CalLayout &layout, const CalendarModel &model,
+void PaintBackground(HDC dc, const RoleTools &tools, const MonthLayout &layout);
+void PaintCaption(HDC dc, const RoleTools &tools, const MonthLayout &layout, const CalendarModel &model,
                   const Look &look);
-void PaintWeekdayBand(HDC dc, const RoleTools &tools, const CalLayout &layout, const CalendarModel &model,
+void PaintWeekdayBand(HDC dc, const RoleTools &tools, const MonthLayout &layout, const CalendarModel &model,
                       const Look &look);
 // One month button; down when its press flag is set and the pointer is on it.
-void PaintButton(HDC dc, const RoleTools &tools, const CalLayout &layout, const CalendarModel &model, const Look &look,
-                 bool left, bool down);
+void PaintButton(HDC dc, const RoleTools &tools, const MonthLayout &layout, const CalendarModel &model,
+                 const Look &look, bool left, bool down);
 // The cells from span.first to span.last.
-void PaintCells(HDC dc, const RoleTools &tools, const CalLayout &layout, const CalendarModel &model, const Look &look,
+void PaintCells(HDC dc, const RoleTools &tools, const MonthLayout &layout, const CalendarModel &model, const Look &look,
                 CellSpan span);
-void PaintGridlines(HDC dc, const RoleTools &tools, const CalLayout &layout, const CalendarModel &model);
+void PaintGridlines(HDC dc, const RoleTools &tools, const MonthLayout &layout, const CalendarModel &model);
 
 } // namespace zk::cal

@@ -23,13 +23,13 @@ struct CellColours {
 // text, otherwise by the host's date.
 class MarkLookup {
 public:
-    MarkLookup(const CalendarModel &model, CalDay first, int32_t firstCell) : model_(model) {
+    MarkLookup(const CalendarModel &model, GridDay first, int32_t firstCell) : model_(model) {
         if (model.Marks().empty())
             return;
         const CDateTime hostDate = model.CellToDate(firstCell);
         fast_ = first.year >= 0 && first.year <= 9999 && hostDate.KeyText() == MidnightKey(first);
     }
-    bool Marked(const CalDay &d) const {
+    bool Marked(const GridDay &d) const {
         if (model_.Marks().empty())
             return false;
         if (fast_)
@@ -42,7 +42,7 @@ private:
     bool fast_ = false;
 };
 
-CellColours ColoursOf(const RoleTools &kit, const CalendarModel &model, const CalDay &d, int32_t weekday, bool marked,
+CellColours ColoursOf(const RoleTools &kit, const CalendarModel &model, const GridDay &d, int32_t weekday, bool marked,
                       bool extra, const Look &look) {
     const bool showExtra = On(model.Flags().showExtra);
     CellColours c;
@@ -91,14 +91,14 @@ std::u16string DayText(int32_t day) {
 
 } // namespace
 
-void PaintCells(HDC dc, const RoleTools &kit, const CalLayout &layout, const CalendarModel &model, const Look &look,
+void PaintCells(HDC dc, const RoleTools &kit, const MonthLayout &layout, const CalendarModel &model, const Look &look,
                 CellSpan span) {
     if (span.Empty() || model.DisplayMonth() == 0)
         return;
     const bool showExtra = On(model.Flags().showExtra);
-    CalDay day = DayOfCell(model, span.first);
+    GridDay day = DayOfCell(model, span.first);
     const MarkLookup marks(model, day, span.first);
-    for (int32_t cell = span.first; cell <= span.last; ++cell, day = NextCalDay(day)) {
+    for (int32_t cell = span.first; cell <= span.last; ++cell, day = NextGridDay(day)) {
         const bool extra = model.IsExtraCell(cell, -1, -1) == 1;
         const RECT r = ToRECT(layout.CellRect(cell));
         const CellColours colours =

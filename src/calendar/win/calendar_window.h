@@ -1,6 +1,6 @@
 // CCalendar as a window: the month model of calendar_model.h shown in the
 // client area, painted off screen by the frame's rule and driven by mouse,
-// keyboard and timers through CalInput. CDlgCalendar is the form's wrapper
+// keyboard and timers through Input. CDlgCalendar is the form's wrapper
 // that the host creates through "ZK:cCalendar:10" and that loads its
 // property block; a plain CCalendar is the pop-up of the calendar drop-down.
 //
@@ -32,7 +32,7 @@ public:
 
     CalendarModel &Model() { return model_; }
     const CalendarModel &Model() const { return model_; }
-    const CalLayout &Layout() const { return layout_; }
+    const MonthLayout &Layout() const { return layout_; }
     uint16_t State() const { return stateFlags; }
 
     // A pop-up without parent; the notify window is kept when not 0.
@@ -65,8 +65,8 @@ private:
     void FlagAssigned(uint32_t bit, int32_t value);
 
     CalendarModel model_;
-    CalLayout layout_;
-    CalInput input_;
+    MonthLayout layout_;
+    Input input_;
 };
 
 class CDlgCalendar : public CCalendar {

@@ -48,8 +48,8 @@ HostDateTime Record(int year, int month, int day, int hour, int minute, int seco
 
 std::ostream &operator<<(std::ostream &out, const Ymd &d) { return out << d.year << '-' << d.month << '-' << d.day; }
 
-std::string PartName(const zk::cal::CalLayout &layout, const zk::Rect &r) {
-    using A = zk::cal::CalArea;
+std::string PartName(const zk::cal::MonthLayout &layout, const zk::Rect &r) {
+    using A = zk::cal::Area;
     const std::pair<A, const char *> areas[] = {
         {A::Window, "window"},
         {A::Grid, "grid"},

@@ -61,13 +61,13 @@ std::ostream &operator<<(std::ostream &out, const Ymd &d);
 
 // The parts of a calendar laid out in `layout` by name ("grid", "caption",
 // "cell 14", "button left"...); empty for any other rectangle.
-std::string PartName(const zk::cal::CalLayout &layout, const zk::Rect &r);
+std::string PartName(const zk::cal::MonthLayout &layout, const zk::Rect &r);
 
 // A model on display at year/month with a window attached, whose client is
 // 140 x 100 with cells of 20 x 12.
 struct Shown {
     Shown(int year, int month, bool created = true);
-    zk::cal::CalLayout layout;
+    zk::cal::MonthLayout layout;
     zk::cal::CalendarModel cal;
     zkt::FakeEffects window;
 };

@@ -4,18 +4,12 @@
 
 #include <vector>
 
+#include "block_bytes.h"
 #include "calendar/core/calendar_block.h"
-#include "frame/core/block_io.h"
 
 namespace {
 
 using Bytes = std::vector<uint8_t>;
-
-Bytes Image(zk::SPropCalendar &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return Bytes(file.Data(), file.Data() + file.GetLength());
-}
 
 // The generic part, then the calendar's from its version word on.
 Bytes Head(uint32_t version) {
@@ -23,14 +17,6 @@ Bytes Head(uint32_t version) {
     for (int i = 0; i < 4; ++i)
         b.push_back(static_cast<uint8_t>(version >> (8 * i)));
     return b;
-}
-
-zk::SPropCalendar Read(const Bytes &bytes, bool *complete = nullptr) {
-    zk::SPropCalendar block;
-    const bool ok = zk::LoadBlockBytes(bytes.data(), bytes.size(), block);
-    if (complete)
-        *complete = ok;
-    return block;
 }
 
 TEST(CalendarBlock, WritesVersionTwoWithAlternateButtonsLast) {
@@ -57,7 +43,7 @@ TEST(CalendarBlock, WritesVersionTwoWithAlternateButtonsLast) {
         expected.push_back(0);
     }
     expected.push_back(1); // alternateButtons
-    EXPECT_EQ(Image(block), expected);
+    EXPECT_EQ(zkt::StoredBytes(block), expected);
 }
 
 TEST(CalendarBlock, ReadsBackWhatItWrote) {
@@ -67,7 +53,7 @@ TEST(CalendarBlock, ReadsBackWhatItWrote) {
     block.initialDateMode = 1;
     block.initialDate = u"1999-12-31";
     bool complete = false;
-    const zk::SPropCalendar back = Read(Image(block), &complete);
+    const zk::SPropCalendar back = zkt::ReadBlock<zk::SPropCalendar>(zkt::StoredBytes(block), &complete);
     EXPECT_TRUE(complete);
     EXPECT_EQ(back.alternateButtons, 1);
     EXPECT_EQ(back.showSpecial, 1);
@@ -79,7 +65,7 @@ TEST(CalendarBlock, VersionZeroReadsNothingOfTheCalendar) {
     Bytes bytes = Head(0);
     bytes.insert(bytes.end(), {1, 1, 1, 1, 1, 1}); // would be read by a later version
     bool complete = false;
-    const zk::SPropCalendar block = Read(bytes, &complete);
+    const zk::SPropCalendar block = zkt::ReadBlock<zk::SPropCalendar>(bytes, &complete);
     EXPECT_TRUE(complete);
     EXPECT_EQ(block.style1, 1) << "the generic part was read";
     EXPECT_EQ(block.etchedLook, 0);
@@ -89,7 +75,7 @@ TEST(CalendarBlock, VersionZeroReadsNothingOfTheCalendar) {
 TEST(CalendarBlock, VersionOneStopsBeforeAlternateButtons) {
     Bytes bytes = Head(1);
     bytes.insert(bytes.end(), {1, 0, 0, 0, 1, 1, 0, 0, 0, 0, 0, /* alternate */ 1});
-    const zk::SPropCalendar block = Read(bytes);
+    const zk::SPropCalendar block = zkt::ReadBlock<zk::SPropCalendar>(bytes);
     EXPECT_EQ(block.etchedLook, 1);
     EXPECT_EQ(block.selectExtra, 0);
     EXPECT_EQ(block.showSpecial, 1);
@@ -97,18 +83,18 @@ TEST(CalendarBlock, VersionOneStopsBeforeAlternateButtons) {
     EXPECT_EQ(block.alternateButtons, 0) << "not in version 1";
     Bytes later = Head(7);
     later.insert(later.end(), {0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 1});
-    EXPECT_EQ(Read(later).alternateButtons, 1) << "any later version reads everything";
+    EXPECT_EQ(zkt::ReadBlock<zk::SPropCalendar>(later).alternateButtons, 1) << "any later version reads everything";
 }
 
 TEST(CalendarBlock, AShortBlockIsNotComplete) {
     Bytes bytes = Head(2);
     bytes.insert(bytes.end(), {1, 1});
     bool complete = true;
-    const zk::SPropCalendar block = Read(bytes, &complete);
+    const zk::SPropCalendar block = zkt::ReadBlock<zk::SPropCalendar>(bytes, &complete);
     EXPECT_FALSE(complete);
     EXPECT_EQ(block.etchedLook, 1) << "fields read before the end keep their values";
     bool emptyComplete = true;
-    Read(Bytes{}, &emptyComplete);
+    zkt::ReadBlock<zk::SPropCalendar>(Bytes{}, &emptyComplete);
     EXPECT_FALSE(emptyComplete);
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 using zk::cal::CDateTime;
 
-TEST(CalCellDays, AgreeWithTheModelsDatesKeysAndRules) {
+TEST(CellDays, AgreeWithTheModelsDatesKeysAndRules) {
     for (int weekStart : {1, 2, 7}) {
         for (int month = 1; month <= 12; ++month) {
             caltest::Shown s(month == 1 ? 2000 : 2023, month);
@@ -18,8 +18,8 @@ TEST(CalCellDays, AgreeWithTheModelsDatesKeysAndRules) {
             s.cal.AssignStyleFlag(CALS_ShowSpecial, 1);
             s.cal.SetSpecialRule(zk::cal::SSpecialRule(SPECIAL_Weekly, CDateTime(2023, 1, 1), 3, 0, 1, 2), 1);
             s.cal.SetSpecialRule(zk::cal::SSpecialRule(SPECIAL_MonthWeekday, CDateTime(2023, 1, 1), 6, 2, 3, 4), 1);
-            zk::cal::CalDay day = zk::cal::DayOfCell(s.cal, 0);
-            for (int cell = 0; cell < 42; ++cell, day = zk::cal::NextCalDay(day)) {
+            zk::cal::GridDay day = zk::cal::DayOfCell(s.cal, 0);
+            for (int cell = 0; cell < 42; ++cell, day = zk::cal::NextGridDay(day)) {
                 const CDateTime date = s.cal.CellToDate(cell);
                 ASSERT_EQ(caltest::Parts(date), (caltest::Ymd{day.year, day.month, day.day}))
                     << month << " cell " << cell << " start " << weekStart;

@@ -29,10 +29,10 @@ struct Control {
     caltest::Ymd Focus() { return caltest::Parts(shown.cal.GetFocusDate()); }
 
     caltest::Shown shown;
-    zk::cal::CalLayout layout;
+    zk::cal::MonthLayout layout;
     zkt::FakeEffects fx;
     uint16_t state = 0;
-    zk::cal::CalInput input{shown.cal, layout, fx, state};
+    zk::cal::Input input{shown.cal, layout, fx, state};
 };
 
 } // namespace calctl

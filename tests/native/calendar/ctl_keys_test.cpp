@@ -14,7 +14,7 @@ using zk::cal::CDateTime;
 using Events = std::vector<std::string>;
 namespace k = zk::cal;
 
-TEST(CalKeys, PageUpGoesForwardInTimeAndRepaintsTheCaption) {
+TEST(Keys, PageUpGoesForwardInTimeAndRepaintsTheCaption) {
     Control c(2024, 3, 31);
     EXPECT_TRUE(c.input.KeyDown(zk::kKeyPrior));
     EXPECT_EQ(c.Focus(), (Ymd{2024, 4, 30}));
@@ -27,7 +27,7 @@ TEST(CalKeys, PageUpGoesForwardInTimeAndRepaintsTheCaption) {
     EXPECT_EQ(c.Focus(), (Ymd{2023, 3, 1})) << "a year back: the host rolls 29 February 2023 over";
 }
 
-TEST(CalKeys, CtrlPageUpOn29FebruaryTakesTheHostsRollOver) {
+TEST(Keys, CtrlPageUpOn29FebruaryTakesTheHostsRollOver) {
     Control c(2024, 2, 29);
     c.fx.ctrl = true;
     EXPECT_TRUE(c.input.KeyDown(zk::kKeyPrior));
@@ -35,7 +35,7 @@ TEST(CalKeys, CtrlPageUpOn29FebruaryTakesTheHostsRollOver) {
     EXPECT_EQ(c.fx.Take(), (Events{"paint caption"}));
 }
 
-TEST(CalKeys, HomeAndEndWithTheirModifiers) {
+TEST(Keys, HomeAndEndWithTheirModifiers) {
     Control c(2024, 2, 14); // cells 4 to 32; the 14th is cell 17
     c.input.KeyDown(zk::kKeyHome);
     EXPECT_EQ(c.cal().FocusCell(), 14);
@@ -54,7 +54,7 @@ TEST(CalKeys, HomeAndEndWithTheirModifiers) {
     EXPECT_EQ(c.cal().DisplayMonth(), 12);
 }
 
-TEST(CalKeys, ArrowsAndCharacters) {
+TEST(Keys, ArrowsAndCharacters) {
     Control c(2024, 3, 15);
     c.input.KeyDown(zk::kKeyDown);
     c.input.KeyDown(zk::kKeyRight);
@@ -73,7 +73,7 @@ TEST(CalKeys, ArrowsAndCharacters) {
     EXPECT_FALSE(c.input.KeyDown(0x41)) << "keys the calendar leaves alone go to the default";
 }
 
-TEST(CalKeys, WithoutEnableKeyboardNothingActs) {
+TEST(Keys, WithoutEnableKeyboardNothingActs) {
     Control c(2024, 3, 15);
     c.Style(CALS_EnableKeyboard, 0);
     EXPECT_FALSE(c.input.KeyDown(zk::kKeyRight));
@@ -81,7 +81,7 @@ TEST(CalKeys, WithoutEnableKeyboardNothingActs) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
 }
 
-TEST(CalKeys, ReturnOnAFormDoesNothingAndClosesAPopUp) {
+TEST(Keys, ReturnOnAFormDoesNothingAndClosesAPopUp) {
     Control c(2024, 3, 15);
     EXPECT_TRUE(c.input.KeyDown(zk::kKeyReturn));
     EXPECT_TRUE(c.fx.Take().empty());
@@ -93,7 +93,7 @@ TEST(CalKeys, ReturnOnAFormDoesNothingAndClosesAPopUp) {
     EXPECT_EQ(std::count(e.begin(), e.end(), std::string("post select 19")), 0) << "nothing was pressed";
 }
 
-TEST(CalKeys, SelectionKeysNeedMultipleSelection) {
+TEST(Keys, SelectionKeysNeedMultipleSelection) {
     Control c(2024, 3, 15);
     c.cal().ClearMarks(0);
     c.input.KeyDown(zk::kKeySpace);

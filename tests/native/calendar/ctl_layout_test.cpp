@@ -9,16 +9,16 @@ namespace {
 using zk::Point;
 using zk::Rect;
 using zk::cal::ArrowCorners;
-using zk::cal::CalLayout;
+using zk::cal::MonthLayout;
 
-CalLayout Laid(int w, int h, int column = 8, int row = 12) {
-    CalLayout layout;
+MonthLayout Laid(int w, int h, int column = 8, int row = 12) {
+    MonthLayout layout;
     layout.Compute(w, h, column, row);
     return layout;
 }
 
-TEST(CalLayoutMetrics, TheWorkedExample) {
-    const CalLayout l = Laid(140, 100);
+TEST(LayoutMetrics, TheWorkedExample) {
+    const MonthLayout l = Laid(140, 100);
     EXPECT_EQ(l.CellWidth(), 20) << "max(140 / 7 - 1, 8 * 2.5)";
     EXPECT_EQ(l.CellHeight(), 12) << "max(100 / 8 - 1, 12)";
     EXPECT_EQ(l.ButtonWidth(), 13);
@@ -32,8 +32,8 @@ TEST(CalLayoutMetrics, TheWorkedExample) {
     EXPECT_EQ(l.WeekdayBand(), (Rect{0, 13, 140, 25}));
 }
 
-TEST(CalLayoutMetrics, CellsGrowWithTheWindowAndTheFrameIsCentred) {
-    const CalLayout l = Laid(400, 300);
+TEST(LayoutMetrics, CellsGrowWithTheWindowAndTheFrameIsCentred) {
+    const MonthLayout l = Laid(400, 300);
     EXPECT_EQ(l.CellWidth(), 56);
     EXPECT_EQ(l.CellHeight(), 36);
     EXPECT_EQ(l.ButtonWidth(), 37) << "an even cell height gives an odd button";
@@ -45,18 +45,18 @@ TEST(CalLayoutMetrics, CellsGrowWithTheWindowAndTheFrameIsCentred) {
     EXPECT_EQ(Laid(100, 100, 8, 13).ButtonWidth(), 13) << "an odd cell height is the button's width";
 }
 
-TEST(CalLayoutMetrics, TheFittedSizeLaysOutTheSameCells) {
+TEST(LayoutMetrics, TheFittedSizeLaysOutTheSameCells) {
     for (int row : {10, 12, 13, 17}) {
-        const CalLayout small = Laid(50, 40, 7, row);
-        const CalLayout fitted = Laid(small.FitWidth(), small.FitHeight(), 7, row);
+        const MonthLayout small = Laid(50, 40, 7, row);
+        const MonthLayout fitted = Laid(small.FitWidth(), small.FitHeight(), 7, row);
         EXPECT_EQ(fitted.CellWidth(), small.CellWidth()) << row;
         EXPECT_EQ(fitted.CellHeight(), small.CellHeight()) << row;
         EXPECT_EQ(fitted.Frame().left, 1) << "two pixels to spare, one on each side";
     }
 }
 
-TEST(CalLayoutCells, RectanglesLeaveOnePixelGapsAndMinusOneIsEmpty) {
-    const CalLayout l = Laid(140, 100);
+TEST(LayoutCells, RectanglesLeaveOnePixelGapsAndMinusOneIsEmpty) {
+    const MonthLayout l = Laid(140, 100);
     EXPECT_EQ(l.CellRect(0), (Rect{0, 26, 20, 38}));
     EXPECT_EQ(l.CellRect(1), (Rect{21, 26, 41, 38}));
     EXPECT_EQ(l.CellRect(8), (Rect{21, 39, 41, 51}));
@@ -65,8 +65,8 @@ TEST(CalLayoutCells, RectanglesLeaveOnePixelGapsAndMinusOneIsEmpty) {
     EXPECT_TRUE(l.CellRect(42).Empty());
 }
 
-TEST(CalLayoutCells, RangesOfRectangles) {
-    const CalLayout l = Laid(140, 100);
+TEST(LayoutCells, RangesOfRectangles) {
+    const MonthLayout l = Laid(140, 100);
     auto range = [&](Rect r) {
         const auto s = l.CellRange(r);
         return std::pair(s.first, s.last);
@@ -80,8 +80,8 @@ TEST(CalLayoutCells, RangesOfRectangles) {
     EXPECT_EQ(range(Rect{-50, -50, 500, 500}), std::pair(0, 41)) << "cut to the grid";
 }
 
-TEST(CalLayoutCells, HitTestKeepsTheFocusInGapsAndRefusesExtraCells) {
-    const CalLayout l = Laid(140, 100);
+TEST(LayoutCells, HitTestKeepsTheFocusInGapsAndRefusesExtraCells) {
+    const MonthLayout l = Laid(140, 100);
     // A month from cell 3 to 33.
     EXPECT_EQ(l.HitTestCell(25, 30, 10, true, 3, 33), 1);
     EXPECT_EQ(l.HitTestCell(20, 30, 10, true, 3, 33), 10) << "the gap between cells 0 and 1";
@@ -92,7 +92,7 @@ TEST(CalLayoutCells, HitTestKeepsTheFocusInGapsAndRefusesExtraCells) {
     EXPECT_EQ(l.HitTestCell(70, 30, 10, false, 3, 33), 3);
 }
 
-TEST(CalLayoutArrows, PlainButtonsPointDownAndUp) {
+TEST(LayoutArrows, PlainButtonsPointDownAndUp) {
     const Rect left{0, 0, 13, 12}, right{127, 0, 140, 12};
     // a = (12 - 4) / 3 = 2, b = 13 / 2 = 6.
     const auto down = ArrowCorners(left, true, false, false);
@@ -107,7 +107,7 @@ TEST(CalLayoutArrows, PlainButtonsPointDownAndUp) {
     EXPECT_EQ(pressed[1], (Point{7, 7})) << "pressed: one pixel down and right";
 }
 
-TEST(CalLayoutArrows, AlternateButtonsPointLeftAndRight) {
+TEST(LayoutArrows, AlternateButtonsPointLeftAndRight) {
     const Rect left{0, 0, 13, 12}, right{127, 0, 140, 12};
     // a = (13 - 4) / 3 = 3, b = 12 / 2 = 6.
     const auto l = ArrowCorners(left, true, false, true);
@@ -121,8 +121,8 @@ TEST(CalLayoutArrows, AlternateButtonsPointLeftAndRight) {
     EXPECT_GT(r[0].x, r[1].x) << "right";
 }
 
-TEST(CalLayoutGridlines, RunThroughTheGaps) {
-    const CalLayout l = Laid(140, 100);
+TEST(LayoutGridlines, RunThroughTheGaps) {
+    const MonthLayout l = Laid(140, 100);
     for (int i = 1; i <= 6; ++i) {
         const int x = l.GridlineX(i);
         EXPECT_EQ(x, l.CellRect(i - 1).right) << i;

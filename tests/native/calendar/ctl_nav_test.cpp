@@ -11,7 +11,7 @@ using calctl::Control;
 using caltest::Ymd;
 using zk::cal::CDateTime;
 
-TEST(CalMoveFocus, WithoutExtraCellsTheMonthTurnsAtItsEdges) {
+TEST(MoveFocus, WithoutExtraCellsTheMonthTurnsAtItsEdges) {
     Control c(2024, 1, 31); // January 2024: cells 1 to 31
     c.Style(CALS_ShowExtra, 0);
     ASSERT_EQ(c.cal().FocusCell(), 31);
@@ -25,7 +25,7 @@ TEST(CalMoveFocus, WithoutExtraCellsTheMonthTurnsAtItsEdges) {
     EXPECT_EQ(c.Focus(), (Ymd{2023, 12, 27})) << "five weeks up, into December of the year before";
 }
 
-TEST(CalMoveFocus, WithExtraCellsTheDisplayStaysUntilTheGridEnds) {
+TEST(MoveFocus, WithExtraCellsTheDisplayStaysUntilTheGridEnds) {
     Control c(2024, 1, 31);
     zk::cal::MoveFocus(c.cal(), 1);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 1}));
@@ -41,7 +41,7 @@ TEST(CalMoveFocus, WithExtraCellsTheDisplayStaysUntilTheGridEnds) {
     EXPECT_EQ(c.cal().DisplayMonth(), 1);
 }
 
-TEST(CalStepMonth, CutsTheDayAndWrapsTheYear) {
+TEST(StepMonth, CutsTheDayAndWrapsTheYear) {
     Control c(2024, 1, 31);
     zk::cal::StepMonth(c.cal(), true, 1);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 2, 29}));
@@ -53,7 +53,7 @@ TEST(CalStepMonth, CutsTheDayAndWrapsTheYear) {
     EXPECT_EQ(d.Focus(), (Ymd{2024, 11, 30}));
 }
 
-TEST(CalRowEnds, HomeAndEndStopAtTheMonthWithoutExtraCells) {
+TEST(RowEnds, HomeAndEndStopAtTheMonthWithoutExtraCells) {
     Control c(2024, 2, 26); // February 2024: cells 4 to 32
     EXPECT_EQ(zk::cal::RowEndCell(c.cal()), 34);
     c.Style(CALS_ShowExtra, 0);
@@ -64,14 +64,14 @@ TEST(CalRowEnds, HomeAndEndStopAtTheMonthWithoutExtraCells) {
     EXPECT_EQ(zk::cal::RowStartCell(c.cal()), 0);
 }
 
-class CalSelection : public testing::Test {
+class Selection : public testing::Test {
 protected:
-    CalSelection() { c.Style(CALS_MultipleSelection, 1); }
+    Selection() { c.Style(CALS_MultipleSelection, 1); }
     bool Marked(int day) { return c.cal().IsMarked(CDateTime(2024, 3, day)) == 1; }
     Control c{2024, 3, 10};
 };
 
-TEST_F(CalSelection, ToggleMarksAndUnmarksTheFocus) {
+TEST_F(Selection, ToggleMarksAndUnmarksTheFocus) {
     c.cal().ClearMarks(0);
     zk::cal::SelectToggle(c.cal(), false, false);
     EXPECT_TRUE(Marked(10));
@@ -80,7 +80,7 @@ TEST_F(CalSelection, ToggleMarksAndUnmarksTheFocus) {
     EXPECT_EQ(c.cal().Marks().size(), 0u);
 }
 
-TEST_F(CalSelection, ShiftTakesTheRangeFromTheAnchorAsTheAnchorIs) {
+TEST_F(Selection, ShiftTakesTheRangeFromTheAnchorAsTheAnchorIs) {
     c.cal().ClearMarks(0);
     zk::cal::SelectToggle(c.cal(), false, false); // 10 marked, the anchor
     c.cal().SetFocusCell(c.cal().FocusCell() + 3, 0);
@@ -95,7 +95,7 @@ TEST_F(CalSelection, ShiftTakesTheRangeFromTheAnchorAsTheAnchorIs) {
     EXPECT_TRUE(Marked(20));
 }
 
-TEST_F(CalSelection, AddAndRemoveKeepOthersOnlyWithCtrl) {
+TEST_F(Selection, AddAndRemoveKeepOthersOnlyWithCtrl) {
     c.cal().MarkDate(CDateTime(2024, 3, 2), 1, 0, 1);
     zk::cal::SelectAdd(c.cal(), true, false);
     EXPECT_TRUE(Marked(2) && Marked(10));
@@ -108,7 +108,7 @@ TEST_F(CalSelection, AddAndRemoveKeepOthersOnlyWithCtrl) {
     EXPECT_EQ(c.cal().GetAnchorDate().KeyText(), CDateTime(2024, 3, 10).KeyText());
 }
 
-TEST_F(CalSelection, ToggleDoesNotMarkACellThatCannotBeSelected) {
+TEST_F(Selection, ToggleDoesNotMarkACellThatCannotBeSelected) {
     c.cal().ClearMarks(0);
     c.Style(CALS_ShowSpecial, 1);
     c.Style(CALS_SelectSpecial, 0);

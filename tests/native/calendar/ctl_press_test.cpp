@@ -13,15 +13,10 @@ using caltest::Ymd;
 using Events = std::vector<std::string>;
 namespace k = zk::cal;
 
-bool Has(const Events &events, const std::string &event) {
-    return std::find(events.begin(), events.end(), event) != events.end();
-}
-long At(const Events &events, const std::string &event) {
-    const auto found = std::find(events.begin(), events.end(), event);
-    return found == events.end() ? -1 : found - events.begin();
-}
+using zkt::EventAt;
+using zkt::Has;
 
-TEST(CalPressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
+TEST(PressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     Control c(2024, 3, 15);
     c.Style(CALS_PopUp, 1);
     const auto p = c.Centre(25); // 21 March
@@ -31,12 +26,12 @@ TEST(CalPressGrid, APressInAPopUpReleasedOnTheSameCellSelectsThenClosesUp) {
     EXPECT_FALSE(Has(c.fx.Take(), "capture")) << "a pop-up does not take the capture";
     c.input.LButtonUp(p.x, p.y, 0);
     const Events e = c.fx.Take();
-    ASSERT_NE(At(e, "post select 25"), -1);
-    EXPECT_LT(At(e, "post select 25"), At(e, "notify 8")) << "the selection is posted before the close";
+    ASSERT_NE(EventAt(e, "post select 25"), -1);
+    EXPECT_LT(EventAt(e, "post select 25"), EventAt(e, "notify 8")) << "the selection is posted before the close";
     EXPECT_EQ(c.state, 0);
 }
 
-TEST(CalPressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
+TEST(PressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
     Control c(2024, 3, 15);
     const auto cell = c.layout.CellRect(10);
     c.input.LButtonDown(cell.right, cell.top + 2, 0); // the gap after cell 10
@@ -53,7 +48,7 @@ TEST(CalPressGrid, OnAFormThePressCapturesAndTheReleaseOnlySelects) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15})) << "an extra cell is not taken without Select Extra";
 }
 
-TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
+TEST(PressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
     Control c(2024, 3, 15);
     const auto p = c.Centre(19);
     c.input.LButtonDown(p.x, p.y, 0);
@@ -79,7 +74,7 @@ TEST(CalPressGrid, DraggingPastTheBottomMovesAWeekPerTick) {
     EXPECT_EQ(c.state, 0);
 }
 
-TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) {
+TEST(PressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) {
     Control c(2024, 3, 15);
     c.fx.timersFail = true;
     const auto p = c.Centre(19);
@@ -94,7 +89,7 @@ TEST(CalPressGrid, WithoutATimerTheScrollRunsOnceAndWithoutTheKeyboardNotAtAll) 
     EXPECT_EQ(d.Focus(), (Ymd{2024, 3, 15}));
 }
 
-TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksArePosted) {
+TEST(PressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksArePosted) {
     Control c(2024, 3, 15);
     c.Style(CALS_MultipleSelection, 1);
     c.cal().ClearMarks(0);
@@ -113,7 +108,7 @@ TEST(CalPressGrid, MultipleSelectionTogglesWithTheMessagesKeysAndDoubleClicksAre
     EXPECT_FALSE(Has(c.fx.Take(), "post dblclk 20"));
 }
 
-TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
+TEST(PressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     Control c(2024, 3, 15);
     const auto r = c.layout.RightButton();
     c.input.LButtonDown(r.left + 2, 3, 0);
@@ -140,7 +135,7 @@ TEST(CalPressButton, AHeldMonthButtonStepsOnEachTickAndTheGridCatchesUpAfter) {
     EXPECT_FALSE(c.input.Timer(507));
 }
 
-TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
+TEST(PressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     Control c(2024, 3, 15);
     const auto l = c.layout.LeftButton();
     c.input.LButtonDown(l.left + 2, 3, zk::kMouseControl);
@@ -156,7 +151,7 @@ TEST(CalPressButton, CtrlStepsAYearAndLeavingStopsTheRepeatForGood) {
     EXPECT_TRUE(Has(c.fx.Take(), "start 502/100"));
 }
 
-TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut) {
+TEST(PressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut) {
     Control c(2024, 3, 31);
     const auto l = c.layout.LeftButton();
     c.input.LButtonDown(l.left + 2, 3, 0);
@@ -175,7 +170,7 @@ TEST(CalPressButton, ReleasedOutsideNothingMoreHappensAndTheStepKeepsTheDayUncut
     EXPECT_EQ(c.cal().DisplayMonth(), 2);
 }
 
-TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
+TEST(PressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     Control c(2024, 3, 15);
     c.fx.focused = false;
     c.fx.validateAnswer = 0;
@@ -185,11 +180,11 @@ TEST(CalPressFocus, AFieldThatDoesNotValidateKeepsThePressAway) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 15}));
     c.fx.validateAnswer = 1;
     c.input.LButtonDown(p.x, p.y, 0);
-    EXPECT_EQ(At(c.fx.Take(), "focus"), 1);
+    EXPECT_EQ(EventAt(c.fx.Take(), "focus"), 1);
     EXPECT_EQ(c.Focus(), (Ymd{2024, 3, 21}));
 }
 
-TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
+TEST(PressFocus, LosingTheFocusCancelsAtTheNextTick) {
     Control c(2024, 3, 15);
     const auto r = c.layout.RightButton();
     c.input.LButtonDown(r.left + 2, 3, 0);
@@ -208,7 +203,7 @@ TEST(CalPressFocus, LosingTheFocusCancelsAtTheNextTick) {
     EXPECT_EQ(c.Focus(), (Ymd{2024, 5, 15})) << "ticks count again";
 }
 
-TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
+TEST(PressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
     Control c(2024, 3, 15);
     c.Style(CALS_PopUp, 1);
     c.input.LButtonDown(-5, 40, 0);
@@ -224,7 +219,7 @@ TEST(CalPressFocus, APopUpClosesUpOnAPressBesideItAndWhenItLosesTheFocus) {
     EXPECT_FALSE(c.input.CancelPending()) << "a press clears the cancel";
 }
 
-TEST(CalPressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
+TEST(PressFocus, GainingTheFocusRedrawsTheFocusCellWithShowFocus) {
     Control c(2024, 3, 15);
     c.input.FocusGained();
     EXPECT_EQ(c.fx.Take(), (Events{"inv cell 19", "update"}));

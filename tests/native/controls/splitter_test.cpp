@@ -4,22 +4,16 @@
 
 #include <vector>
 
+#include "block_bytes.h"
 #include "controls/core/splitter_block.h"
 #include "controls/core/splitter_layout.h"
 #include "controls/core/splitter_model.h"
-#include "frame/core/block_io.h"
 
 namespace {
 
 using zk::Rect;
 using namespace zk::ctl;
 using Bytes = std::vector<uint8_t>;
-
-Bytes Stored(SPropSplitter &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return Bytes(file.Data(), file.Data() + file.GetLength());
-}
 
 TEST(SplitterBlock, BytesAndRoundTrip) {
     SPropSplitter block;
@@ -34,11 +28,11 @@ TEST(SplitterBlock, BytesAndRoundTrip) {
     const Bytes expected = {1,    0, 0,    0,    3,    2, 1, 0, 0xC0, 0xC0, 0xC0, 0,    0xFF, 0xFF,
                             0xFF, 0, 0x80, 0x80, 0x80, 0, 2, 0, 0,    0,    0xFE, 0xFF, 0xFF, 0xFF,
                             1,    0, 0,    0,    1,    0, 0, 0, 0,    0,    0,    0,    1,    0};
-    const Bytes bytes = Stored(block);
+    const Bytes bytes = zkt::StoredBytes(block);
     EXPECT_EQ(bytes, expected);
     SPropSplitter back;
     ASSERT_TRUE(zk::LoadBlockBytes(bytes.data(), bytes.size(), back));
-    EXPECT_EQ(Stored(back), expected);
+    EXPECT_EQ(zkt::StoredBytes(back), expected);
     EXPECT_EQ(back.metricB, -2);
 
     SPropSplitter none;

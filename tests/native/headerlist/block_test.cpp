@@ -4,18 +4,12 @@
 
 #include <vector>
 
-#include "frame/core/block_io.h"
+#include "block_bytes.h"
 #include "headerlist/core/headerlist_block.h"
 
 namespace {
 
 using zk::hdr::SPropHeaderListBox;
-
-std::vector<uint8_t> Stored(SPropHeaderListBox &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
-}
 
 std::vector<uint8_t> Cat(std::initializer_list<std::vector<uint8_t>> parts) {
     std::vector<uint8_t> all;
@@ -57,17 +51,17 @@ TEST(HeaderListBlock, GoldenBytes) {
     ASSERT_EQ(columns.size(), kColumnsBytes);
     const std::vector<uint8_t> want = Cat({columns, U32(2), U32(0x00112233), U32(0xFFFFFFFF), U32(0xFFFFFFFF), U32(1),
                                            U32(64), U32(1), images, small, U32(1)});
-    EXPECT_EQ(Stored(block), want);
+    EXPECT_EQ(zkt::StoredBytes(block), want);
     // The default lists are the platform's icon sizes: 32 and 16 without it.
     EXPECT_EQ(images.size(), 28u + 2 * 14 + 2 * 40 + 8 + 128 * 3 * 32 + 16 * 32);
 }
 
 TEST(HeaderListBlock, RoundTripAndReadersOfEachVersion) {
     SPropHeaderListBox block = Sample();
-    std::vector<uint8_t> bytes = Stored(block);
+    std::vector<uint8_t> bytes = zkt::StoredBytes(block);
     SPropHeaderListBox back;
     ASSERT_TRUE(zk::LoadBlockBytes(bytes.data(), bytes.size(), back));
-    EXPECT_EQ(Stored(back), bytes);
+    EXPECT_EQ(zkt::StoredBytes(back), bytes);
     EXPECT_EQ(back.largeImages.GetImageCount(), 1);
 
     // Version 1: no sort order; what the load reset stays.
@@ -91,7 +85,7 @@ TEST(HeaderListBlock, RoundTripAndReadersOfEachVersion) {
 
 TEST(HeaderListBlock, DamagedImageStreamsStopTheRead) {
     SPropHeaderListBox block = Sample();
-    const std::vector<uint8_t> bytes = Stored(block);
+    const std::vector<uint8_t> bytes = zkt::StoredBytes(block);
     const size_t imagesAt = kColumnsBytes + 4 + 24;
     struct Case {
         size_t at;
@@ -115,7 +109,7 @@ TEST(HeaderListBlock, AssignmentCopiesEverythingButSharesNothing) {
     block.dropDown = 1;
     SPropHeaderListBox copy;
     copy = block;
-    EXPECT_EQ(Stored(copy), Stored(block));
+    EXPECT_EQ(zkt::StoredBytes(copy), zkt::StoredBytes(block));
     EXPECT_EQ(copy.dropDown, 1);
     EXPECT_NE(copy.columns.at(0), block.columns.at(0));
     EXPECT_NE(copy.largeImages.Handle(), block.largeImages.Handle());

@@ -5,7 +5,7 @@
 #include <string>
 #include <vector>
 
-#include "frame/core/block_io.h"
+#include "block_bytes.h"
 #include "palette/core/palette_block.h"
 
 namespace {
@@ -27,20 +27,6 @@ void Wide(Bytes &b, const char *text) {
     Put(b, {0xFF, 0xFE, 0xFF, static_cast<int>(std::char_traits<char>::length(text))});
     for (const char *c = text; *c; ++c)
         Put(b, {*c, 0});
-}
-
-Bytes Image(SPropPalette &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return Bytes(file.Data(), file.Data() + file.GetLength());
-}
-
-SPropPalette Read(const Bytes &bytes, bool *complete = nullptr) {
-    SPropPalette block;
-    const bool whole = zk::LoadBlockBytes(bytes.data(), bytes.size(), block);
-    if (complete)
-        *complete = whole;
-    return block;
 }
 
 // Two colours and two menu entries: the class of the entries takes index 4,
@@ -78,22 +64,22 @@ SPropPalette GoldenBlock() {
 
 TEST(PaletteBlock, WritesTheArraysWithSharedClassIndicesThenTheFlagsAndReadsThemBack) {
     SPropPalette block = GoldenBlock();
-    EXPECT_EQ(Image(block), Golden());
+    EXPECT_EQ(zkt::StoredBytes(block), Golden());
     bool complete = false;
-    const SPropPalette back = Read(Golden(), &complete);
+    const SPropPalette back = zkt::ReadBlock<SPropPalette>(Golden(), &complete);
     EXPECT_TRUE(complete);
     ASSERT_EQ(back.menus.size(), 2u);
     EXPECT_EQ(back.menus.at(1)->text, u"Blue");
     EXPECT_EQ(back.menus.at(1)->id, 9);
-    EXPECT_EQ(Image(const_cast<SPropPalette &>(back)), Golden());
+    EXPECT_EQ(zkt::StoredBytes(const_cast<SPropPalette &>(back)), Golden());
 }
 
 TEST(PaletteBlock, TheDefaultBlockHoldsTheEightColoursInOrder) {
     SPropPalette block;
-    const Bytes image = Image(block);
+    const Bytes image = zkt::StoredBytes(block);
     ASSERT_EQ(image.size(), 2u + 6 + 13 + 8 + 7 * 10 + 2 + 4 + 4 + 4);
     const uint32_t expected[] = {0x0000FF, 0x00FF00, 0xFF0000, 0x00FFFF, 0xFF00FF, 0xFFFF00, 0x000000, 0xFFFFFF};
-    const SPropPalette back = Read(image);
+    const SPropPalette back = zkt::ReadBlock<SPropPalette>(image);
     ASSERT_EQ(back.mainColors.size(), 8u);
     for (size_t i = 0; i < 8; ++i)
         EXPECT_EQ(back.mainColors.at(i)->colour, expected[i]) << i;
@@ -110,7 +96,7 @@ TEST(PaletteBlock, VersionZeroKeepsTheResetFlagsAndNoDefaultColours) {
     Put(b, {0, 0, 0, 0}); // an entry of version 0: its fields stay
     Put(b, {0, 0, 0, 0, /* not read */ 1, 1, 0, 1, 3, 0, 0, 0});
     bool complete = false;
-    const SPropPalette block = Read(b, &complete);
+    const SPropPalette block = zkt::ReadBlock<SPropPalette>(b, &complete);
     EXPECT_TRUE(complete) << "the rest is not part of a version 0 block";
     EXPECT_EQ(block.mainColors.size(), 0u);
     ASSERT_EQ(block.menus.size(), 1u);
@@ -126,13 +112,13 @@ TEST(PaletteBlock, NullElementsStayNullAndShortBlocksAreNotComplete) {
     Put(b, {2, 0, 0, 0, 0xFF, 0xFF, 1, 0, 13, 0});
     Ascii(b, "SPaletteColor");
     Put(b, {1, 0, 0, 0, 1, 2, 3, 0, 0, 0, 1, 0, 0, 0, 0, 0, 0, 0, 8, 0, 0, 0});
-    const SPropPalette block = Read(b);
+    const SPropPalette block = zkt::ReadBlock<SPropPalette>(b);
     ASSERT_EQ(block.mainColors.size(), 2u);
     EXPECT_EQ(block.mainColors.at(0), nullptr);
     EXPECT_EQ(block.mainColors.at(1)->colour, 0x030201u);
     for (size_t cut : {size_t{0}, size_t{1}, b.size() - 1}) {
         bool complete = true;
-        Read(Bytes(b.begin(), b.begin() + static_cast<long>(cut)), &complete);
+        zkt::ReadBlock<SPropPalette>(Bytes(b.begin(), b.begin() + static_cast<long>(cut)), &complete);
         EXPECT_FALSE(complete) << cut;
     }
 }

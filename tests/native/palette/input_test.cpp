@@ -12,10 +12,8 @@ namespace {
 using paltest::Palette;
 using zk::pal::PalHit;
 using Events = std::vector<std::string>;
+using zkt::Has;
 
-bool Has(const Events &events, const std::string &event) {
-    return std::find(events.begin(), events.end(), event) != events.end();
-}
 bool Posted(const Events &events) {
     return std::any_of(events.begin(), events.end(), [](const std::string &e) { return e.rfind("post", 0) == 0; });
 }

@@ -28,19 +28,4 @@ HostArray Strings(const std::vector<std::wstring> &texts, int32_t low) {
     return array;
 }
 
-void CalendarExports::SetUp() {
-    ZkHostFailAllocations(0);
-    strings_ = ZkHostLiveStrings();
-    arrays_ = ZkHostLiveArrays();
-    object_ = std::make_unique<zk::cal::CCalendar>();
-    calendar = &object_->Model();
-}
-
-void CalendarExports::TearDown() {
-    calendar = nullptr;
-    object_.reset();
-    EXPECT_EQ(ZkHostLiveStrings(), strings_) << "host strings leaked";
-    EXPECT_EQ(ZkHostLiveArrays(), arrays_) << "host arrays leaked";
-}
-
 } // namespace caltest

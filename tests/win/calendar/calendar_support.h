@@ -12,6 +12,7 @@
 #include <string>
 #include <vector>
 
+#include "array_support.h"
 #include "calendar/core/calendar_model.h"
 #include "calendar/win/calendar_window.h"
 #include "zkharness.h"
@@ -44,19 +45,22 @@ inline int32_t Long(HostArray array, int32_t index) {
     return value;
 }
 
-inline int32_t Count(HostArray array) {
-    int32_t low = 0, high = 0;
-    return HostArrayGetBounds(array, &low, &high);
-}
-
 // A string array of the given texts, from index `low`.
 HostArray Strings(const std::vector<std::wstring> &texts, int32_t low = 0);
 
 // Every test gets a new calendar and must leave no host string or array behind.
-class CalendarExports : public testing::Test {
+class CalendarExports : public arraytest::ArrayTest {
 protected:
-    void SetUp() override;
-    void TearDown() override;
+    void SetUp() override {
+        ArrayTest::SetUp();
+        object_ = std::make_unique<zk::cal::CCalendar>();
+        calendar = &object_->Model();
+    }
+    void TearDown() override {
+        calendar = nullptr;
+        object_.reset();
+        ArrayTest::TearDown();
+    }
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_.get()); }
 
     // The model the exports work on.
@@ -64,7 +68,6 @@ protected:
 
 private:
     std::unique_ptr<zk::cal::CCalendar> object_;
-    int32_t strings_ = 0, arrays_ = 0;
 };
 
 } // namespace caltest

@@ -4,7 +4,7 @@
 
 #include <cstring>
 
-#include "frame/core/block_io.h"
+#include "block_bytes.h"
 
 namespace {
 
@@ -51,9 +51,7 @@ TEST(CalendarCreation, AutoSizeFitsTheWindowToTheMonthWhenTheFontChanges) {
 class StoredBlock : public testing::Test {
 protected:
     void Store(zk::SPropCalendar &block, uint32_t calendarVersion = 2) {
-        zk::CMemFile file;
-        zk::StoreBlock(file, block);
-        std::vector<uint8_t> bytes(file.Data(), file.Data() + file.GetLength());
+        std::vector<uint8_t> bytes = zkt::StoredBytes(block);
         std::memcpy(bytes.data() + 10, &calendarVersion, 4); // after the generic part
         if (calendarVersion == 1)
             bytes.pop_back(); // a version 1 writer had no alternateButtons

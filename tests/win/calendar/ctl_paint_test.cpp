@@ -171,12 +171,9 @@ TEST(CalendarPaint, WithoutANotifyWindowTheTextStaysBlackFromPaintToPaint) {
     HWND popup = CreateWindowExW(0, L"ZK:cCalendar:10", L"", WS_POPUP | WS_BORDER, 0, 0, 240, 180, nullptr, nullptr,
                                  GetModuleHandleW(nullptr), nullptr);
     ASSERT_NE(popup, nullptr);
-    RECT client{};
-    GetClientRect(popup, &client);
     for (int round = 0; round < 2; ++round) {
-        zkt::Bitmap b(client.right, client.bottom);
-        SendMessageW(popup, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(b.dc()), PRF_CLIENT);
-        const RECT days{0, client.bottom / 3, client.right, client.bottom}; // below buttons and names
+        const zkt::Bitmap b = zkt::PrintClient(popup);
+        const RECT days{0, b.height() / 3, b.width(), b.height()}; // below buttons and names
         EXPECT_GT(b.count(RGB(0, 0, 0), days), 50) << "black days, round " << round;
     }
     DestroyWindow(popup);

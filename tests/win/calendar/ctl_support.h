@@ -39,11 +39,11 @@ public:
 
     ZelCalControl control() const { return reinterpret_cast<ZelCalControl>(object_); }
     zk::cal::CCalendar &object() const { return *object_; }
-    const zk::cal::CalLayout &layout() const { return object_->Layout(); }
+    const zk::cal::MonthLayout &layout() const { return object_->Layout(); }
     Ymd Focus() const;
     int FocusCell() const { return object_->Model().FocusCell(); }
     // The client area as the control paints it.
-    zkt::Bitmap Paint() const;
+    zkt::Bitmap Paint() const { return zkt::PrintClient(hwnd()); }
     // A message to the control at a client point.
     void Mouse(UINT message, int x, int y, WPARAM keys = 0) const;
     void MouseAtCell(UINT message, int cell, WPARAM keys = 0) const;
@@ -53,8 +53,12 @@ private:
 };
 
 // Pixels of a colour in a row or a column of a picture, between two bounds.
-int RowCount(const zkt::Bitmap &b, COLORREF colour, int y, int x0, int x1);
-int ColumnCount(const zkt::Bitmap &b, COLORREF colour, int x, int y0, int y1);
+inline int RowCount(const zkt::Bitmap &b, COLORREF colour, int y, int x0, int x1) {
+    return b.count(colour, RECT{x0, y, x1, y + 1});
+}
+inline int ColumnCount(const zkt::Bitmap &b, COLORREF colour, int x, int y0, int y1) {
+    return b.count(colour, RECT{x, y0, x + 1, y1});
+}
 inline RECT Win(const zk::Rect &r) { return RECT{r.left, r.top, r.right, r.bottom}; }
 
 } // namespace ctltest

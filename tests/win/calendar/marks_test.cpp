@@ -35,7 +35,7 @@ TEST_F(CalendarExports, NullDatesAndJunkLengthBits) {
 }
 
 TEST_F(CalendarExports, MarkDatesCountsTheDatesThatChangedTheSet) {
-    const HostArray dates = HostArrayCreate(HOST_TYPE_DATETIME);
+    const HostArray dates = Own(HostArrayCreate(HOST_TYPE_DATETIME));
     const HostDateTime list[] = {Date(2024, 1, 1), Date(2024, 1, 2), Date(2024, 1, 1), HostDateTime{},
                                  Date(2024, 2, 29)};
     for (int i = 0; i < 5; ++i)
@@ -45,25 +45,22 @@ TEST_F(CalendarExports, MarkDatesCountsTheDatesThatChangedTheSet) {
     EXPECT_EQ(ZelCalIsDateMarked(control(), Date(2024, 2, 29)), 1);
     EXPECT_EQ(ZelCalMarkDates(control(), dates, 0), 3);
     EXPECT_EQ(ZelCalIsDateMarked(control(), Date(2024, 1, 2)), 0);
-    const HostArray empty = HostArrayCreate(HOST_TYPE_DATETIME);
-    EXPECT_EQ(ZelCalMarkDates(control(), empty, 1), 0);
-    HostArrayDestroy(empty);
-    HostArrayDestroy(dates);
+    EXPECT_EQ(ZelCalMarkDates(control(), Own(HostArrayCreate(HOST_TYPE_DATETIME)), 1), 0);
 }
 
 TEST_F(CalendarExports, GetMarkedWritesEveryDateAndEndsTheArray) {
-    const HostArray dates = HostArrayCreate(HOST_TYPE_DATETIME);
+    const HostArray dates = Own(HostArrayCreate(HOST_TYPE_DATETIME));
     const HostDateTime filler = Date(1999, 1, 1);
     for (int i = 0; i < 9; ++i)
         HostArraySetDateTime(dates, &filler, i);
     EXPECT_EQ(ZelCalGetMarked(control(), dates), 0);
-    EXPECT_EQ(caltest::Count(dates), 0) << "bounds 0 and -1 on an empty calendar";
+    EXPECT_EQ(arraytest::BoundsOf(dates).count, 0) << "bounds 0 and -1 on an empty calendar";
 
     const HostDateTime marked[] = {Date(2024, 5, 1), Date(1980, 12, 31), Date(2024, 5, 2, 8, 30, 0)};
     for (const HostDateTime &d : marked)
         ASSERT_EQ(ZelCalMarkDate(control(), d, 1), 1);
     ASSERT_EQ(ZelCalGetMarked(control(), dates), 3);
-    ASSERT_EQ(caltest::Count(dates), 3);
+    ASSERT_EQ(arraytest::BoundsOf(dates).count, 3);
     std::vector<std::wstring> got, expected;
     for (int i = 0; i < 3; ++i) {
         HostDateTime d{};
@@ -77,7 +74,6 @@ TEST_F(CalendarExports, GetMarkedWritesEveryDateAndEndsTheArray) {
     EXPECT_EQ(ZelCalClearMarked(control()), 1);
     EXPECT_EQ(ZelCalGetMarked(control(), dates), 0);
     EXPECT_EQ(ZelCalClearMarked(control()), 1) << "clearing an empty set succeeds";
-    HostArrayDestroy(dates);
 }
 
 } // namespace

@@ -38,33 +38,23 @@ TEST(CalendarResources, MonthAndWeekdayNamesAndTheWordsOfTheChecks) {
 class NameExports : public CalendarExports {
 protected:
     void TearDown() override {
-        const HostArray months = Strings({L"January", L"February", L"March", L"April", L"May", L"June", L"July",
-                                          L"August", L"September", L"October", L"November", L"December"});
+        const HostArray months = Own(Strings({L"January", L"February", L"March", L"April", L"May", L"June", L"July",
+                                              L"August", L"September", L"October", L"November", L"December"}));
         const HostArray weekdays =
-            Strings({L"Sunday", L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday"});
+            Own(Strings({L"Sunday", L"Monday", L"Tuesday", L"Wednesday", L"Thursday", L"Friday", L"Saturday"}));
         EXPECT_EQ(ZelCalSetMonths(control(), months), 1);
         EXPECT_EQ(ZelCalSetWeekDays(control(), weekdays), 1);
-        HostArrayDestroy(months);
-        HostArrayDestroy(weekdays);
         CalendarExports::TearDown();
     }
 };
 
 TEST_F(NameExports, ExactlyTwelveMonthsAndSevenWeekdays) {
     zkt::DebugOutputCapture capture;
-    for (int count : {11, 13}) {
-        const HostArray names = Strings(Words(L"m", count));
-        EXPECT_EQ(ZelCalSetMonths(control(), names), 0) << count;
-        HostArrayDestroy(names);
-    }
-    const HostArray twelve = Strings(Words(L"m", 12), 5);
-    EXPECT_EQ(ZelCalSetMonths(control(), twelve), 1) << "from any low bound";
-    HostArrayDestroy(twelve);
-    const HostArray six = Strings(Words(L"w", 6)), seven = Strings(Words(L"w", 7));
-    EXPECT_EQ(ZelCalSetWeekDays(control(), six), 0);
-    EXPECT_EQ(ZelCalSetWeekDays(control(), seven), 1);
-    HostArrayDestroy(six);
-    HostArrayDestroy(seven);
+    for (int count : {11, 13})
+        EXPECT_EQ(ZelCalSetMonths(control(), Own(Strings(Words(L"m", count)))), 0) << count;
+    EXPECT_EQ(ZelCalSetMonths(control(), Own(Strings(Words(L"m", 12), 5))), 1) << "from any low bound";
+    EXPECT_EQ(ZelCalSetWeekDays(control(), Own(Strings(Words(L"w", 6)))), 0);
+    EXPECT_EQ(ZelCalSetWeekDays(control(), Own(Strings(Words(L"w", 7)))), 1);
     EXPECT_EQ(capture.lines(),
               (std::vector<std::wstring>{L"ZelCalSetMonths() - Unable to assign text for month names.",
                                          L"ZelCalSetMonths() - Unable to assign text for month names.",
@@ -72,12 +62,11 @@ TEST_F(NameExports, ExactlyTwelveMonthsAndSevenWeekdays) {
 }
 
 TEST_F(NameExports, AnElementWithoutAStringFails) {
-    const HostArray names = Strings(Words(L"w", 7));
+    const HostArray names = Own(Strings(Words(L"w", 7)));
     HostArraySetString(names, 0, 3);
     zkt::DebugOutputCapture capture;
     EXPECT_EQ(ZelCalSetWeekDays(control(), names), 0);
     EXPECT_EQ(capture.text(), L"ZelCalSetWeekDays() - Unable to assign text for weekday names.\n");
-    HostArrayDestroy(names);
 }
 
 TEST(CalendarDateChecks, OnlyWhileSavingAndEmptyPassesUnlessEnforced) {

@@ -45,15 +45,15 @@ TEST_F(CalendarExports, RulesThatTakeAFieldFromANullDateFail) {
 TEST_F(CalendarExports, GetSpecialsReportsEveryRuleAndLeavesTheTypeBounds) {
     ZelCalSpecialDate(control(), SPECIAL_Date, Date(2024, 7, 4), 0, 0, 1, 2, 1);
     ZelCalSpecialDate(control(), SPECIAL_MonthWeekday, Date(2024, 1, 1), 2, 1, 3, 4, 1);
-    const HostArray types = HostArrayCreate(HOST_TYPE_NUMBER), dates = HostArrayCreate(HOST_TYPE_DATETIME),
-                    weekdays = HostArrayCreate(HOST_TYPE_NUMBER), weeks = HostArrayCreate(HOST_TYPE_NUMBER);
+    const HostArray types = Own(HostArrayCreate(HOST_TYPE_NUMBER)), dates = Own(HostArrayCreate(HOST_TYPE_DATETIME)),
+                    weekdays = Own(HostArrayCreate(HOST_TYPE_NUMBER)), weeks = Own(HostArrayCreate(HOST_TYPE_NUMBER));
     HostArraySetBounds(types, 0, 9);
     HostArraySetBounds(weeks, 0, 9);
     ASSERT_EQ(ZelCalGetSpecials(control(), types, dates, weekdays, weeks), 2);
-    EXPECT_EQ(caltest::Count(types), 10) << "the type array keeps its bounds";
-    EXPECT_EQ(caltest::Count(dates), 2);
-    EXPECT_EQ(caltest::Count(weekdays), 2);
-    EXPECT_EQ(caltest::Count(weeks), 2);
+    EXPECT_EQ(arraytest::BoundsOf(types).count, 10) << "the type array keeps its bounds";
+    EXPECT_EQ(arraytest::BoundsOf(dates).count, 2);
+    EXPECT_EQ(arraytest::BoundsOf(weekdays).count, 2);
+    EXPECT_EQ(arraytest::BoundsOf(weeks).count, 2);
     const int first = caltest::Long(types, 0) == SPECIAL_Date ? 0 : 1, second = 1 - first;
     EXPECT_EQ(caltest::Long(types, first), SPECIAL_Date);
     EXPECT_EQ(caltest::Long(types, second), SPECIAL_MonthWeekday);
@@ -67,10 +67,8 @@ TEST_F(CalendarExports, GetSpecialsReportsEveryRuleAndLeavesTheTypeBounds) {
 
     EXPECT_EQ(ZelCalClearSpecials(control()), 1);
     EXPECT_EQ(ZelCalGetSpecials(control(), types, dates, weekdays, weeks), 0);
-    EXPECT_EQ(caltest::Count(dates), 0);
-    EXPECT_EQ(caltest::Count(types), 10);
-    for (HostArray a : {types, dates, weekdays, weeks})
-        HostArrayDestroy(a);
+    EXPECT_EQ(arraytest::BoundsOf(dates).count, 0);
+    EXPECT_EQ(arraytest::BoundsOf(types).count, 10);
 }
 
 } // namespace

@@ -12,12 +12,9 @@ RECT InParent(HWND window) {
 SplitterForm::SplitterForm(void *parameter, int x) {
     left = form.AddChild(L"Static", 1, {0, 0, 90, 300}, WS_BORDER | SS_WHITERECT);
     right = form.AddChild(L"Static", 2, {110, 0, 290, 300}, WS_BORDER | SS_GRAYRECT);
-    bar_ = CreateWindowExW(0, L"ZK:cSplitter:10", L"", WS_CHILD | WS_VISIBLE, x, 40, 3, 50, form,
-                           reinterpret_cast<HMENU>(INT_PTR{9}), GetModuleHandleW(nullptr), parameter);
-    MSG m{};
-    if (bar_ && PeekMessageW(&m, bar_, ZKM_ControlCreate, ZKM_ControlCreate, PM_REMOVE))
-        object_ = reinterpret_cast<zk::ctl::CSplitter *>(m.lParam);
-    zkt::PumpMessages();
+    const zkt::Announced made = zkt::CreateAnnounced(L"ZK:cSplitter:10", form, {x, 40, 3, 50}, 9, parameter);
+    bar_ = made.hwnd;
+    object_ = reinterpret_cast<zk::ctl::CSplitter *>(made.object);
 }
 
 SplitterForm::~SplitterForm() { zkt::PumpMessages(); }
@@ -28,15 +25,7 @@ void SplitterForm::SetChildren() const {
 }
 
 void SplitterForm::Mouse(UINT message, int x, int y) const {
-    SendMessageW(bar_, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, At(x, y));
-}
-
-zkt::Bitmap Printed(HWND window) {
-    RECT client{};
-    GetClientRect(window, &client);
-    zkt::Bitmap picture(client.right, client.bottom);
-    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
-    return picture;
+    SendMessageW(bar_, message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, zkt::ClientPoint(x, y));
 }
 
 zkt::Bitmap Screen(const RECT &area) {
@@ -61,25 +50,6 @@ std::wstring Text(HWND window) {
     wchar_t text[256] = {};
     GetWindowTextW(window, text, 256);
     return text;
-}
-
-BindNewWindows::BindNewWindows() {
-    outline = ZkHostDesignNewOutline();
-    item = ZkHostDesignAddItem(outline, 0, 1);
-    current = this;
-    hook_ = SetWindowsHookExW(WH_CBT, &Hook, nullptr, GetCurrentThreadId());
-}
-
-BindNewWindows::~BindNewWindows() {
-    UnhookWindowsHookEx(hook_);
-    current = nullptr;
-    ZkHostDesignFreeOutline(outline);
-}
-
-LRESULT CALLBACK BindNewWindows::Hook(int code, WPARAM wParam, LPARAM lParam) {
-    if (code == HCBT_CREATEWND && current)
-        ZkHostDesignBindWindow(current->outline, current->item, reinterpret_cast<HWND>(wParam));
-    return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
 } // namespace ctltest

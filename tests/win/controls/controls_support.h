@@ -10,6 +10,7 @@
 #include <string>
 
 #include "controls/win/splitter_window.h"
+#include "win_control.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
@@ -20,10 +21,6 @@ namespace ctltest {
 // The creation parameter of a host window with stored properties: the
 // run-time bit, bit 0 of byte 4.
 inline uint8_t runTime[8] = {0, 0, 0, 0, 1, 0, 0, 0};
-
-inline LPARAM At(int x, int y) {
-    return MAKELPARAM(static_cast<WORD>(static_cast<short>(x)), static_cast<WORD>(static_cast<short>(y)));
-}
 
 // A window's rectangle in its parent's client coordinates.
 RECT InParent(HWND window);
@@ -51,27 +48,10 @@ private:
     zk::ctl::CSplitter *object_ = nullptr;
 };
 
-// The client area as WM_PRINTCLIENT paints it.
-zkt::Bitmap Printed(HWND window);
 // What the screen shows in a rectangle of screen coordinates.
 zkt::Bitmap Screen(const RECT &area);
 bool SamePixels(const zkt::Bitmap &a, const zkt::Bitmap &b);
 
 std::wstring Text(HWND window);
-
-// New windows are bound to a design item of a fresh outline before their
-// first message, for as long as the object lives.
-class BindNewWindows {
-public:
-    BindNewWindows();
-    ~BindNewWindows();
-    HostOutline outline = 0;
-    HostItem item = 0;
-
-private:
-    static LRESULT CALLBACK Hook(int code, WPARAM wParam, LPARAM lParam);
-    HHOOK hook_ = nullptr;
-    static inline BindNewWindows *current = nullptr;
-};
 
 } // namespace ctltest

@@ -9,14 +9,11 @@ HWND MakeMeter(HWND parent, int width, int height, void *parameter = ctltest::ru
                            GetModuleHandleW(nullptr), parameter);
 }
 
-// Pixels of a colour in a rectangle of the picture.
-int Count(const zkt::Bitmap &b, COLORREF colour, RECT r) { return b.count(colour, r); }
-
 TEST(Meter, AtRunTimeOnlyTheBackgroundUntilAValueIsSet) {
     zkt::TestWindow form(200, 200);
     HWND meter = MakeMeter(form, 100, 20);
     EXPECT_EQ(GetWindowWord(meter, 0), 0xFFFF);
-    const zkt::Bitmap empty = ctltest::Printed(meter);
+    const zkt::Bitmap empty = zkt::PrintClient(meter);
     EXPECT_EQ(empty.count(GetSysColor(COLOR_WINDOW)), 100 * 20);
     HWND design = MakeMeter(form, 100, 20, nullptr);
     EXPECT_EQ(GetWindowWord(design, 0), 30) << "the designer's canvas shows 30%";
@@ -25,7 +22,7 @@ TEST(Meter, AtRunTimeOnlyTheBackgroundUntilAValueIsSet) {
     EXPECT_EQ(ZelWinSetMeter(meter, 0xFFFFFFFF), -87);
     EXPECT_EQ(GetWindowWord(meter, 0), 37) << "a refused value changes nothing";
     SetWindowWord(meter, 0, 250);
-    zkt::Bitmap untouched = ctltest::Printed(meter);
+    zkt::Bitmap untouched = zkt::PrintClient(meter);
     EXPECT_EQ(untouched.count(RGB(0, 0, 0)), 100 * 20) << "a word above 100 paints nothing";
 }
 
@@ -45,10 +42,10 @@ TEST(Meter, TheFillEdgeByShapeWithTheTextInvertedOverTheFill) {
     for (const Case &c : cases) {
         HWND meter = MakeMeter(form, c.width, c.height);
         ASSERT_EQ(ZelWinSetMeter(meter, static_cast<uint32_t>(c.percent)), 0);
-        const zkt::Bitmap b = ctltest::Printed(meter);
+        const zkt::Bitmap b = zkt::PrintClient(meter);
         const auto area = [](const RECT &r) { return (r.right - r.left) * (r.bottom - r.top); };
-        EXPECT_EQ(Count(b, back, c.empty), area(c.empty)) << c.width << "x" << c.height << " at " << c.percent;
-        EXPECT_EQ(Count(b, text, c.filled), area(c.filled)) << c.width << "x" << c.height << " at " << c.percent;
+        EXPECT_EQ(b.count(back, c.empty), area(c.empty)) << c.width << "x" << c.height << " at " << c.percent;
+        EXPECT_EQ(b.count(text, c.filled), area(c.filled)) << c.width << "x" << c.height << " at " << c.percent;
         EXPECT_EQ(b.count(back) + b.count(text), c.width * c.height) << "two colours only";
         DestroyWindow(meter);
     }
@@ -56,9 +53,9 @@ TEST(Meter, TheFillEdgeByShapeWithTheTextInvertedOverTheFill) {
     // the text colour on the right and in the background colour on the left.
     HWND meter = MakeMeter(form, 100, 20);
     ZelWinSetMeter(meter, 50);
-    const zkt::Bitmap b = ctltest::Printed(meter);
-    EXPECT_GT(Count(b, text, {50, 0, 100, 20}), 0) << "letters right of the edge";
-    EXPECT_GT(Count(b, back, {0, 0, 50, 20}), 0) << "inverted letters left of it";
+    const zkt::Bitmap b = zkt::PrintClient(meter);
+    EXPECT_GT(b.count(text, {50, 0, 100, 20}), 0) << "letters right of the edge";
+    EXPECT_GT(b.count(back, {0, 0, 50, 20}), 0) << "inverted letters left of it";
     EXPECT_EQ(b.pixel(49, 0), text);
     EXPECT_EQ(b.pixel(50, 0), back) << "the edge at x 50";
 }

@@ -29,7 +29,7 @@ public:
         return SendMessageW(spin, message, wParam, lParam);
     }
     void Mouse(UINT message, int x, int y) const {
-        Send(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, ctltest::At(x, y));
+        Send(message, message == WM_LBUTTONUP ? 0 : MK_LBUTTON, zkt::ClientPoint(x, y));
     }
     // The press as long ago as a held button needs to repeat.
     void PressLongAgo() const {
@@ -196,7 +196,7 @@ TEST(SpinMouse, AClickStepsAtTheReleaseAndAHeldButtonRepeats) {
 TEST(SpinPaint, RaisedAndPressedButtons) {
     SpinForm s;
     const COLORREF black = RGB(0, 0, 0), white = RGB(255, 255, 255), shadow = GetSysColor(COLOR_BTNSHADOW);
-    const zkt::Bitmap raised = ctltest::Printed(s.spin);
+    const zkt::Bitmap raised = zkt::PrintClient(s.spin);
     EXPECT_EQ(raised.pixel(86, 3), black) << "the line left of the buttons";
     EXPECT_EQ(raised.pixel(95, 10), black) << "the line between them";
     EXPECT_EQ(raised.pixel(87, 8), white) << "the lit edge of a raised button";
@@ -205,7 +205,7 @@ TEST(SpinPaint, RaisedAndPressedButtons) {
     EXPECT_EQ(raised.pixel(89, 13), black) << "the down arrow's base";
     EXPECT_EQ(raised.pixel(90, 2), GetSysColor(COLOR_BTNFACE));
     s.Mouse(WM_LBUTTONDOWN, 93, 4);
-    const zkt::Bitmap pressed = ctltest::Printed(s.spin);
+    const zkt::Bitmap pressed = zkt::PrintClient(s.spin);
     EXPECT_EQ(pressed.pixel(87, 8), shadow) << "a pressed button's edge is in shadow";
     EXPECT_EQ(pressed.pixel(94, 3), black) << "its arrow moves by a pixel";
     EXPECT_EQ(pressed.pixel(89, 13), black) << "the other button stays";
@@ -214,7 +214,7 @@ TEST(SpinPaint, RaisedAndPressedButtons) {
 }
 
 TEST(SpinDesign, NoEditAndTheBlockFromTheItem) {
-    ctltest::BindNewWindows bind;
+    zkt::StoredBlockItem bind;
     const zk::SpinBlock block{5, 50, 5, 0};
     ASSERT_EQ(zk::SpinBlockStore(bind.outline, bind.item, block), 1);
     SpinForm s(nullptr);
@@ -223,11 +223,11 @@ TEST(SpinDesign, NoEditAndTheBlockFromTheItem) {
     s.Send(ZKM_SpinUp);
     s.Send(ZKM_SpinUp);
     EXPECT_EQ(Text(s.spin), L"10") << "minimum 5, increment 5";
-    const zkt::Bitmap painted = ctltest::Printed(s.spin);
+    const zkt::Bitmap painted = zkt::PrintClient(s.spin);
     EXPECT_EQ(painted.pixel(40, 10), GetSysColor(COLOR_WINDOW)) << "the field's background left of the buttons";
     EXPECT_NE(painted.pixel(94, 18), RGB(0, 0, 0));
     s.Mouse(WM_LBUTTONDOWN, 93, 15);
-    EXPECT_EQ(ctltest::Printed(s.spin).pixel(94, 18), RGB(0, 0, 0)) << "a press still draws, the arrow moved";
+    EXPECT_EQ(zkt::PrintClient(s.spin).pixel(94, 18), RGB(0, 0, 0)) << "a press still draws, the arrow moved";
     s.Mouse(WM_LBUTTONUP, 93, 15);
 }
 

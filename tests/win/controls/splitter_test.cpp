@@ -248,7 +248,7 @@ TEST_F(WithBlock, TheWrapperReadsItsBlockFromTheFormsItem) {
 
     const int handle = splitter->HandleSize();
     ASSERT_GT(handle, 0);
-    const zkt::Bitmap painted = ctltest::Printed(bar);
+    const zkt::Bitmap painted = zkt::PrintClient(bar);
     const COLORREF face = GetSysColor(COLOR_BTNFACE);
     EXPECT_EQ(painted.pixel(10, 0), face) << "no edge lines";
     EXPECT_EQ(painted.pixel(10, 5), face);
@@ -257,12 +257,12 @@ TEST_F(WithBlock, TheWrapperReadsItsBlockFromTheFormsItem) {
 
     const RECT area = ClientOnScreen(form);
     const zkt::Bitmap before = ctltest::Screen(area);
-    SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, ctltest::At(50, 2));
+    SendMessageW(bar, WM_LBUTTONDOWN, MK_LBUTTON, zkt::ClientPoint(50, 2));
     const zkt::Bitmap pressed = ctltest::Screen(area);
     EXPECT_TRUE(Inverted(pressed, before, 390 - handle, 103));
     EXPECT_FALSE(Inverted(pressed, before, 400 - handle, 103)) << "the band stops short of the handle";
-    SendMessageW(bar, WM_MOUSEMOVE, MK_LBUTTON, ctltest::At(50, 32));
-    SendMessageW(bar, WM_LBUTTONUP, 0, ctltest::At(50, 32));
+    SendMessageW(bar, WM_MOUSEMOVE, MK_LBUTTON, zkt::ClientPoint(50, 32));
+    SendMessageW(bar, WM_LBUTTONUP, 0, zkt::ClientPoint(50, 32));
     EXPECT_EQ(Rect4(InParent(bar)), Rect4(0, 130, 400, 136));
     EXPECT_EQ(Rect4(InParent(top)), Rect4(0, 0, 400, 130));
     EXPECT_EQ(Rect4(InParent(bottom)), Rect4(0, 136, 400, 300));
@@ -271,7 +271,7 @@ TEST_F(WithBlock, TheWrapperReadsItsBlockFromTheFormsItem) {
 TEST(SplitterPaint, TheEdgesRunAlongTheBarInTheSystemsColours) {
     SplitterForm s;
     s.SetChildren();
-    const zkt::Bitmap p = ctltest::Printed(s.bar());
+    const zkt::Bitmap p = zkt::PrintClient(s.bar());
     ASSERT_EQ(p.width(), 6);
     const COLORREF expected[6] = {GetSysColor(COLOR_BTNFACE),   GetSysColor(COLOR_BTNHIGHLIGHT),
                                   GetSysColor(COLOR_BTNFACE),   GetSysColor(COLOR_BTNFACE),

@@ -31,13 +31,13 @@ FormList::FormList(std::vector<std::wstring> columns, void *parameter, DWORD ext
         const ColumnArrays arrays(columns);
         ZelLVColumnsAssign(list_, arrays.texts, arrays.formats, arrays.widths, static_cast<int32_t>(columns.size()));
     }
-    Drain();
+    zkt::DrainQueue();
 }
 
 FormList::~FormList() {
     if (IsWindow(wrapper_))
         DestroyWindow(wrapper_);
-    Drain();
+    zkt::DrainQueue();
 }
 
 HWND FormList::view() const { return GetWindow(wrapper_, GW_CHILD); }
@@ -75,20 +75,9 @@ void FormList::ClickHeader(int32_t column) const {
     SendMessageW(header(), WM_LBUTTONUP, 0, at);
 }
 
-std::vector<Posted> FormList::Drain() {
-    std::vector<Posted> out;
-    MSG m{};
-    for (int i = 0; i < 2000 && PeekMessageW(&m, nullptr, 0, 0, PM_REMOVE); ++i) {
-        if (m.message != WM_PAINT && m.message != WM_TIMER)
-            out.push_back({m.hwnd, m.message, m.wParam, m.lParam});
-        DispatchMessageW(&m);
-    }
-    return out;
-}
-
-std::vector<int> Commands(const std::vector<Posted> &posted, HWND to) {
+std::vector<int> Commands(const std::vector<zkt::Posted> &posted, HWND to) {
     std::vector<int> codes;
-    for (const Posted &p : posted)
+    for (const zkt::Posted &p : posted)
         if (p.message == WM_COMMAND && p.hwnd == to)
             codes.push_back(static_cast<short>(HIWORD(p.wParam)));
     return codes;

@@ -19,13 +19,6 @@
 
 namespace hdrtest {
 
-struct Posted {
-    HWND hwnd;
-    UINT message;
-    WPARAM wParam;
-    LPARAM lParam;
-};
-
 // The three host arrays of ZelLVColumnsAssign, one entry per heading.
 struct ColumnArrays {
     explicit ColumnArrays(const std::vector<std::wstring> &headings, int32_t format = 0, int32_t width = 90);
@@ -55,9 +48,6 @@ public:
     // A left click in the middle of a header item, as the user makes it.
     void ClickHeader(int32_t column) const;
 
-    // What is queued on this thread, taken in order and dispatched.
-    static std::vector<Posted> Drain();
-
     zkt::TestWindow form{480, 320};
 
 private:
@@ -66,7 +56,7 @@ private:
     ZelLVControl list_ = 0;
 };
 
-// The WM_COMMAND codes posted to a window, in order.
-std::vector<int> Commands(const std::vector<Posted> &posted, HWND to);
+// The WM_COMMAND codes posted to a window (from any control), in order.
+std::vector<int> Commands(const std::vector<zkt::Posted> &posted, HWND to);
 
 } // namespace hdrtest

@@ -3,6 +3,7 @@
 // platform's stream form.
 #include <cstring>
 
+#include "block_bytes.h"
 #include "frame/core/block_io.h"
 #include "hdr_support.h"
 #include "headerlist/core/headerlist_block.h"
@@ -80,12 +81,6 @@ protected:
     uint8_t *parameter = design.parameter;
 };
 
-std::vector<uint8_t> Bytes(zk::hdr::SPropHeaderListBox &block) {
-    zk::CMemFile file;
-    zk::StoreBlock(file, block);
-    return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
-}
-
 TEST_F(StoredBlock, TheFormsListShowsItsBlock) {
     // Made here without the platform's lists: the stream forms are the
     // library's own, which the platform must read as its own.
@@ -97,7 +92,7 @@ TEST_F(StoredBlock, TheFormsListShowsItsBlock) {
     block.backColour = RGB(250, 240, 200);
     block.sortColumn = 1;
     block.sortOrder = 1;
-    Store(Bytes(block));
+    Store(zkt::StoredBytes(block));
     FormList l({}, parameter);
     EXPECT_EQ(ZelLVGetStyle(l.list()) & 0xFFFF, LVS_REPORT | LVS_SINGLESEL);
     EXPECT_EQ(Header_GetItemCount(l.header()), 2);
@@ -111,7 +106,7 @@ TEST_F(StoredBlock, TheFormsListShowsItsBlock) {
     EXPECT_EQ(ZelLVImageCountGet(l.list()), 1) << "the stream's one image";
 
     // A block that does not read to its end is not applied.
-    std::vector<uint8_t> cut = Bytes(block);
+    std::vector<uint8_t> cut = zkt::StoredBytes(block);
     cut.resize(cut.size() - 6);
     Store(cut);
     FormList defaults({}, parameter);
@@ -126,17 +121,17 @@ TEST(HeaderListImageStreams, ThePlatformsListsRoundTripThroughTheBlock) {
         zk::hdr::SPropHeaderListBox block;
         ASSERT_NE(block.largeImages.Handle(), nullptr);
         EXPECT_EQ(block.largeImages.GetImageCount(), 1) << "the system's logo";
-        const std::vector<uint8_t> once = Bytes(block);
+        const std::vector<uint8_t> once = zkt::StoredBytes(block);
         zk::hdr::SPropHeaderListBox back;
         EXPECT_TRUE(zk::LoadBlockBytes(once.data(), once.size(), back));
         EXPECT_EQ(back.smallImages.GetImageCount(), 1);
-        EXPECT_EQ(Bytes(back), once);
+        EXPECT_EQ(zkt::StoredBytes(back), once);
         int cx = 0, cy = 0;
         ImageList_GetIconSize(static_cast<HIMAGELIST>(back.largeImages.Handle()), &cx, &cy);
         EXPECT_EQ(cx, GetSystemMetrics(SM_CXICON));
         zk::hdr::SPropHeaderListBox copy;
         copy = back;
-        EXPECT_EQ(Bytes(copy).size(), once.size()) << "the icons copied into lists of the same sizes";
+        EXPECT_EQ(zkt::StoredBytes(copy).size(), once.size()) << "the icons copied into lists of the same sizes";
     } // the platform's lists go while the platform's operations are bound
     zk::hdr::BindImageOps(own);
 }

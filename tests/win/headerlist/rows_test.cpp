@@ -159,7 +159,7 @@ TEST(HeaderListRows, TheWrappersTextIsTheFirstSelectedRow) {
     EXPECT_EQ(GetWindowTextLengthW(l.wrapper()), 6);
     EXPECT_EQ(GetWindowTextW(l.wrapper(), buffer, 4), 3);
     EXPECT_STREQ(buffer, L"sec");
-    const auto posted = FormList::Drain();
+    const auto posted = zkt::DrainQueue();
     EXPECT_TRUE(hdrtest::Commands(posted, l.wrapper()).empty()) << "ZelLVSetItemState notifies nobody";
 }
 

@@ -14,7 +14,7 @@ struct Sorted : testing::Test {
         l.Add({L"Ann", L"rome"}, 1);
         l.Add({L"bea", L"Oslo"}, 2);
         l.Add({L"dan", L"Bern"}, 3);
-        FormList::Drain();
+        zkt::DrainQueue();
     }
     int32_t ImageOf(int32_t row) {
         LVITEMW item{};
@@ -53,7 +53,7 @@ TEST_F(Sorted, HeaderClicksSortUpDownAndResetOnAnotherColumn) {
 TEST_F(Sorted, AClickPostsTheForwardedCommandThenColumnSorted) {
     l.ClickHeader(1);
     l.ClickHeader(1);
-    const auto posted = FormList::Drain();
+    const auto posted = zkt::DrainQueue();
     std::vector<std::pair<UINT, LPARAM>> seen;
     for (const auto &p : posted)
         if ((p.message == WM_COMMAND && p.hwnd == l.form.hwnd()) || p.message == ZKM_ColumnSorted)
@@ -74,16 +74,16 @@ TEST_F(Sorted, SelectionAndFocusFollowTheirRows) {
     EXPECT_EQ(ZelLVGetNextItem(l.list(), -1, LVNI_SELECTED), 0);
     EXPECT_EQ(ZelLVGetNextItem(l.list(), 0, LVNI_SELECTED), 3);
     EXPECT_EQ(ZelLVGetNextItem(l.list(), -1, LVNI_FOCUSED), 3);
-    const auto posted = FormList::Drain();
+    const auto posted = zkt::DrainQueue();
     EXPECT_TRUE(hdrtest::Commands(posted, l.wrapper()).empty()) << "the rearrangement selects nothing anew";
 }
 
 TEST_F(Sorted, KeyboardSelectionsPostHostMsgSelectAndMouseOnesDoNot) {
     SetFocus(l.view());
-    FormList::Drain();
+    zkt::DrainQueue();
     SendMessageW(l.view(), WM_KEYDOWN, VK_DOWN, 0);
     SendMessageW(l.view(), WM_KEYUP, VK_DOWN, 0);
-    auto posted = FormList::Drain(); // the list's command to the wrapper, then the wrapper's own post
+    auto posted = zkt::DrainQueue(); // the list's command to the wrapper, then the wrapper's own post
     int selects = 0;
     for (const auto &p : posted)
         selects += p.message == 0x2006 && p.hwnd == l.wrapper();
@@ -95,7 +95,7 @@ TEST_F(Sorted, KeyboardSelectionsPostHostMsgSelectAndMouseOnesDoNot) {
     const LPARAM at = MAKELPARAM(r.left + 2, (r.top + r.bottom) / 2);
     PostMessageW(l.view(), WM_LBUTTONUP, 0, at); // ends the view's own wait for a drag
     SendMessageW(l.view(), WM_LBUTTONDOWN, MK_LBUTTON, at);
-    posted = FormList::Drain();
+    posted = zkt::DrainQueue();
     selects = 0;
     for (const auto &p : posted)
         selects += p.message == 0x2006;

@@ -3,6 +3,7 @@
 // left behind.
 #include <string>
 
+#include "array_support.h"
 #include "palette_support.h"
 
 namespace {
@@ -52,91 +53,47 @@ TEST(PaletteNullControl, EveryExportShowsStringFortyEightAndFails) {
     zkt::ExpectNullControlFailures(rows);
 }
 
-// Every test gets a form palette and must leave no host string or array behind.
-class PaletteExports : public testing::Test {
+// Every test gets a form palette and must leave no host string or array
+// behind (the fixture checks once the palette is gone).
+class PaletteExports : public arraytest::ArrayTest {
 protected:
     void SetUp() override {
-        strings_ = ZkHostLiveStrings();
-        arrays_ = ZkHostLiveArrays();
+        ArrayTest::SetUp();
         palette = std::make_unique<FormPalette>();
         control = palette->control();
         ASSERT_NE(control, 0);
     }
     void TearDown() override {
         palette.reset();
-        EXPECT_EQ(ZkHostLiveStrings(), strings_) << "host strings leaked";
-        EXPECT_EQ(ZkHostLiveArrays(), arrays_) << "host arrays leaked";
-    }
-    static HostArray Numbers(std::vector<int64_t> values, int32_t low = 0) {
-        HostArray a = HostArrayCreate(HOST_TYPE_NUMBER);
-        HostArraySetBounds(a, low, low + static_cast<int32_t>(values.size()) - 1);
-        for (size_t i = 0; i < values.size(); ++i) {
-            HostNumber n{};
-            HostNumberFromDouble(static_cast<double>(values[i]), &n);
-            HostArraySetNumber(a, &n, low + static_cast<int32_t>(i));
-        }
-        return a;
-    }
-    static HostArray Texts(const std::vector<std::wstring> &texts) {
-        HostArray a = HostArrayCreate(HOST_TYPE_STRING);
-        HostArraySetBounds(a, 0, static_cast<int32_t>(texts.size()) - 1);
-        for (size_t i = 0; i < texts.size(); ++i)
-            HostArraySetString(a, ZkHostStrMake(texts[i].c_str()), static_cast<int32_t>(i));
-        return a;
-    }
-    static int64_t Number(HostArray a, int32_t index) {
-        HostNumber n{};
-        HostArrayGetNumber(a, &n, index);
-        double value = -1;
-        HostNumberToDouble(&n, &value);
-        return static_cast<int64_t>(value);
-    }
-    static std::wstring Text(HostArray a, int32_t index) {
-        HostStr s = 0;
-        HostArrayGetString(a, &s, index);
-        int32_t size = 0;
-        const wchar_t *chars = HostStrLock(s, &size);
-        return chars ? chars : L"<none>";
-    }
-    static int32_t High(HostArray a) {
-        int32_t high = -9;
-        HostArrayGetUpperBound(a, 1, &high);
-        return high;
+        ArrayTest::TearDown();
     }
 
     std::unique_ptr<FormPalette> palette;
     ZelPalControl control = 0;
-
-private:
-    int32_t strings_ = 0, arrays_ = 0;
 };
 
 TEST_F(PaletteExports, MainColoursGoInAsNumbersAndComeOutAgain) {
-    HostArray in = Numbers({0x0000FF, 0xFFFFFF, 0x123456});
+    const HostArray in = Own(arraytest::Longs({0x0000FF, 0xFFFFFF, 0x123456}));
     EXPECT_EQ(ZelPalColorMainSetAll(control, in), 3);
     EXPECT_EQ(ZelPalColorPaletteGet(control, PALP_Main, 2), 0x123456);
     EXPECT_EQ(ZelPalColorPaletteGet(control, PALP_Main, 3), -1);
     EXPECT_EQ(palette->layout().Main().Height(), palette->layout().MainCellHeight() - 1) << "laid out again: one row";
     EXPECT_EQ(ZelPalColorMainSet(control, 13, 0xABCDEF), -1) << "ten beyond the end: appended";
     EXPECT_EQ(ZelPalColorMainSet(control, 3, 0x010101), 0xABCDEF);
-    HostArray out = HostArrayCreate(HOST_TYPE_NUMBER);
+    const HostArray out = Own(HostArrayCreate(HOST_TYPE_NUMBER));
     EXPECT_EQ(ZelPalColorPaletteGetAll(control, PALP_Main, out), 4);
-    EXPECT_EQ(High(out), 3);
-    EXPECT_EQ(Number(out, 1), 0xFFFFFF);
-    EXPECT_EQ(Number(out, 3), 0x010101);
+    EXPECT_EQ(arraytest::LongsOf(out), (std::vector<int32_t>{0x0000FF, 0xFFFFFF, 0x123456, 0x010101}));
     // An empty palette leaves the array as it was.
     EXPECT_EQ(ZelPalColorPaletteGetAll(control, PALP_Recent, out), 0);
-    EXPECT_EQ(High(out), 3);
+    EXPECT_EQ(arraytest::BoundsOf(out).high, 3);
     // A bound below 0 empties the grid; an array the host does not know changes nothing.
-    HostArray empty = HostArrayCreate(HOST_TYPE_NUMBER);
+    const HostArray empty = Own(HostArrayCreate(HOST_TYPE_NUMBER));
     zkt::DebugOutputCapture capture;
     EXPECT_EQ(ZelPalColorMainSetAll(control, 0x7FFF0000), -1);
     EXPECT_EQ(capture.text(), L"ZelPalColorMainSetAll() - Unable to assign all palette colors.\n");
     EXPECT_EQ(ZelPalColorPaletteGet(control, PALP_Main, 0), 0x0000FF);
     EXPECT_EQ(ZelPalColorMainSetAll(control, empty), 0);
     EXPECT_EQ(ZelPalColorPaletteGet(control, PALP_Main, 0), -1);
-    for (HostArray a : {in, out, empty})
-        HostArrayDestroy(a);
 }
 
 TEST_F(PaletteExports, MenuEntriesRoundTripAndTheOtherColourEntryIsNotTheApplications) {
@@ -156,31 +113,25 @@ TEST_F(PaletteExports, MenuEntriesRoundTripAndTheOtherColourEntryIsNotTheApplica
     EXPECT_EQ(ZelPalMenuGet(control, 3, &none, &id), 0) << "where Other Color... shows";
     EXPECT_EQ(none, 0u);
     EXPECT_EQ(capture.text(), L"ZelPalMenuGet() - Unable to retrieve menu item.\n");
-    HostArray texts = HostArrayCreate(HOST_TYPE_STRING), ids = HostArrayCreate(HOST_TYPE_NUMBER);
+    const HostArray texts = Own(HostArrayCreate(HOST_TYPE_STRING)), ids = Own(HostArrayCreate(HOST_TYPE_NUMBER));
     EXPECT_EQ(ZelPalMenuGetAll(control, texts, ids), 3);
-    EXPECT_EQ(Text(texts, 0), L"None");
-    EXPECT_EQ(Text(texts, 2), L"Last");
-    EXPECT_EQ(Number(ids, 2), 102);
+    EXPECT_EQ(arraytest::TextsOf(texts), (std::vector<std::wstring>{L"None", L"Automatic", L"Last"}));
+    EXPECT_EQ(arraytest::LongsOf(ids), (std::vector<int32_t>{101, 100, 102}));
     EXPECT_EQ(ZelPalMenuRemove(control, 3), 0);
     EXPECT_EQ(ZelPalMenuRemove(control, 0), 1);
     EXPECT_EQ(ZelPalMenuClear(control), 1);
     EXPECT_EQ(ZelPalMenuSetAll(control, texts, ids), 3);
     EXPECT_EQ(palette->object().Model().MenuCount(), 3);
-    for (HostArray a : {texts, ids})
-        HostArrayDestroy(a);
 }
 
 TEST_F(PaletteExports, MenuListsOfDifferentBoundsChangeNothing) {
     ZelPalMenuAdd(control, L"Keep", 1);
-    HostArray texts = Texts({L"a", L"b"});
-    HostArray ids = Numbers({1, 2, 3});
+    const HostArray texts = Own(arraytest::Strings({L"a", L"b"})), ids = Own(arraytest::Longs({1, 2, 3}));
     zkt::DebugOutputCapture capture;
     EXPECT_EQ(ZelPalMenuSetAll(control, texts, ids), 0);
     EXPECT_EQ(capture.text(), L"ZelPalMenuSetAll() - Unable to assign menu list.\n");
     ASSERT_EQ(palette->object().Model().MenuCount(), 1);
     EXPECT_EQ(palette->object().Model().GetMenu(0)->text, u"Keep");
-    for (HostArray a : {texts, ids})
-        HostArrayDestroy(a);
 }
 
 TEST_F(PaletteExports, OldValuesComeBackAndBadArgumentsAreTraced) {

@@ -8,21 +8,12 @@ zk::pal::PalHit FormPalette::Focus() const {
     return {zone, index};
 }
 
-zkt::Bitmap FormPalette::Paint() const {
-    RECT client{};
-    GetClientRect(hwnd(), &client);
-    zkt::Bitmap picture(client.right, client.bottom);
-    SendMessageW(hwnd(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(picture.dc()), PRF_CLIENT);
-    return picture;
-}
-
 zk::Rect FormPalette::Cell(int zone, int index) const {
     return layout().GetCellRect(zone, index, object_->Model().Counts());
 }
 
 void FormPalette::Mouse(UINT message, int x, int y) const {
-    SendMessageW(hwnd(), message, message == WM_MOUSEMOVE ? MK_LBUTTON : 0,
-                 MAKELPARAM(static_cast<WORD>(static_cast<short>(x)), static_cast<WORD>(static_cast<short>(y))));
+    SendMessageW(hwnd(), message, message == WM_MOUSEMOVE ? MK_LBUTTON : 0, zkt::ClientPoint(x, y));
 }
 
 void FormPalette::MouseAt(UINT message, int zone, int index) const {

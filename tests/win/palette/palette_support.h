@@ -30,7 +30,7 @@ public:
     const zk::pal::PalLayout &layout() const { return object_->Layout(); }
     zk::pal::PalHit Focus() const;
     // The client area as the control paints it.
-    zkt::Bitmap Paint() const;
+    zkt::Bitmap Paint() const { return zkt::PrintClient(hwnd()); }
     // A cell's rectangle, and a message at its centre.
     zk::Rect Cell(int zone, int index) const;
     void Mouse(UINT message, int x, int y) const;

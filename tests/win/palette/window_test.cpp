@@ -3,7 +3,7 @@
 // mouse and key messages post, in order.
 #include <cstring>
 
-#include "frame/core/block_io.h"
+#include "block_bytes.h"
 #include "frame/win/host.h"
 #include "palette_support.h"
 
@@ -84,11 +84,6 @@ TEST(PaletteCreation, AutoSizeGivesABorderedWindowTheFramesSize) {
 class StoredBlock : public testing::Test {
 protected:
     void Store(const std::vector<uint8_t> &bytes) { ASSERT_TRUE(design.Store(L"ZK:ColorPalette", bytes)); }
-    static std::vector<uint8_t> Image(zk::pal::SPropPalette &block) {
-        zk::CMemFile file;
-        zk::StoreBlock(file, block);
-        return std::vector<uint8_t>(file.Data(), file.Data() + file.GetLength());
-    }
 
     zkt::StoredBlockItem design;
     uint8_t *parameter = design.parameter;
@@ -103,7 +98,7 @@ TEST_F(StoredBlock, IsAppliedAtCreation) {
     block.enableRecent = 0;
     block.keepSelection = 1;
     block.recentMax = 4;
-    Store(Image(block));
+    Store(zkt::StoredBytes(block));
     FormPalette p({10, 10, 200, 160}, parameter);
     EXPECT_EQ(ZelPalStyleGet(p.control()), PALS_KeepSelection);
     EXPECT_EQ(ZelPalColorPaletteGet(p.control(), PALP_Main, 2), 0x708090);
@@ -117,7 +112,7 @@ TEST_F(StoredBlock, IsAppliedAtCreation) {
 TEST_F(StoredBlock, AShortBlockOrNoStoredFlagKeepTheDefaults) {
     zk::pal::SPropPalette block;
     block.keepSelection = 1;
-    std::vector<uint8_t> bytes = Image(block);
+    std::vector<uint8_t> bytes = zkt::StoredBytes(block);
     Store(std::vector<uint8_t>(bytes.begin(), bytes.end() - 3));
     {
         FormPalette p({10, 10, 200, 160}, parameter);
