@@ -7,14 +7,14 @@
 
 namespace zk::pal {
 
-void PalInput::ChooseEntry() {
+void Input::ChooseEntry() {
     if (model_.FocusZone() != kZoneMenu)
         return;
     if (const SPaletteMenu *entry = model_.GetMenuEntry(model_.FocusIndex()))
         fx_.PostToSelf(ZKM_PaletteCommand, view_.Handle(), entry->id);
 }
 
-bool PalInput::KeyDown(uint32_t key) {
+bool Input::KeyDown(uint32_t key) {
     const int32_t zone = model_.FocusZone();
     switch (key) {
     case kKeyReturn:
@@ -44,14 +44,14 @@ bool PalInput::KeyDown(uint32_t key) {
     }
 }
 
-bool PalInput::SysKeyDown(uint32_t key) {
+bool Input::SysKeyDown(uint32_t key) {
     if (key != kKeyUp || !model_.DropDown())
         return false;
     fx_.Notify(PALN_CloseUp);
     return true;
 }
 
-void PalInput::LButtonDown(int32_t x, int32_t y) {
+void Input::LButtonDown(int32_t x, int32_t y) {
     if (model_.DropDown() && !layout_.Client().Contains(x, y)) {
         // A press beside the pop-up asks to close it; the press still counts.
         fx_.DropCapture();
@@ -67,7 +67,7 @@ void PalInput::LButtonDown(int32_t x, int32_t y) {
     if (zone == -1)
         return;
     state_ = static_cast<uint16_t>((state_ & ~kDragFlags) | zoneBits[zone]);
-    const PalHit hit = layout_.HitTest(x, y, model_.Counts());
+    const Hit hit = layout_.HitTest(x, y, model_.Counts());
     if (hit.index != -1)
         model_.SetFocusCell(hit.index, hit.zone, 1);
     fx_.Invalidate(layout_.ZoneRect(zone), false);
@@ -76,19 +76,19 @@ void PalInput::LButtonDown(int32_t x, int32_t y) {
         fx_.TakeCapture();
 }
 
-void PalInput::MouseMove(int32_t x, int32_t y) {
+void Input::MouseMove(int32_t x, int32_t y) {
     if (!(state_ & kDragFlags))
         return;
     if (!layout_.Frame().Contains(x, y)) {
         state_ |= PALF_Outside;
         return;
     }
-    const PalHit hit = layout_.HitTest(x, y, model_.Counts());
+    const Hit hit = layout_.HitTest(x, y, model_.Counts());
     model_.SetFocusCell(hit.index, hit.zone, 1);
     state_ &= static_cast<uint16_t>(~PALF_Outside);
 }
 
-void PalInput::LButtonUp(int32_t, int32_t) {
+void Input::LButtonUp(int32_t, int32_t) {
     if (!model_.DropDown())
         fx_.DropCapture();
     if ((state_ & kDragFlags) && !(state_ & PALF_Outside)) {
@@ -104,19 +104,19 @@ void PalInput::LButtonUp(int32_t, int32_t) {
     state_ &= static_cast<uint16_t>(~(PALF_Outside | kDragFlags));
 }
 
-void PalInput::LButtonDblClk(int32_t x, int32_t y) {
+void Input::LButtonDblClk(int32_t x, int32_t y) {
     if (layout_.Frame().Contains(x, y))
         fx_.PostToSelf(kHostMsgDoubleClick, static_cast<uintptr_t>(model_.FocusZone()), model_.FocusIndex());
 }
 
-void PalInput::CancelMode() {
+void Input::CancelMode() {
     state_ &= static_cast<uint16_t>(~kDragFlags);
     fx_.DropCapture();
 }
 
-void PalInput::FocusGained() { model_.SetFocusCell(model_.FocusIndex(), model_.FocusZone(), 1); }
+void Input::FocusGained() { model_.SetFocusCell(model_.FocusIndex(), model_.FocusZone(), 1); }
 
-void PalInput::FocusLost() {
+void Input::FocusLost() {
     if (model_.DropDown()) {
         fx_.DropCapture();
         fx_.Hide();

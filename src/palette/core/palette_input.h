@@ -20,9 +20,9 @@ inline constexpr uint16_t PALF_DragMenu = 0x0010;   // in zone 1
 inline constexpr uint16_t PALF_DragRecent = 0x0020; // in zone 2
 inline constexpr uint16_t kDragFlags = PALF_DragMain | PALF_DragMenu | PALF_DragRecent;
 
-class PalInput {
+class Input {
 public:
-    PalInput(PaletteModel &model, const PalLayout &layout, ControlEffects &effects, PaletteView &view, uint16_t &state)
+    Input(PaletteModel &model, const GridLayout &layout, ControlEffects &effects, PaletteView &view, uint16_t &state)
         : model_(model), layout_(layout), fx_(effects), view_(view), state_(state) {}
 
     // WM_KEYDOWN and WM_SYSKEYDOWN: false when the default procedure is to
@@ -46,7 +46,7 @@ private:
     void ChooseEntry();
 
     PaletteModel &model_;
-    const PalLayout &layout_;
+    const GridLayout &layout_;
     ControlEffects &fx_;
     PaletteView &view_;
     uint16_t &state_;

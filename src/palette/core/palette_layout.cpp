@@ -22,13 +22,13 @@ int32_t Rows(int32_t count, int32_t columns) { return count <= 0 ? 0 : (count + 
 
 } // namespace
 
-int32_t PalLayout::Columns(int32_t zone) const {
+int32_t GridLayout::Columns(int32_t zone) const {
     // A cell wider than the zone (a font far too large for the window)
     // still makes one column.
     return std::max((zoneWidth_ + 1) / (CellWidth(zone) + 1), 1);
 }
 
-void PalLayout::Zones(int32_t left, int32_t top, const PalCounts &counts) {
+void GridLayout::Zones(int32_t left, int32_t top, const ZoneCounts &counts) {
     const int32_t z = zoneWidth_;
     main_.left = left + 3;
     main_.top = top + 3;
@@ -44,7 +44,7 @@ void PalLayout::Zones(int32_t left, int32_t top, const PalCounts &counts) {
     recent_.bottom = recent_.top - 2 + Rows(counts.recent, Columns(kZoneRecent)) * (recentCellHeight_ + 1);
 }
 
-void PalLayout::Compute(const Rect &client, int32_t lineHeight, int32_t baseWidth, const PalCounts &counts) {
+void GridLayout::Compute(const Rect &client, int32_t lineHeight, int32_t baseWidth, const ZoneCounts &counts) {
     client_ = client;
     lineHeight_ = lineHeight;
     mainCellHeight_ = recentCellHeight_ = lineHeight;
@@ -65,7 +65,7 @@ void PalLayout::Compute(const Rect &client, int32_t lineHeight, int32_t baseWidt
     Zones(frame_.left, frame_.top, counts);
 }
 
-Rect PalLayout::ZoneRect(int32_t zone) const {
+Rect GridLayout::ZoneRect(int32_t zone) const {
     switch (zone) {
     case kZoneMain:
         return main_;
@@ -78,7 +78,7 @@ Rect PalLayout::ZoneRect(int32_t zone) const {
     }
 }
 
-Rect PalLayout::GetColorCellRect(int32_t zone, int32_t index, int32_t count) const {
+Rect GridLayout::GetColorCellRect(int32_t zone, int32_t index, int32_t count) const {
     if ((zone != kZoneMain && zone != kZoneRecent) || index < 0 || index > count)
         return {};
     const Rect &z = zone == kZoneMain ? main_ : recent_;
@@ -91,7 +91,7 @@ Rect PalLayout::GetColorCellRect(int32_t zone, int32_t index, int32_t count) con
     return r;
 }
 
-Rect PalLayout::GetMenuLineRect(int32_t index, int32_t lines) const {
+Rect GridLayout::GetMenuLineRect(int32_t index, int32_t lines) const {
     if (index < 0 || index >= lines)
         return {};
     Rect r;
@@ -102,7 +102,7 @@ Rect PalLayout::GetMenuLineRect(int32_t index, int32_t lines) const {
     return r;
 }
 
-Rect PalLayout::GetCellRect(int32_t zone, int32_t index, const PalCounts &counts) const {
+Rect GridLayout::GetCellRect(int32_t zone, int32_t index, const ZoneCounts &counts) const {
     if (zone == kZoneMenu)
         return GetMenuLineRect(index, counts.lines);
     return GetColorCellRect(zone, index, counts.Of(zone));
@@ -111,7 +111,7 @@ Rect PalLayout::GetCellRect(int32_t zone, int32_t index, const PalCounts &counts
 // Cells of a zone never overlap one another, so the one cell whose pitch
 // holds the point is the only candidate; zones are tried in order, since a
 // long menu's last lines reach into the recent zone.
-PalHit PalLayout::HitTest(int32_t x, int32_t y, const PalCounts &counts) const {
+Hit GridLayout::HitTest(int32_t x, int32_t y, const ZoneCounts &counts) const {
     for (int32_t zone : {kZoneMain, kZoneMenu, kZoneRecent}) {
         const Rect &z = ZoneRect(zone);
         int32_t index;
@@ -133,7 +133,7 @@ PalHit PalLayout::HitTest(int32_t x, int32_t y, const PalCounts &counts) const {
     return {};
 }
 
-PalLayout::CellBlock PalLayout::CellsMeeting(int32_t zone, const Rect &area, int32_t count) const {
+GridLayout::CellBlock GridLayout::CellsMeeting(int32_t zone, const Rect &area, int32_t count) const {
     CellBlock block;
     if ((zone != kZoneMain && zone != kZoneRecent) || count <= 0 || area.Empty())
         return block;

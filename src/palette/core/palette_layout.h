@@ -23,21 +23,21 @@ inline constexpr int32_t kZoneMain = 0, kZoneMenu = 1, kZoneRecent = 2, kZoneCou
 
 // What the zones hold now: main colours, menu lines (the application's
 // entries and the internal ones), recent colours.
-struct PalCounts {
+struct ZoneCounts {
     int32_t main = 0, lines = 0, recent = 0;
     int32_t Of(int32_t zone) const { return zone == kZoneMain ? main : zone == kZoneMenu ? lines : recent; }
 };
 
-struct PalHit {
+struct Hit {
     int32_t zone = -1, index = -1;
-    bool operator==(const PalHit &) const = default;
+    bool operator==(const Hit &) const = default;
 };
 
-class PalLayout {
+class GridLayout {
 public:
     // RecalcLayout: lineHeight H = tmHeight + tmHeight / 3, baseWidth
     // B = tmAveCharWidth + 6 * tmAveCharWidth / 10.
-    void Compute(const Rect &client, int32_t lineHeight, int32_t baseWidth, const PalCounts &counts);
+    void Compute(const Rect &client, int32_t lineHeight, int32_t baseWidth, const ZoneCounts &counts);
 
     int32_t LineHeight() const { return lineHeight_; }
     int32_t ZoneWidth() const { return zoneWidth_; }
@@ -65,11 +65,11 @@ public:
     // A menu line, for index 0 to lines - 1; otherwise an empty rectangle.
     Rect GetMenuLineRect(int32_t index, int32_t lines) const;
     // The cell of a zone as the counts stand now.
-    Rect GetCellRect(int32_t zone, int32_t index, const PalCounts &counts) const;
+    Rect GetCellRect(int32_t zone, int32_t index, const ZoneCounts &counts) const;
 
     // The first cell holding the point, zone 0 before 1 before 2 and each
     // in index order; -1, -1 when none does.
-    PalHit HitTest(int32_t x, int32_t y, const PalCounts &counts) const;
+    Hit HitTest(int32_t x, int32_t y, const ZoneCounts &counts) const;
 
     // Indices of the cells of a colour zone whose painted pixels (bevel
     // included) meet an area, in rows: first and last column and row.
@@ -83,7 +83,7 @@ public:
     int32_t FitHeight() const { return frame_.bottom - frame_.top + 3; }
 
 private:
-    void Zones(int32_t left, int32_t top, const PalCounts &counts);
+    void Zones(int32_t left, int32_t top, const ZoneCounts &counts);
     int32_t CellWidth(int32_t zone) const { return zone == kZoneMain ? mainCellWidth_ : recentCellWidth_; }
     int32_t CellHeight(int32_t zone) const { return zone == kZoneMain ? mainCellHeight_ : recentCellHeight_; }
 

@@ -11,7 +11,7 @@ namespace zk::pal {
 
 PaletteModel::PaletteModel() : roles_(RoleTable()) {}
 
-PalCounts PaletteModel::Counts() const { return {MainCount(), MenuCount() + InternalCount(), RecentCount()}; }
+ZoneCounts PaletteModel::Counts() const { return {MainCount(), MenuCount() + InternalCount(), RecentCount()}; }
 
 int32_t PaletteModel::LastIndex(int32_t zone) const {
     switch (zone) {

@@ -54,7 +54,7 @@ public:
     PaletteModel &operator=(const PaletteModel &) = delete;
 
     // The window that shows the model; null for none. The model owns none.
-    void AttachView(ControlEffects *effects, PaletteView *view, const PalLayout *layout) {
+    void AttachView(ControlEffects *effects, PaletteView *view, const GridLayout *layout) {
         effects_ = effects;
         view_ = view;
         layout_ = layout;
@@ -80,7 +80,7 @@ public:
     uint32_t SetStyle(uint32_t mask, int32_t value);
 
     // ---- counts ---------------------------------------------------------------
-    PalCounts Counts() const;
+    ZoneCounts Counts() const;
     int32_t MainCount() const { return static_cast<int32_t>(block_.mainColors.size()); }
     int32_t MenuCount() const { return static_cast<int32_t>(block_.menus.size()); }
     int32_t InternalCount() const { return static_cast<int32_t>(internal_.size()); }
@@ -171,7 +171,7 @@ private:
     int32_t focusZone_ = -1;
     ControlEffects *effects_ = nullptr;
     PaletteView *view_ = nullptr;
-    const PalLayout *layout_ = nullptr;
+    const GridLayout *layout_ = nullptr;
 };
 
 } // namespace zk::pal

@@ -72,7 +72,7 @@ void Outline(HDC dc, const RECT &r, HPEN pen) {
     LineTo(dc, r.left, r.top);
 }
 
-int LineRole(const PalLook &look) { return look.disabled ? PALR_DisabledText : PALR_Text; }
+int LineRole(const Look &look) { return look.disabled ? PALR_DisabledText : PALR_Text; }
 
 } // namespace
 
@@ -80,8 +80,8 @@ RoleTools PaintTools(const PaletteModel &model) {
     return RoleTools::ForRoles(kRoleCount, [&](int role) { return model.GetRoleColor(role); });
 }
 
-void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model, int32_t zone,
-               const Rect &clip, const PalLook &look) {
+void PaintGrid(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, int32_t zone,
+               const Rect &clip, const Look &look) {
     const SavedDC saved(dc);
     const RECT z = ToRECT(layout.ZoneRect(zone));
     SelectObject(dc, tools.Pen(LineRole(look)));
@@ -92,7 +92,7 @@ void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const Pa
     const int32_t columns = layout.Columns(zone);
     // Only the cells that meet the clip box: the rest of the buffer is not
     // copied to the screen.
-    const PalLayout::CellBlock cells = layout.CellsMeeting(zone, clip, count);
+    const GridLayout::CellBlock cells = layout.CellsMeeting(zone, clip, count);
     // Cells sit a pixel apart and every line of a cell's bevel stays within
     // the cell and that gap, so no two cells share a pixel: the bevels of
     // all cells go out in one polyline call per pen, the same pixels as a
@@ -119,8 +119,8 @@ void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const Pa
     }
 }
 
-void PaintMenu(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model, HFONT font,
-               const PalLook &look) {
+void PaintMenu(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, HFONT font,
+               const Look &look) {
     const SavedDC saved(dc);
     SelectObject(dc, font);
     SelectObject(dc, tools.Pen(LineRole(look)));
@@ -142,8 +142,7 @@ void PaintMenu(HDC dc, const RoleTools &tools, const PalLayout &layout, const Pa
     }
 }
 
-void PaintFocus(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model,
-                const PalLook &look) {
+void PaintFocus(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, const Look &look) {
     if (look.disabled || !(look.focused || look.keepSelection))
         return;
     const SavedDC saved(dc);

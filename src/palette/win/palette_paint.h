@@ -16,7 +16,7 @@ namespace zk::pal {
 RoleTools PaintTools(const PaletteModel &model);
 
 // What the pieces need to know of the control besides model and layout.
-struct PalLook {
+struct Look {
     bool disabled = false;      // text and outlines in role 7, no focus frame
     bool focused = false;       // the focus frame and its focus rectangle
     bool keepSelection = false; // the focus frame without the focus
@@ -24,14 +24,13 @@ struct PalLook {
 
 // A colour zone (0 or 2): its ground, then each cell meeting `clip` with
 // its two bevel passes and its colour.
-void PaintGrid(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model, int32_t zone,
-               const Rect &clip, const PalLook &look);
+void PaintGrid(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, int32_t zone,
+               const Rect &clip, const Look &look);
 // The menu zone: its ground and bevel, and the text of every line.
-void PaintMenu(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model, HFONT font,
-               const PalLook &look);
+void PaintMenu(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, HFONT font,
+               const Look &look);
 // The focus frame: two lines in role 10 and one in role 9 around and over
 // the focus cell's bevel, with the focus rectangle inside when focused.
-void PaintFocus(HDC dc, const RoleTools &tools, const PalLayout &layout, const PaletteModel &model,
-                const PalLook &look);
+void PaintFocus(HDC dc, const RoleTools &tools, const GridLayout &layout, const PaletteModel &model, const Look &look);
 
 } // namespace zk::pal

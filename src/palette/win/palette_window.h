@@ -1,6 +1,6 @@
 // CColorPalette as a window: the model of palette_model.h shown in three
 // stacked zones, painted off screen by the frame's rule and driven by mouse
-// and keyboard through PalInput. CDlgPalette is the form's wrapper that the
+// and keyboard through Input. CDlgPalette is the form's wrapper that the
 // host creates through "ZK:cPalette:10" and that loads its property block;
 // a plain CColorPalette is made under "ZK:ColorPalette:10" as the pop-up of
 // the palette drop-down.
@@ -34,7 +34,7 @@ public:
 
     PaletteModel &Model() { return model_; }
     const PaletteModel &Model() const { return model_; }
-    const PalLayout &Layout() const { return layout_; }
+    const GridLayout &Layout() const { return layout_; }
     uint16_t State() const { return stateFlags; }
 
     // The pop-up form; a notify window of 0 leaves the parent as notify window.
@@ -78,8 +78,8 @@ private:
     void TakePaintColours(HDC dc);
 
     PaletteModel model_;
-    PalLayout layout_;
-    PalInput input_;
+    GridLayout layout_;
+    Input input_;
 };
 
 class CDlgPalette : public CColorPalette {

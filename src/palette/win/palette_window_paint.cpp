@@ -27,7 +27,7 @@ void CColorPalette::Paint(HDC dc, const Rect &clip) {
     const RoleTools tools = PaintTools(model_);
     const RECT client = ToRECT(ClientArea());
     FillRect(dc, &client, tools.Brush(PALR_Background));
-    PalLook look;
+    Look look;
     look.disabled = (stateFlags & kStateDisabled) != 0;
     look.focused = HasFocus();
     look.keepSelection = model_.KeepSelection();

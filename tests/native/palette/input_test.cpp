@@ -10,7 +10,7 @@
 namespace {
 
 using paltest::Palette;
-using zk::pal::PalHit;
+using zk::pal::Hit;
 using Events = std::vector<std::string>;
 using zkt::Has;
 
@@ -20,10 +20,10 @@ bool Posted(const Events &events) {
 
 struct Step {
     uint32_t key;
-    PalHit after;
+    Hit after;
 };
 
-void Walk(Palette &p, PalHit from, const std::vector<Step> &steps) {
+void Walk(Palette &p, Hit from, const std::vector<Step> &steps) {
     p.model.SetFocusCell(from.index, from.zone, 0);
     for (const Step &s : steps) {
         EXPECT_TRUE(p.input.KeyDown(s.key));
@@ -83,9 +83,9 @@ TEST(PaletteDrag, FollowsThePointerAndSelectsOnRelease) {
     EXPECT_EQ(p.fx.Take(),
               (Events{"inv focus 0.0", "inv focus 0.2", "update", "notify 1", "inv main", "update", "capture"}));
     p.input.MouseMove(b.x, b.y);
-    EXPECT_EQ(p.Focus(), (PalHit{0, 4}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 4}));
     p.input.MouseMove(p.layout.Frame().right - 1, 1); // in the frame, on no cell
-    EXPECT_EQ(p.Focus(), (PalHit{0, 4}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 4}));
     p.fx.Take();
     p.input.LButtonUp(b.x, b.y);
     EXPECT_EQ(p.fx.Take(), (Events{"release", "post select 0 4"}));
@@ -167,11 +167,11 @@ TEST(PaletteFocus, BeforeCreationTheFocusIsStoredQuietlyAndBadCellsAreRefused) {
     EXPECT_EQ(p.model.SetFocusCell(5, 0, 1), 1);
     EXPECT_TRUE(p.fx.Take().empty());
     p.fx.created = true;
-    for (const PalHit bad : {PalHit{0, 8}, PalHit{0, -1}, PalHit{2, 0}, PalHit{3, 0}, PalHit{-2, 0}})
+    for (const Hit bad : {Hit{0, 8}, Hit{0, -1}, Hit{2, 0}, Hit{3, 0}, Hit{-2, 0}})
         EXPECT_EQ(p.model.SetFocusCell(bad.index, bad.zone, 1), 1);
-    EXPECT_EQ(p.Focus(), (PalHit{0, 5}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 5}));
     EXPECT_EQ(p.model.SetFocusCell(0, -1, 0), 1) << "zone -1: the present zone";
-    EXPECT_EQ(p.Focus(), (PalHit{0, 0}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 0}));
 }
 
 } // namespace

@@ -8,18 +8,18 @@
 namespace {
 
 using zk::Rect;
-using zk::pal::PalCounts;
-using zk::pal::PalHit;
-using zk::pal::PalLayout;
+using zk::pal::GridLayout;
+using zk::pal::Hit;
+using zk::pal::ZoneCounts;
 
-PalLayout Laid(PalCounts counts, int32_t width = 140) {
-    PalLayout layout;
+GridLayout Laid(ZoneCounts counts, int32_t width = 140) {
+    GridLayout layout;
     layout.Compute({0, 0, width, 200}, 16, 8, counts);
     return layout;
 }
 
 TEST(PaletteLayout, EightColoursStretchOverSevenColumnsInTwoRows) {
-    const PalLayout l = Laid({8, 1, 0});
+    const GridLayout l = Laid({8, 1, 0});
     EXPECT_EQ(l.ZoneWidth(), 133);
     EXPECT_EQ(l.MainCellWidth(), 18) << "(133 - 7 + 1) / 7";
     EXPECT_EQ(l.RecentCellWidth(), 16) << "no recent colours: square";
@@ -39,35 +39,35 @@ TEST(PaletteLayout, EightColoursStretchOverSevenColumnsInTwoRows) {
 }
 
 TEST(PaletteLayout, EmptyZonesHaveNegativeHeightsAndAddNothingToTheFrame) {
-    const PalLayout l = Laid({8, 0, 0});
+    const GridLayout l = Laid({8, 0, 0});
     EXPECT_EQ(l.Menu().Height(), -3);
     EXPECT_EQ(l.Recent().Height(), -2);
     EXPECT_EQ(l.Frame().Height() + 1, 32 - 3 - 2 + 9) << "bottom is top + height - 1";
-    const PalLayout recent = Laid({8, 1, 3});
+    const GridLayout recent = Laid({8, 1, 3});
     EXPECT_EQ(recent.RecentCellWidth(), 43) << "three colours stretch over the row";
     EXPECT_EQ(recent.Recent(), (Rect{3, 54, 135, 69}));
     EXPECT_EQ(recent.Frame().Height() + 1, 32 + 15 + 15 + 9 + 1 + 1);
 }
 
 TEST(PaletteLayout, MenuLinesStepByHPlusThreeAndReachPastTheirZone) {
-    const PalLayout l = Laid({8, 3, 2});
+    const GridLayout l = Laid({8, 3, 2});
     EXPECT_EQ(l.Menu(), (Rect{3, 37, 135, 88})) << "H + 2 a line";
     EXPECT_EQ(l.GetMenuLineRect(2, 3), (Rect{3, 75, 135, 90})) << "H + 3 a line: two pixels past";
     EXPECT_EQ(l.Recent().top, 90) << "the recent zone starts where the last line still is";
     EXPECT_TRUE(l.GetMenuLineRect(3, 3).Empty());
     EXPECT_TRUE(l.GetMenuLineRect(-1, 3).Empty());
-    const PalLayout five = Laid({8, 5, 2});
+    const GridLayout five = Laid({8, 5, 2});
     EXPECT_EQ(five.GetMenuLineRect(4, 5), (Rect{3, 113, 135, 128}));
     EXPECT_EQ(five.Recent().top, 126);
-    EXPECT_EQ(five.HitTest(10, 126, {8, 5, 2}), (PalHit{1, 4})) << "the menu wins over the recent zone";
-    EXPECT_EQ(five.HitTest(10, 128, {8, 5, 2}), (PalHit{2, 0}));
+    EXPECT_EQ(five.HitTest(10, 126, {8, 5, 2}), (Hit{1, 4})) << "the menu wins over the recent zone";
+    EXPECT_EQ(five.HitTest(10, 128, {8, 5, 2}), (Hit{2, 0}));
 }
 
 TEST(PaletteLayout, ANarrowClientKeepsEightBaseWidthsAndBigFontsStillMakeAColumn) {
-    const PalLayout narrow = Laid({20, 0, 0}, 30);
+    const GridLayout narrow = Laid({20, 0, 0}, 30);
     EXPECT_EQ(narrow.ZoneWidth(), 64);
     EXPECT_EQ(narrow.Frame().Width(), 69);
-    PalLayout huge;
+    GridLayout huge;
     huge.Compute({0, 0, 40, 40}, 200, 1, {3, 1, 0});
     EXPECT_EQ(huge.Columns(0), 1);
     EXPECT_EQ(huge.Main().Height(), 3 * 201 - 2);
@@ -76,11 +76,12 @@ TEST(PaletteLayout, ANarrowClientKeepsEightBaseWidthsAndBigFontsStillMakeAColumn
 // The hit test against a scan of every cell of every zone in order, over
 // every point of the client and around it.
 TEST(PaletteLayout, HitTestFindsTheFirstCellHoldingThePoint) {
-    for (const PalCounts counts : {PalCounts{8, 1, 0}, PalCounts{40, 5, 8}, PalCounts{0, 3, 1}, PalCounts{13, 0, 0}}) {
-        const PalLayout l = Laid(counts);
+    for (const ZoneCounts counts :
+         {ZoneCounts{8, 1, 0}, ZoneCounts{40, 5, 8}, ZoneCounts{0, 3, 1}, ZoneCounts{13, 0, 0}}) {
+        const GridLayout l = Laid(counts);
         for (int32_t y = -3; y < 220; ++y) {
             for (int32_t x = -3; x < 145; ++x) {
-                PalHit scan;
+                Hit scan;
                 for (int32_t zone = 0; zone < 3 && scan.zone == -1; ++zone)
                     for (int32_t i = 0; i < counts.Of(zone) && scan.zone == -1; ++i)
                         if (l.GetCellRect(zone, i, counts).Contains(x, y))
@@ -94,7 +95,7 @@ TEST(PaletteLayout, HitTestFindsTheFirstCellHoldingThePoint) {
 // Painting walks only the cells whose pixels (right and bottom included)
 // meet the clip box: it must not miss one.
 TEST(PaletteLayout, CellsMeetingAnAreaMissNoCellThatPaintsThere) {
-    const PalLayout l = Laid({40, 1, 0});
+    const GridLayout l = Laid({40, 1, 0});
     const Rect areas[] = {{0, 0, 140, 200}, {20, 21, 21, 22}, {39, 0, 40, 1}, {58, 37, 60, 38}, {3, 3, 4, 4}};
     for (const Rect &area : areas) {
         const auto block = l.CellsMeeting(0, area, 40);

@@ -65,15 +65,15 @@ TEST(PaletteRecent, ALowerMaximumPullsTheFocusBackAndClearingSendsItToTheFirstCo
         p.AddRecent(c);
     p.model.SetFocusCell(3, 2, 0);
     p.model.SetRecentMax(2);
-    EXPECT_EQ(p.Focus(), (zk::pal::PalHit{2, 1}));
+    EXPECT_EQ(p.Focus(), (zk::pal::Hit{2, 1}));
     p.model.SetRecentMax(0);
-    EXPECT_EQ(p.Focus(), (zk::pal::PalHit{2, 1})) << "an emptied list leaves the focus as it was";
+    EXPECT_EQ(p.Focus(), (zk::pal::Hit{2, 1})) << "an emptied list leaves the focus as it was";
     p.model.SetRecentMax(5);
     p.AddRecent(7);
     p.model.SetFocusCell(0, 2, 0);
     p.fx.Take();
     p.model.ClearRecentColors();
-    EXPECT_EQ(p.Focus(), (zk::pal::PalHit{0, 0}));
+    EXPECT_EQ(p.Focus(), (zk::pal::Hit{0, 0}));
     const Events events = p.fx.Take();
     ASSERT_GE(events.size(), 4u);
     EXPECT_EQ(Events(events.begin(), events.begin() + 4),
@@ -182,7 +182,7 @@ TEST(PaletteApply, TheDialogsInitialColourIsTheFirstEntrysReference) {
     p.fx.Take();
     p.model.OtherColorChosen(0x00FF00);
     EXPECT_EQ(Recent(p.model), (std::vector<uint32_t>{0x00FF00, 0x123456}));
-    EXPECT_EQ(p.Focus(), (zk::pal::PalHit{2, 0}));
+    EXPECT_EQ(p.Focus(), (zk::pal::Hit{2, 0}));
 }
 
 } // namespace

@@ -36,7 +36,7 @@ struct FakeView : zk::pal::PaletteView {
     uintptr_t Handle() const override { return kHandle; }
 
     zk::pal::PaletteModel *model = nullptr;
-    zk::pal::PalLayout *layout = nullptr;
+    zk::pal::GridLayout *layout = nullptr;
     std::vector<std::string> *events = nullptr;
 };
 
@@ -75,15 +75,15 @@ struct Palette {
         const zk::Rect r = layout.GetCellRect(zone, index, model.Counts());
         return {(r.left + r.right) / 2, (r.top + r.bottom) / 2};
     }
-    zk::pal::PalHit Focus() const { return {model.FocusZone(), model.FocusIndex()}; }
+    zk::pal::Hit Focus() const { return {model.FocusZone(), model.FocusIndex()}; }
     void AddRecent(uint32_t colour) { model.AddRecentColor(std::make_unique<zk::pal::SPaletteColor>(colour)); }
 
     zk::pal::PaletteModel model;
-    zk::pal::PalLayout layout;
+    zk::pal::GridLayout layout;
     zkt::FakeEffects fx;
     FakeView view;
     uint16_t state = 0;
-    zk::pal::PalInput input{model, layout, fx, view, state};
+    zk::pal::Input input{model, layout, fx, view, state};
 };
 
 } // namespace paltest

@@ -2,7 +2,7 @@
 
 namespace paltest {
 
-zk::pal::PalHit FormPalette::Focus() const {
+zk::pal::Hit FormPalette::Focus() const {
     int32_t zone = -9, index = -9;
     ZelPalFocusGet(control(), &zone, &index);
     return {zone, index};

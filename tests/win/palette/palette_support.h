@@ -27,8 +27,8 @@ public:
 
     ZelPalControl control() const { return reinterpret_cast<ZelPalControl>(object_); }
     zk::pal::CColorPalette &object() const { return *object_; }
-    const zk::pal::PalLayout &layout() const { return object_->Layout(); }
-    zk::pal::PalHit Focus() const;
+    const zk::pal::GridLayout &layout() const { return object_->Layout(); }
+    zk::pal::Hit Focus() const;
     // The client area as the control paints it.
     zkt::Bitmap Paint() const { return zkt::PrintClient(hwnd()); }
     // A cell's rectangle, and a message at its centre.

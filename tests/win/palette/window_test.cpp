@@ -10,7 +10,7 @@
 namespace {
 
 using paltest::FormPalette;
-using zk::pal::PalHit;
+using zk::pal::Hit;
 using zkt::Posted;
 
 // The frame objects linked into this program read the library's strings.
@@ -39,7 +39,7 @@ TEST(PaletteCreation, TheAnnouncedPointerIsTheDefaultPalette) {
     FormPalette p;
     ASSERT_NE(p.control(), 0);
     EXPECT_EQ(ZelPalStyleGet(p.control()), PALS_EnableRecent);
-    EXPECT_EQ(p.Focus(), (PalHit{0, 0}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 0}));
     const auto &m = p.object().Model();
     EXPECT_EQ(m.MainCount(), 8);
     ASSERT_EQ(m.Counts().lines, 1);
@@ -142,7 +142,7 @@ TEST(PaletteMouse, AReleaseOnACellPostsSelectToItselfAndTheFocusChangeToTheForm)
     const auto codes = p.Notifications(posted);
     EXPECT_EQ(std::count(codes.begin(), codes.end(), PALN_FocusChange), 3)
         << "the focus taken shows the focus cell again, then 5, then 6";
-    EXPECT_EQ(p.Focus(), (PalHit{0, 6}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 6}));
 }
 
 // The other-colour line: the selection, then the command with id 0, both
@@ -163,7 +163,7 @@ TEST(PaletteMouse, TheOtherColourLinePostsSelectThenCommandZeroWhichOpensTheDial
                                                       {ZKM_PaletteCommand, zkt::posted | zkt::wparam | zkt::lparam,
                                                        reinterpret_cast<WPARAM>(p.hwnd()), 0}}));
     EXPECT_EQ(p.object().Model().RecentCount(), 1);
-    EXPECT_EQ(p.Focus(), (PalHit{2, 0}));
+    EXPECT_EQ(p.Focus(), (Hit{2, 0}));
     // Cancelled, nothing is added; with recent colours off the command is the application's.
     {
         zkt::DialogAnswerer answerer(IDCANCEL);
@@ -175,7 +175,7 @@ TEST(PaletteMouse, TheOtherColourLinePostsSelectThenCommandZeroWhichOpensTheDial
     zkt::DialogAnswerer none(IDCANCEL);
     SendMessageW(p.hwnd(), ZKM_PaletteCommand, reinterpret_cast<WPARAM>(p.hwnd()), 0);
     EXPECT_EQ(none.answered(), 0);
-    EXPECT_EQ(p.Focus(), (PalHit{0, 0})) << "clearing the recent colours moved the focus";
+    EXPECT_EQ(p.Focus(), (Hit{0, 0})) << "clearing the recent colours moved the focus";
 }
 
 TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
@@ -194,7 +194,7 @@ TEST(PaletteKeys, ReturnPostsTheEntrysIdAndArrowsNotifyTheForm) {
                                  {WM_KEYDOWN, zkt::sent},
                                  {ZKM_PaletteCommand, zkt::posted | zkt::lparam, 0, 100},
                                  {WM_COMMAND, zkt::posted | zkt::wparam, MAKEWPARAM(7, PALN_FocusChange), 0, p.form}}));
-    EXPECT_EQ(p.Focus(), (PalHit{0, 7}));
+    EXPECT_EQ(p.Focus(), (Hit{0, 7}));
 }
 
 class Popup : public zkt::PopupTest<zk::pal::CColorPalette> {
