@@ -1,6 +1,6 @@
-// The drive and directory tests run in the file tests' fresh folder, with
-// host arrays made and read back by the array tests' helpers; every test
-// gives back the strings and arrays it made.
+// The drive, directory, network and profile tests run in the file tests'
+// fresh folder, with host arrays made and read back by the array tests'
+// helpers; every test gives back the strings and arrays it made.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 #include "array_support.h"
 #include "files_support.h"
 
-namespace dostest {
+namespace ostest {
 
 using namespace arraytest;
 using filestest::IsFolder;
@@ -17,9 +17,6 @@ using filestest::MissingDrive;
 using filestest::Take;
 using Texts = std::vector<std::wstring>;
 
-inline HostArray StringArray(std::initializer_list<const wchar_t *> texts, int32_t low = 0) {
-    return Strings(texts, low);
-}
 inline Texts Sorted(Texts texts) {
     std::sort(texts.begin(), texts.end());
     return texts;
@@ -70,7 +67,7 @@ private:
     bool had_ = false;
 };
 
-class DosTest : public filestest::FolderTest {
+class OsTest : public filestest::FolderTest {
 protected:
     void SetUp() override {
         ZkHostFailAllocations(0);
@@ -89,10 +86,13 @@ protected:
         return array;
     }
     HostArray Array(int32_t type) { return Keep(HostArrayCreate(type)); }
+    // A string array from index 0.
+    HostArray Array(std::initializer_list<const wchar_t *> texts) { return Keep(Strings(texts)); }
+    std::string Contents(const std::wstring &name) const { return filestest::Read(At(name)); }
 
 private:
     std::vector<HostArray> arrays_;
     int32_t liveArrays_ = 0;
 };
 
-} // namespace dostest
+} // namespace ostest
