@@ -106,19 +106,6 @@ TEST_F(FileCopy, StopsAtTheFirstFailureAndKeepsWhatWasCopied) {
     EXPECT_FALSE(Exists(At(L"out\\3.txt")));
 }
 
-TEST_F(FileCopy, FileBeyondTheFreeSpaceGivesDiskFull) {
-    DWORD sectors = 0, bytes = 0, freeClusters = 0, clusters = 0;
-    ASSERT_TRUE(GetDiskFreeSpaceW(dir_.substr(0, 3).c_str(), &sectors, &bytes, &freeClusters, &clusters));
-    if (sectors * bytes * freeClusters == 0xFFFFFFFFu)
-        GTEST_SKIP() << "free space counts 4 GB - 1 in 32 bits: no file exceeds it";
-    Folder(L"out");
-    Make(L"a_small.txt", "small");
-    ASSERT_TRUE(MakeSparse(At(L"b_huge.bin"), 0xFFFFFFFFull)); // only its size counts
-    EXPECT_EQ(ZEL_DISK_FULL, ZelFileCopy(At(L"*").c_str(), At(L"out").c_str()));
-    EXPECT_EQ("small", Read(At(L"out\\a_small.txt")));
-    EXPECT_FALSE(Exists(At(L"out\\b_huge.bin")));
-}
-
 class FileRename : public FolderTest {};
 class FileDelete : public FolderTest {};
 
@@ -205,17 +192,6 @@ TEST_F(FileAppend, AddsEveryMatchAndANewTargetTakesTheFirstSourcesMarks) {
     }
 }
 
-TEST_F(FileAppend, FileBeyondTheFreeSpaceGivesDiskFull) {
-    DWORD sectors = 0, bytes = 0, freeClusters = 0, clusters = 0;
-    ASSERT_TRUE(GetDiskFreeSpaceW(dir_.substr(0, 3).c_str(), &sectors, &bytes, &freeClusters, &clusters));
-    if (sectors * bytes * freeClusters == 0xFFFFFFFFu)
-        GTEST_SKIP() << "free space counts 4 GB - 1 in 32 bits: no file exceeds it";
-    ASSERT_TRUE(MakeSparse(At(L"huge.bin"), 0xFFFFFFFFull));
-    const std::wstring all = Make(L"all.dat", "kept");
-    EXPECT_EQ(ZEL_DISK_FULL, ZelFileAppend(At(L"huge.bin").c_str(), all.c_str()));
-    EXPECT_EQ("kept", Read(all));
-}
-
 class FileTransferFailures : public FolderTest {};
 
 TEST_F(FileTransferFailures, SharedByCopyRenameExpandAndAppend) {
@@ -259,6 +235,22 @@ TEST_F(FileTransferFailures, TargetInUseStopsTheTransfer) {
     EXPECT_EQ(Err(ERROR_SHARING_VIOLATION), ZelFileCopy(a.c_str(), At(L"out").c_str()));
     EXPECT_EQ(Err(ERROR_SHARING_VIOLATION), ZelFileAppend(a.c_str(), At(L"out\\a.txt").c_str()));
     EXPECT_EQ("new", Read(a));
+}
+
+TEST_F(FileTransferFailures, FileBeyondTheFreeSpaceGivesDiskFull) {
+    DWORD sectors = 0, bytes = 0, freeClusters = 0, clusters = 0;
+    ASSERT_TRUE(GetDiskFreeSpaceW(dir_.substr(0, 3).c_str(), &sectors, &bytes, &freeClusters, &clusters));
+    if (sectors * bytes * freeClusters == 0xFFFFFFFFu)
+        GTEST_SKIP() << "free space counts 4 GB - 1 in 32 bits: no file exceeds it";
+    Folder(L"out");
+    Make(L"a_small.txt", "small");
+    ASSERT_TRUE(MakeSparse(At(L"b_huge.bin"), 0xFFFFFFFFull)); // only its size counts
+    EXPECT_EQ(ZEL_DISK_FULL, ZelFileCopy(At(L"*").c_str(), At(L"out").c_str()));
+    EXPECT_EQ("small", Read(At(L"out\\a_small.txt")));
+    EXPECT_FALSE(Exists(At(L"out\\b_huge.bin")));
+    const std::wstring all = Make(L"all.dat", "kept");
+    EXPECT_EQ(ZEL_DISK_FULL, ZelFileAppend(At(L"b_huge.bin").c_str(), all.c_str()));
+    EXPECT_EQ("kept", Read(all));
 }
 
 } // namespace

@@ -3,10 +3,10 @@
 // the platform's error (the walk itself is tested against a fake network
 // in native_os). The keys of an INI section and the deletion of a key or a
 // section, on real INI files.
-#include <winnetwk.h>
-
 #include "os_support.h"
 #include "zkharness.h"
+
+#include <winnetwk.h>
 
 using namespace ostest;
 
@@ -47,8 +47,6 @@ TEST_F(Net, ConnectionCallsGiveThePlatformsErrorNegated) {
     EXPECT_EQ(-static_cast<int32_t>(cancel), ZelDosNetDisconnect(L"Q:", 1));
     EXPECT_EQ(-static_cast<int32_t>(WNetCancelConnectionW(L"Q:", FALSE)), ZelDosNetDisconnect(L"Q:", 0));
 }
-
-constexpr int kRetry = 203;
 
 class Profile : public OsTest {};
 

@@ -31,6 +31,13 @@ inline std::vector<HostNumber> RecordsOf(HostArray array, int32_t type) {
     }
     return out;
 }
+inline HostDateTime Date(int year, int month, int day, int hour, int minute, int second) {
+    HostDateTime d{};
+    HostDateConstruct(&d, year, month, day, hour, minute, second);
+    return d;
+}
+// The Retry button of the dialog a refused host allocation brings up.
+constexpr int kRetry = 203;
 inline int32_t LongOf(const HostNumber &number) {
     int32_t value = INT32_MIN;
     HostNumberToLong(&number, &value);
