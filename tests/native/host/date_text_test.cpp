@@ -19,8 +19,7 @@ HostDateTime parse(std::string_view text) {
 
 void ExpectParsed(std::string_view text, const HostDateTime &expected) {
     const HostDateTime got = parse(text);
-    EXPECT_TRUE(SameRecord(got, expected))
-        << text << " -> " << ascii(zkh::DateFormat(got, kDefault));
+    EXPECT_TRUE(SameRecord(got, expected)) << text << " -> " << ascii(zkh::DateFormat(got, kDefault));
 }
 
 TEST(HostDateParse, AcceptedForms) {
