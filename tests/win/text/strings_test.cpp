@@ -107,7 +107,7 @@ TEST_F(StringResults, TextsAndTheSizesAskedOfTheHost) {
         // PadB counts the bytes of the code page.
         {[] { return ZelStrPadB(L"abc", 5); }, L"abc  ", (3 + 2) * 2 + 2},
         {[] { return ZelStrPadB(L"abc", 3); }, L"abc", 3 * 2 + 2}, // byte length equal to width: unchanged
-        {[] { return ZelStrPadB(L"abcdef", 3); }, L"abc", 2 * 4}, // cut: m = 4 characters with the terminator
+        {[] { return ZelStrPadB(L"abcdef", 3); }, L"abc", 2 * 4},  // cut: m = 4 characters with the terminator
         {[] { return ZelStrPadB(L"abc", -1); }, L"", 0},
         {[] { return ZelStrPadB(nullptr, 3); }, L"", 0},
         // The platform's case mapping capitalises names.
