@@ -19,13 +19,11 @@ std::string WithoutComments(const std::string &text) {
         if (text.compare(i, 2, "/*") == 0) {
             const std::size_t end = text.find("*/", i + 2);
             const std::size_t stop = end == std::string::npos ? text.size() : end + 2;
-            for (; i < stop; ++i) {
+            for (; i < stop; ++i)
                 out += text[i] == '\n' ? '\n' : ' ';
-            }
         } else if (text.compare(i, 2, "//") == 0) {
-            while (i < text.size() && text[i] != '\n') {
+            while (i < text.size() && text[i] != '\n')
                 ++i;
-            }
         } else {
             out += text[i++];
         }
@@ -35,12 +33,10 @@ std::string WithoutComments(const std::string &text) {
 
 std::string trim(const std::string &s) {
     std::size_t a = 0, b = s.size();
-    while (a < b && std::isspace(static_cast<unsigned char>(s[a]))) {
+    while (a < b && std::isspace(static_cast<unsigned char>(s[a])))
         ++a;
-    }
-    while (b > a && std::isspace(static_cast<unsigned char>(s[b - 1]))) {
+    while (b > a && std::isspace(static_cast<unsigned char>(s[b - 1])))
         --b;
-    }
     return s.substr(a, b - a);
 }
 
@@ -50,9 +46,8 @@ std::vector<std::string> ZkapiFunctions(const std::string &header) {
     static const std::regex declaration(R"(\bZKAPI\s+([A-Za-z_][A-Za-z0-9_]*)\s*\()");
     const std::string text = WithoutComments(header);
     std::vector<std::string> names;
-    for (std::sregex_iterator it(text.begin(), text.end(), declaration), end; it != end; ++it) {
+    for (std::sregex_iterator it(text.begin(), text.end(), declaration), end; it != end; ++it)
         names.push_back((*it)[1].str());
-    }
     return names;
 }
 
@@ -66,26 +61,23 @@ std::vector<DefEntry> DefEntries(const std::string &def, bool part) {
     while (std::getline(in, raw)) {
         ++number;
         std::string line = trim(raw.substr(0, raw.find(';')));
-        if (line.empty()) {
+        if (line.empty())
             continue;
-        }
         // Any other section keyword ends the EXPORTS list.
         const std::string keyword = line.substr(0, line.find_first_of(" \t"));
         if (keyword == "EXPORTS") {
             inExports = true;
             line = trim(line.substr(keyword.size()));
-            if (line.empty()) {
+            if (line.empty())
                 continue;
-            }
         } else if (keyword == "LIBRARY" || keyword == "NAME" || keyword == "IMPORTS" || keyword == "SECTIONS" ||
                    keyword == "HEAPSIZE" || keyword == "STACKSIZE" || keyword == "VERSION" ||
                    keyword == "DESCRIPTION") {
             inExports = false;
             continue;
         }
-        if (!inExports) {
+        if (!inExports)
             continue;
-        }
         std::smatch m;
         DefEntry e;
         e.line = number;
@@ -106,9 +98,8 @@ std::vector<DefEntry> DefEntries(const std::string &def, bool part) {
 
 std::optional<std::string> ReadText(const std::string &path) {
     std::ifstream file(path, std::ios::binary);
-    if (!file) {
+    if (!file)
         return std::nullopt;
-    }
     std::ostringstream out;
     out << file.rdbuf();
     return out.str();
@@ -117,9 +108,8 @@ std::optional<std::string> ReadText(const std::string &path) {
 std::optional<std::string> ReadHeaderTree(const std::string &path) {
     static const std::regex include(R"re(^[ \t]*#[ \t]*include[ \t]*"([^"]+)"[^\n]*$)re");
     auto text = ReadText(path);
-    if (!text) {
+    if (!text)
         return std::nullopt;
-    }
     const std::filesystem::path dir = std::filesystem::path(path).parent_path();
     std::istringstream in(*text);
     std::string out, line;
@@ -127,9 +117,8 @@ std::optional<std::string> ReadHeaderTree(const std::string &path) {
         std::smatch m;
         if (std::regex_match(line, m, include) && std::filesystem::exists(dir / m[1].str())) {
             auto inner = ReadHeaderTree((dir / m[1].str()).string());
-            if (!inner) {
+            if (!inner)
                 return std::nullopt;
-            }
             out += *inner;
         } else {
             out += line;
@@ -145,9 +134,8 @@ std::vector<std::string> DefFiles(const std::string &head, const std::string &pa
     std::error_code error;
     if (!partsDir.empty() && std::filesystem::is_directory(partsDir, error)) {
         for (const auto &entry : std::filesystem::directory_iterator(partsDir, error)) {
-            if (entry.path().extension() == ".def") {
+            if (entry.path().extension() == ".def")
                 parts.push_back(entry.path().string());
-            }
         }
     }
     std::sort(parts.begin(), parts.end());

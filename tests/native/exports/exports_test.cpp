@@ -38,9 +38,8 @@ std::string lower(std::string s) {
 
 std::string list(const NameSet &names) {
     std::ostringstream out;
-    for (const std::string &n : names) {
+    for (const std::string &n : names)
         out << "\n    " << n;
-    }
     return out.str();
 }
 
@@ -53,9 +52,8 @@ NameSet minus(const NameSet &a, const NameSet &b) {
 
 NameSet ExportNames(const pe::Image &image) {
     NameSet out;
-    for (const pe::Export &e : image.exports) {
+    for (const pe::Export &e : image.exports)
         out.insert(e.name);
-    }
     return out;
 }
 
@@ -65,13 +63,11 @@ NameSet SourceNames(const std::string &relative, bool header) {
     EXPECT_TRUE(text) << "cannot read " << path;
     NameSet out;
     if (text && header) {
-        for (const std::string &n : decl::ZkapiFunctions(*text)) {
+        for (const std::string &n : decl::ZkapiFunctions(*text))
             out.insert(n);
-        }
     } else if (text) {
-        for (const decl::DefEntry &e : decl::DefEntries(*text)) {
+        for (const decl::DefEntry &e : decl::DefEntries(*text))
             out.insert(e.exported);
-        }
     }
     return out;
 }
@@ -115,9 +111,8 @@ TEST_P(DllTables, ExportNamesAreUndecoratedAndTheRuntimeIsStatic) {
         }
         EXPECT_EQ(0u, image->unnamedExports) << dll << " exports addresses without names";
         for (const pe::ImportedDll &imported : image->imports) {
-            for (const char *runtime : {"libgcc", "libstdc++", "libwinpthread"}) {
+            for (const char *runtime : {"libgcc", "libstdc++", "libwinpthread"})
                 EXPECT_NE(0u, lower(imported.dll).rfind(runtime, 0)) << dll << " imports " << imported.dll;
-            }
         }
     }
 }
@@ -138,40 +133,32 @@ TEST_P(DllTables, TheReaderRefusesBrokenImages) {
     }
 }
 
-TEST_P(DllTables, ZklibExportsExactlyTheFunctionsOfZklibH) {
-    const NameSet expected = SourceNames("include/zklib.h", true);
-    const NameSet exported = ExportNames(*zklib);
-    EXPECT_EQ(zklib->exports.size(), exported.size()) << "a name is exported twice";
-    EXPECT_TRUE(minus(expected, exported).empty())
-        << "declared ZKAPI in include/zklib.h but not exported:" << list(minus(expected, exported));
-    EXPECT_TRUE(minus(exported, expected).empty())
-        << "exported but not declared in include/zklib.h:" << list(minus(exported, expected));
-}
-
-TEST_P(DllTables, ZkhostExportsExactlyTheNamesOfItsDef) {
-    const NameSet expected = SourceNames("host/win/zkhost.def", false);
-    const NameSet exported = ExportNames(*zkhost);
-    EXPECT_EQ(zkhost->exports.size(), exported.size()) << "a name is exported twice";
-    EXPECT_TRUE(minus(expected, exported).empty())
-        << "listed in host/win/zkhost.def but not exported:" << list(minus(expected, exported));
-    EXPECT_TRUE(minus(exported, expected).empty())
-        << "exported but not listed in host/win/zkhost.def:" << list(minus(exported, expected));
+// ZKLIB.dll exports exactly the ZKAPI functions of include/zklib.h, and
+// zkhost.dll exactly the names of its .def.
+TEST_P(DllTables, EachDllExportsExactlyTheNamesOfItsSource) {
+    for (const auto &[image, source] :
+         {std::pair{&*zklib, "include/zklib.h"}, std::pair{&*zkhost, "host/win/zkhost.def"}}) {
+        const NameSet expected = SourceNames(source, image == &*zklib), exported = ExportNames(*image);
+        EXPECT_EQ(image->exports.size(), exported.size()) << "a name is exported twice";
+        EXPECT_TRUE(minus(expected, exported).empty())
+            << "named in " << source << " but not exported:" << list(minus(expected, exported));
+        EXPECT_TRUE(minus(exported, expected).empty())
+            << "exported but not named in " << source << ":" << list(minus(exported, expected));
+    }
 }
 
 TEST_P(DllTables, ZklibImportsFromZkhostOnlyNamesItExports) {
     const NameSet exported = ExportNames(*zkhost);
     int found = 0;
     for (const pe::ImportedDll &dll : zklib->imports) {
-        if (lower(dll.dll) != "zkhost.dll") {
+        if (lower(dll.dll) != "zkhost.dll")
             continue;
-        }
         ++found;
         EXPECT_TRUE(dll.ordinals.empty()) << "ZKLIB.dll imports from zkhost.dll by ordinal";
         EXPECT_FALSE(dll.names.empty());
         NameSet imported(dll.names.begin(), dll.names.end());
-        for (const std::string &name : imported) {
+        for (const std::string &name : imported)
             EXPECT_EQ(std::string::npos, name.find('@')) << "decorated import " << name;
-        }
         EXPECT_TRUE(minus(imported, exported).empty())
             << "imported by ZKLIB.dll but not exported by zkhost.dll:" << list(minus(imported, exported));
     }

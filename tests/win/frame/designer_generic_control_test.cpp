@@ -20,18 +20,6 @@ protected:
             DestroyWindow(window);
     }
 
-    // WM_COMMAND messages that reached the parent, as (wParam, lParam).
-    std::vector<std::pair<WPARAM, LPARAM>> commands;
-    void ListenForCommands() {
-        parent.OnMessage([this](HWND, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
-            if (message != WM_COMMAND)
-                return false;
-            commands.emplace_back(wParam, lParam);
-            result = 0;
-            return true;
-        });
-    }
-
     zkt::TestWindow parent;
     HWND window = nullptr;
     TestControl *control = nullptr;
@@ -108,28 +96,29 @@ TEST_F(GenericControl, EnableAndShowKeepTheStateBits) {
 }
 
 TEST_F(GenericControl, NotificationsArePostedWithIdCodeAndWindow) {
-    ListenForCommands();
+    zkt::MessageRecorder recorder;
+    recorder.watch(parent);
     control->ControlNotify(1);
-    EXPECT_TRUE(commands.empty()) << "posted, not sent";
+    EXPECT_EQ(recorder.count(WM_COMMAND), 0) << "posted, not sent";
     zkt::PumpMessages();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(commands[0].first, MAKEWPARAM(42, 1));
-    EXPECT_EQ(commands[0].second, reinterpret_cast<LPARAM>(window));
+    EXPECT_TRUE(zkt::MatchNamed(recorder.messages(), {{WM_COMMAND, zkt::posted | zkt::wparam | zkt::lparam,
+                                                       MAKEWPARAM(42, 1), reinterpret_cast<LPARAM>(window)}}));
 }
 
 TEST_F(GenericControl, AltUpClosesThePopUpOnlyInPopUpMode) {
-    ListenForCommands();
+    zkt::MessageRecorder recorder;
+    recorder.watch(parent);
     SendMessageW(window, WM_SYSKEYDOWN, VK_UP, 0x20000000);
     zkt::PumpMessages();
-    EXPECT_TRUE(commands.empty()) << "outside pop-up mode the key goes to the default handling";
+    EXPECT_EQ(recorder.count(WM_COMMAND), 0) << "outside pop-up mode the key goes to the default handling";
     control->PopUp() = 1;
     SendMessageW(window, WM_SYSKEYDOWN, VK_DOWN, 0x20000000);
     zkt::PumpMessages();
-    EXPECT_TRUE(commands.empty());
+    EXPECT_EQ(recorder.count(WM_COMMAND), 0);
     SendMessageW(window, WM_SYSKEYDOWN, VK_UP, 0x20000000);
     zkt::PumpMessages();
-    ASSERT_EQ(commands.size(), 1u);
-    EXPECT_EQ(HIWORD(commands[0].first), 8);
+    EXPECT_EQ(recorder.count(WM_COMMAND), 1);
+    EXPECT_EQ(recorder.notifications(window), std::vector<int>{8});
 }
 
 TEST_F(GenericControl, TheGenericBlockSwapsItsSecondAndThirdStyle) {

@@ -9,17 +9,14 @@
 #include <string>
 #include <vector>
 
+#include "host_test_util.h"
 #include "zkharness.h"
 #include "zkhost.h"
 #include "zkhostctl.h"
 
 namespace {
 
-std::wstring Text(HostStr handle) {
-    int32_t size = 0;
-    const wchar_t *p = HostStrLock(handle, &size);
-    return p ? std::wstring(p) : std::wstring(L"<dead>");
-}
+using hosttest::Text;
 
 class HostDesigner : public testing::Test {
 protected:

@@ -4,24 +4,19 @@
 #include <string>
 
 #include "../../../host/win/mbcscopy.h"
+#include "files_support.h"
 #include "host_test_util.h"
 
 using namespace hosttest;
 
 namespace {
 
-class HostFiles : public HostTest {
+// A file in the test's fresh folder.
+class HostFiles : public filestest::FolderTest {
 protected:
     void SetUp() override {
-        HostTest::SetUp();
-        wchar_t dir[MAX_PATH];
-        GetTempPathW(MAX_PATH, dir);
-        path_ = std::wstring(dir) + L"zkhost_files_" + std::to_wstring(GetCurrentProcessId()) + L".txt";
-        DeleteFileW(path_.c_str());
-    }
-    void TearDown() override {
-        DeleteFileW(path_.c_str());
-        HostTest::TearDown();
+        FolderTest::SetUp();
+        path_ = At(L"host.txt");
     }
 
     HostFile Open(int32_t flags) {

@@ -7,8 +7,11 @@
 
 namespace hosttest {
 
+using arraytest::Bounds;
+using arraytest::BoundsOf;
 using arraytest::Long;
 using arraytest::Text;
+using arraytest::TextsOf;
 inline HostNumber Num(const wchar_t *text) { return arraytest::Number(text); }
 using HostTest = arraytest::ArrayTest;
 

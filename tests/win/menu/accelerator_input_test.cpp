@@ -18,7 +18,18 @@ constexpr WORD kModifierKeys[] = {VK_SHIFT, VK_CONTROL, VK_MENU};
 class Accelerators : public ::testing::Test {
 protected:
     void SetUp() override {
-        form.OnMessage([this](HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &result) {
+        Listen(form);
+        Focus(form);
+    }
+    void TearDown() override {
+        for (ZelAccelHandle a : loaded)
+            ZelWinFreeAccelerator(a);
+    }
+
+    // Counts the key reaching the window and the sentinel's release, and
+    // records the accelerators' messages.
+    void Listen(zkt::TestWindow &target) {
+        target.OnMessage([this](HWND window, UINT message, WPARAM wParam, LPARAM lParam, LRESULT &) {
             if (message == kFired) {
                 fired.push_back({window, static_cast<uint32_t>(lParam)});
                 return true;
@@ -32,11 +43,6 @@ protected:
                 return true;
             return false;
         });
-        Focus(form);
-    }
-    void TearDown() override {
-        for (ZelAccelHandle a : loaded)
-            ZelWinFreeAccelerator(a);
     }
 
     static void Focus(HWND window) {
@@ -127,13 +133,7 @@ TEST_F(Accelerators, OtherModifiersAndBackgroundTargetsLetTheKeyThrough) {
         if (m.message == kFired)
             EXPECT_EQ(m.lParam, 2) << "the record's value";
     Focus(front);
-    front.OnMessage([this](HWND, UINT message, WPARAM wParam, LPARAM, LRESULT &) {
-        if ((message == WM_KEYDOWN || message == WM_SYSKEYDOWN) && wParam == kKey)
-            ++keysReached;
-        if (message == WM_KEYUP && wParam == kSentinel)
-            sentinelSeen = true;
-        return false;
-    });
+    Listen(front);
     atTarget.clear();
     Press(ACCEL_Control);
     EXPECT_EQ(atTarget.count(kFired, target), 0);

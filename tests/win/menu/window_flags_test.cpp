@@ -21,6 +21,14 @@ protected:
             ASSERT_EQ(ZelWinSetFlags(field, WF_Required, 1), 1);
         ASSERT_EQ(ZelWinSetFlags(ok, WF_RequiredButton, 1), 1);
     }
+    // Types into the edit, clicks the list's first row and selects the
+    // combo's by its key, the way a user does on a closed drop-down list.
+    void FillAll() {
+        Type(edit, L"a"); // EN_CHANGE
+        Click(list);      // LBN_SELCHANGE
+        SetFocus(combo);
+        SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 0); // CBN_SELCHANGE
+    }
 
     zkt::TestWindow form{320, 200, L"required fields"};
     HWND edit = form.AddEdit(1, {10, 10, 150, 22});
@@ -58,10 +66,7 @@ TEST_F(RequiredForm, TheDefaultButtonFollowsTheChangeNotifications) {
 TEST_F(RequiredForm, AnEditableComboIsFilledByItsText) {
     HWND typed = form.AddComboBox(4, {170, 110, 120, 120}, CBS_DROPDOWN);
     ASSERT_EQ(ZelWinSetFlags(typed, WF_Required, 1), 1);
-    Type(edit, L"a");
-    Click(list);
-    SetFocus(combo);
-    SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 0);
+    FillAll();
     EXPECT_FALSE(IsWindowEnabled(ok));
     COMBOBOXINFO info{sizeof info};
     ASSERT_TRUE(GetComboBoxInfo(typed, &info));
@@ -79,10 +84,7 @@ TEST_F(RequiredForm, FramesAreSearchedAndTheirButtonsFollow) {
                                        GetModuleHandleW(nullptr), nullptr);
     ASSERT_EQ(ZelWinSetFlags(inner, WF_Required, 1), 1);
     ASSERT_EQ(ZelWinSetFlags(innerButton, WF_RequiredButton, 1), 1);
-    Type(edit, L"a");
-    Click(list);
-    SetFocus(combo);
-    SendMessageW(combo, WM_KEYDOWN, VK_DOWN, 0);
+    FillAll();
     EXPECT_EQ(ZelWinIsRequiredFieldNull(form), inner);
     EXPECT_FALSE(IsWindowEnabled(ok)) << "the frame's field is null";
     EXPECT_FALSE(IsWindowEnabled(innerButton));

@@ -1,12 +1,12 @@
 // The pattern listings on real folders: which entries each takes, what it
 // writes beside the names, the bounds it leaves, and what a failure leaves.
-#include "dos_support.h"
+#include "os_support.h"
 
-using namespace dostest;
+using namespace ostest;
 
 namespace {
 
-class Listing : public DosTest {
+class Listing : public OsTest {
 protected:
     // plain.txt, hid.txt (hidden), sys.txt (system), both.txt (hidden and
     // system), a folder; false when this file system drops the marks.
@@ -33,7 +33,7 @@ TEST_F(Listing, FoldersOnlyWithoutTheirLinksFromIndexZero) {
     Folder(L"alpha");
     Folder(L"beta");
     Make(L"file.txt", "");
-    const HostArray names = Keep(StringArray({L"x", L"y", L"z"}, 5));
+    const HostArray names = Keep(Strings({L"x", L"y", L"z"}, 5));
     EXPECT_EQ(0, ZelDosEnumDirs(Pattern(L"*.txt").c_str(), names)) << "nothing to take empties the array";
     EXPECT_EQ(0, BoundsOf(names).count);
     HostArraySetBounds(names, 3, 5);
@@ -51,7 +51,7 @@ TEST_F(Listing, FoldersOnlyWithoutTheirLinksFromIndexZero) {
 }
 
 TEST_F(Listing, FailuresLeaveEveryArrayAsItWas) {
-    const HostArray names = Keep(StringArray({L"keep", L"these"}, 2));
+    const HostArray names = Keep(Strings({L"keep", L"these"}, 2));
     const HostArray sizes = Array(HOST_TYPE_NUMBER), dates = Array(HOST_TYPE_DATETIME),
                     attributes = Array(HOST_TYPE_NUMBER);
     HostArraySetBounds(sizes, 0, 3);
@@ -120,12 +120,6 @@ bool SetCreated(const std::wstring &path, WORD year, WORD month, WORD day, WORD 
     return ok;
 }
 
-HostDateTime Date(int year, int month, int day, int hour, int minute, int second) {
-    HostDateTime d{};
-    HostDateConstruct(&d, year, month, day, hour, minute, second);
-    return d;
-}
-
 TEST_F(Listing, SizesLow32BitsAndCreationDatesToTwoSeconds) {
     ASSERT_TRUE(filestest::MakeSparse(At(L"small.bin"), 12345));
     ASSERT_TRUE(filestest::MakeSparse(At(L"huge.bin"), (1ull << 32) + 7));
@@ -160,7 +154,7 @@ TEST_F(Listing, SizesLow32BitsAndCreationDatesToTwoSeconds) {
 }
 
 TEST_F(Listing, DrivesOfThisMachine) {
-    const HostArray names = Keep(StringArray({L"stale"}, 4));
+    const HostArray names = Keep(Strings({L"stale"}, 4));
     Texts expected;
     for (int i = 0; i < 26; ++i)
         if (GetLogicalDrives() & (1u << i))
@@ -198,7 +192,7 @@ TEST_F(Listing, SearchPathFoldersThatExist) {
     }
     EXPECT_EQ(0, BoundsOf(names).count);
     // No PATH at all leaves the array alone.
-    const HostArray kept = Keep(StringArray({L"kept"}));
+    const HostArray kept = Keep(Strings({L"kept"}));
     for (const wchar_t *value : {L"", static_cast<const wchar_t *>(nullptr)}) {
         const Variable variable(L"PATH", value);
         EXPECT_EQ(0, ZelDosEnumPath(kept));

@@ -9,23 +9,17 @@
 
 namespace {
 
-// A fresh file in the temporary folder for each test, its stream closed
-// and the file removed afterwards.
-class Stream : public ::testing::Test {
+// A file in the test's fresh folder, its stream closed at the end.
+class Stream : public filestest::FolderTest {
 protected:
     void SetUp() override {
-        strings_ = ZkHostLiveStrings();
-        wchar_t temp[MAX_PATH] = {};
-        GetTempPathW(MAX_PATH, temp);
-        const std::string name = std::string("zks_") + testing::UnitTest::GetInstance()->current_test_info()->name();
-        path_ = temp + std::wstring(name.begin(), name.end()) + L".dat";
-        DeleteFileW(path_.c_str());
+        FolderTest::SetUp();
+        path_ = At(L"stream.dat");
     }
     void TearDown() override {
         if (file_)
             ZelFileClose(file_);
-        DeleteFileW(path_.c_str());
-        EXPECT_EQ(strings_, ZkHostLiveStrings()) << "host strings left behind";
+        FolderTest::TearDown();
     }
     void Put(const std::string &bytes) { ASSERT_TRUE(filestest::Write(path_, bytes)); }
     std::string Get() const { return filestest::Read(path_); }
@@ -48,7 +42,6 @@ protected:
 
     std::wstring path_;
     HostFile file_ = nullptr;
-    int32_t strings_ = 0;
 };
 
 TEST_F(Stream, NullHandleIsRefusedBeforeTheHost) {

@@ -1,4 +1,5 @@
-// Reading date texts.
+// Date-time texts: reading them, and formatting by picture with the
+// pictures that are valid.
 #include <climits>
 #include <random>
 
@@ -8,6 +9,8 @@ using namespace hosttest;
 
 namespace {
 
+constexpr std::u16string_view kDefault = u"yyyy-MM-dd-hh.mm.ss.mmmmmm";
+
 HostDateTime parse(std::string_view text) {
     HostDateTime d{};
     EXPECT_TRUE(zkh::DateParse(u16(text), d)) << text;
@@ -16,8 +19,7 @@ HostDateTime parse(std::string_view text) {
 
 void ExpectParsed(std::string_view text, const HostDateTime &expected) {
     const HostDateTime got = parse(text);
-    EXPECT_TRUE(SameRecord(got, expected))
-        << text << " -> " << ascii(zkh::DateFormat(got, u"yyyy-MM-dd-hh.mm.ss.mmmmmm"));
+    EXPECT_TRUE(SameRecord(got, expected)) << text << " -> " << ascii(zkh::DateFormat(got, kDefault));
 }
 
 TEST(HostDateParse, AcceptedForms) {
@@ -76,7 +78,7 @@ TEST(HostDateParse, DefaultTextsRoundTrip) {
         const HostDateTime d = zkh::DateFromParts(
             year, 1 + static_cast<int>(rng() % 12), 1 + static_cast<int>(rng() % 31), static_cast<int>(rng() % 24),
             static_cast<int>(rng() % 60), static_cast<int>(rng() % 60), static_cast<int>(rng() % 1000000));
-        const std::u16string text = zkh::DateFormat(d, u"yyyy-MM-dd-hh.mm.ss.mmmmmm");
+        const std::u16string text = zkh::DateFormat(d, kDefault);
         HostDateTime back{};
         ASSERT_TRUE(zkh::DateParse(text, back)) << ascii(text);
         ASSERT_TRUE(SameRecord(back, d)) << ascii(text);
@@ -89,6 +91,72 @@ TEST(HostDateParse, DefaultTextsRoundTrip) {
                 << ascii(us);
         }
     }
+}
+
+std::string format(const HostDateTime &d, std::string_view picture) { return ascii(zkh::DateFormat(d, u16(picture))); }
+std::string Default(const HostDateTime &d) { return ascii(zkh::DateFormat(d, kDefault)); }
+
+TEST(HostPicture, DefaultPicture) {
+    EXPECT_EQ(Default(zkh::DateFromParts(2020, 5, 17, 13, 45, 10)), "2020-05-17-13.45.10.000000");
+    EXPECT_EQ(Default(zkh::DateFromParts(5, 1, 2, 3, 4, 5, 60)), "0005-01-02-03.04.05.000060");
+    EXPECT_EQ(Default(zkh::DateFromParts(12345, 12, 31, 23, 59, 59, 999999)), "12345-12-31-23.59.59.999999");
+    EXPECT_EQ(Default(zkh::DateFromParts(-44, 3, 15, 0, 0, 0)), "-0044-03-15-00.00.00.000000");
+    EXPECT_EQ(Default(HostDateTime{}), "");
+}
+
+TEST(HostPicture, TwelveHourClockWithAmPm) {
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 13, 45, 10), "hh:mm:ss AMPM"), "01:45:10 PM");
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 0, 5, 0), "hh:mm:ss AMPM"), "12:05:00 AM");
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 12, 0, 0), "hh:mm:ss AMPM"), "12:00:00 PM");
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 9, 0, 0), "h:mm"), "9:00");
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 21, 0, 0), "HH hh AMPM"), "21 09 PM");
+    EXPECT_EQ(format(zkh::DateFromParts(2020, 5, 17, 21, 0, 0), "HH hh"), "21 21");
+}
+
+TEST(HostPicture, NamesAndShortForms) {
+    const HostDateTime d = zkh::DateFromParts(2020, 5, 17, 8, 7, 6, 54321);
+    EXPECT_EQ(format(d, "dddd, MMMM d, yyyy"), "Sunday, May 17, 2020");
+    EXPECT_EQ(format(d, "ddd d MMM yy"), "Sun 17 May 20");
+    EXPECT_EQ(format(d, "M/d/yy"), "5/17/20");
+    EXPECT_EQ(format(zkh::DateFromParts(2021, 9, 1, 0, 0, 0), "dddd d MMMM"), "Wednesday 1 September");
+    EXPECT_EQ(format(zkh::DateFromParts(1905, 1, 1, 0, 0, 0), "yy"), "05");
+}
+
+TEST(HostPicture, LongestTokenFirstAndCaseDecides) {
+    const HostDateTime d = zkh::DateFromParts(2020, 5, 17, 8, 7, 6, 54321);
+    EXPECT_EQ(format(d, "mmmmmm"), "054321");
+    EXPECT_EQ(format(d, "mm mmmmmm MM"), "07 054321 05");
+    EXPECT_EQ(format(d, "mmmm"), "0707");
+    EXPECT_EQ(format(d, "yyyyMMddhhmmss"), "20200517080706");
+    EXPECT_EQ(format(d, "MMMMM"), "May5");
+}
+
+TEST(HostPicture, QuotedTextAndOtherCharacters) {
+    const HostDateTime d = zkh::DateFromParts(2020, 5, 17, 8, 7, 6);
+    EXPECT_EQ(format(d, "\"Year\" yyyy"), "Year 2020");
+    EXPECT_EQ(format(d, "\"dd\"dd"), "dd17");
+    EXPECT_EQ(format(d, "[yyyy] #1 ~ ."), "[2020] #1 ~ .");
+    // Letters that make no token are copied as they stand.
+    EXPECT_EQ(format(d, "yyyy at hh"), "2020 at 08");
+    EXPECT_EQ(zkh::DateFormat(d, u"\u00e9t\u00e9 yyyy"), u"\u00e9t\u00e9 2020");
+}
+
+TEST(HostPicture, Validity) {
+    const char *good[] = {"yyyy-MM-dd-hh.mm.ss.mmmmmm",
+                          "hh:mm:ss AMPM",
+                          "yyyy",
+                          "d",
+                          "\"on\" dddd",
+                          "MMMM d, yyyy",
+                          "HH:mm",
+                          "yyyyMMdd",
+                          "-- mm --"};
+    for (const char *g : good)
+        EXPECT_TRUE(zkh::PictureIsValid(u16(g))) << g;
+    const char *bad[] = {"",         "abc",   "yyyyx",       "yyy",         "mmmmm", "ampm",
+                         "\"yyyy\"", "123 -", "yyyy \"open", "hh:mm:ss am", "Y"};
+    for (const char *b : bad)
+        EXPECT_FALSE(zkh::PictureIsValid(u16(b))) << b;
 }
 
 } // namespace

@@ -1,6 +1,6 @@
-// The drive and directory tests run in the file tests' fresh folder, with
-// host arrays made and read back by the array tests' helpers; every test
-// gives back the strings and arrays it made.
+// The drive, directory, network and profile tests run in the file tests'
+// fresh folder, with host arrays made and read back by the array tests'
+// helpers; every test gives back the strings and arrays it made.
 #pragma once
 
 #include <algorithm>
@@ -9,7 +9,7 @@
 #include "array_support.h"
 #include "files_support.h"
 
-namespace dostest {
+namespace ostest {
 
 using namespace arraytest;
 using filestest::IsFolder;
@@ -17,9 +17,6 @@ using filestest::MissingDrive;
 using filestest::Take;
 using Texts = std::vector<std::wstring>;
 
-inline HostArray StringArray(std::initializer_list<const wchar_t *> texts, int32_t low = 0) {
-    return Strings(texts, low);
-}
 inline Texts Sorted(Texts texts) {
     std::sort(texts.begin(), texts.end());
     return texts;
@@ -34,6 +31,13 @@ inline std::vector<HostNumber> RecordsOf(HostArray array, int32_t type) {
     }
     return out;
 }
+inline HostDateTime Date(int year, int month, int day, int hour, int minute, int second) {
+    HostDateTime d{};
+    HostDateConstruct(&d, year, month, day, hour, minute, second);
+    return d;
+}
+// The Retry button of the dialog a refused host allocation brings up.
+constexpr int kRetry = 203;
 inline int32_t LongOf(const HostNumber &number) {
     int32_t value = INT32_MIN;
     HostNumberToLong(&number, &value);
@@ -70,7 +74,7 @@ private:
     bool had_ = false;
 };
 
-class DosTest : public filestest::FolderTest {
+class OsTest : public filestest::FolderTest {
 protected:
     void SetUp() override {
         ZkHostFailAllocations(0);
@@ -89,10 +93,13 @@ protected:
         return array;
     }
     HostArray Array(int32_t type) { return Keep(HostArrayCreate(type)); }
+    // A string array from index 0.
+    HostArray Array(std::initializer_list<const wchar_t *> texts) { return Keep(Strings(texts)); }
+    std::string Contents(const std::wstring &name) const { return filestest::Read(At(name)); }
 
 private:
     std::vector<HostArray> arrays_;
     int32_t liveArrays_ = 0;
 };
 
-} // namespace dostest
+} // namespace ostest
