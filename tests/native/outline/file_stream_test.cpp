@@ -6,7 +6,9 @@
 
 #include "outline/core/ofile_stream.h"
 
-using namespace zk::ofile;
+using namespace zk::lbx;
+
+using namespace zk::lbx::ofile;
 using Bytes = std::vector<uint8_t>;
 
 namespace {

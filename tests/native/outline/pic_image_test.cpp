@@ -5,7 +5,9 @@
 
 #include "outline/core/image_reader.h"
 
-using namespace zk::image;
+using namespace zk::lbx;
+
+using namespace zk::lbx::image;
 using Bytes = std::vector<uint8_t>;
 
 namespace {

@@ -18,10 +18,12 @@
 #include "zkhostctl.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace ofiletest {
 
 using Bytes = std::vector<uint8_t>;
-using zk::CPicArray;
+using zk::lbx::CPicArray;
 
 constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
 constexpr DWORD kComboStyle = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;

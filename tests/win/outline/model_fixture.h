@@ -13,6 +13,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace outlinetest {
 
 constexpr int kListId = 101;

@@ -10,6 +10,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;

@@ -10,6 +10,8 @@
 
 #include "outline/core/lbx.h"
 
+using namespace zk::lbx;
+
 namespace treetest {
 
 struct Tolerance {

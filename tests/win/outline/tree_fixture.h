@@ -14,6 +14,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace treetest {
 
 constexpr DWORD kListStyle = LBS_NOTIFY | WS_VSCROLL | WS_BORDER | LBS_OWNERDRAWVARIABLE;
