@@ -28,7 +28,7 @@ void touch(const uint8_t *data, size_t size, size_t offset, size_t bytes) {
 }
 
 void images(const uint8_t *data, size_t size) {
-    using namespace zk::image;
+    using namespace zk::lbx::image;
     if (const auto bmp = ReadBmp(data, size)) {
         check(bmp->width > 0 && bmp->width <= kMaxSide && bmp->height > 0 && bmp->height <= kMaxSide);
         touch(data, size, bmp->infoOffset, 40 + size_t{bmp->colours} * 4);
@@ -48,14 +48,14 @@ void images(const uint8_t *data, size_t size) {
 }
 
 void PicItems(const uint8_t *data, size_t size) {
-    std::vector<zk::PICITEM> items;
-    if (!zk::PicItemsRead(data, size, items)) {
+    std::vector<zk::lbx::PICITEM> items;
+    if (!zk::lbx::PicItemsRead(data, size, items)) {
         check(items.empty());
         return;
     }
-    const std::vector<uint8_t> again = zk::PicItemsWrite(items);
-    std::vector<zk::PICITEM> back;
-    check(zk::PicItemsRead(again.data(), again.size(), back));
+    const std::vector<uint8_t> again = zk::lbx::PicItemsWrite(items);
+    std::vector<zk::lbx::PICITEM> back;
+    check(zk::lbx::PicItemsRead(again.data(), again.size(), back));
     check(back == items);
 }
 

@@ -10,7 +10,7 @@
 
 namespace {
 
-using namespace zk::ofile;
+using namespace zk::lbx::ofile;
 
 void check(bool condition) {
     if (!condition)

@@ -16,10 +16,10 @@ HIMAGELIST ListOf(const CImageList &list) { return static_cast<HIMAGELIST>(list.
 // for a picture of no known format (nothing added).
 int32_t Add(HIMAGELIST list, const PIC &picture) {
     switch (picture.type) {
-    case PIC_TypeBitmap:
+    case lbx::PIC_TypeBitmap:
         return ImageList_Add(list, picture.bitmap, picture.mask);
-    case PIC_TypeIcon:
-    case PIC_TypeMemoryIcon:
+    case lbx::PIC_TypeIcon:
+    case lbx::PIC_TypeMemoryIcon:
         return ImageList_ReplaceIcon(list, -1, picture.icon);
     default:
         return 0;
@@ -28,10 +28,10 @@ int32_t Add(HIMAGELIST list, const PIC &picture) {
 
 bool Replace(HIMAGELIST list, int32_t index, const PIC &picture) {
     switch (picture.type) {
-    case PIC_TypeBitmap:
+    case lbx::PIC_TypeBitmap:
         return ImageList_Replace(list, index, picture.bitmap, picture.mask) != FALSE;
-    case PIC_TypeIcon:
-    case PIC_TypeMemoryIcon:
+    case lbx::PIC_TypeIcon:
+    case lbx::PIC_TypeMemoryIcon:
         return ImageList_ReplaceIcon(list, index, picture.icon) != -1;
     default:
         return false;

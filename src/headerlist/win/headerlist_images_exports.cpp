@@ -5,12 +5,13 @@
 using zk::GuardedControlText;
 using zk::hdr::CHeaderListBox;
 using zk::hdr::ListOf;
+using zk::lbx::PIC;
 
 namespace {
 
 // A picture handle that names no live picture is the caller's mistake.
 const PIC &PictureArg(INT_PTR handle) {
-    const PIC *picture = zk::PicFromHandle(handle);
+    const PIC *picture = zk::lbx::PicFromHandle(handle);
     if (!picture)
         throw zk::UserException();
     return *picture;

@@ -14,6 +14,8 @@
 
 namespace zk::hdr {
 
+using lbx::PIC;
+
 inline constexpr const wchar_t *kListViewClass = L"SysListView32";
 
 class CHeaderListBox : public Window, public ListViewPort, public NotifyReflector {

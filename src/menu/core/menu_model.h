@@ -15,9 +15,13 @@
 
 #include "zklib/menu.h" // ZKM_MenuCommand, ZKM_MenuClear
 
+namespace zk::lbx {
 struct PIC;
+}
 
 namespace zk::menu {
+
+using lbx::PIC;
 
 // Bit 0 of MenuRecord::flags: the item is the application's, and a command
 // on it is reported to the host.

@@ -74,7 +74,7 @@ bool Finish(HLOCAL block, const NewId &id, const MenuRecord &record) {
 
 // The host frame's picture for an item in its tree.
 int32_t FramePicture(HWND frame, int32_t id, const std::u16string &text, const PIC &picture) {
-    if (picture.type == PIC_TypeBitmap)
+    if (picture.type == lbx::PIC_TypeBitmap)
         return HostFrameSetMenuPictureBitmap(frame, id, Wide(text), picture.bitmap, picture.mask, picture.width,
                                              picture.height);
     return HostFrameSetMenuPictureIcon(frame, id, Wide(text), picture.icon);
@@ -128,8 +128,8 @@ int32_t InsertFont(HWND window, HMENU menu, int32_t position, HFONT font, const 
 
 int32_t InsertPicture(HWND window, HMENU menu, int32_t position, INT_PTR picture, INT_PTR selectedPicture,
                       const wchar_t *text) {
-    PIC *normal = PicFromHandle(picture);
-    PIC *selected = PicFromHandle(selectedPicture);
+    PIC *normal = lbx::PicFromHandle(picture);
+    PIC *selected = lbx::PicFromHandle(selectedPicture);
     Prepared p;
     if (!normal || !selected || !Prepare(window, menu, true, true, p))
         return 0;

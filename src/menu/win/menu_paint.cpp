@@ -19,9 +19,9 @@ constexpr WORD kCheckBitmap = 32760;
 int32_t CheckWidth() { return LOWORD(GetMenuCheckMarkDimensions()); }
 
 // A record's picture, if it is still alive.
-const PIC *Live(const PIC *picture) { return PicIsLive(picture) ? picture : nullptr; }
+const PIC *Live(const PIC *picture) { return lbx::PicIsLive(picture) ? picture : nullptr; }
 
-bool IsBitmap(const PIC &picture) { return picture.type == PIC_TypeBitmap; }
+bool IsBitmap(const PIC &picture) { return picture.type == lbx::PIC_TypeBitmap; }
 
 SIZE Extent(HDC dc, std::u16string_view text) {
     SIZE size{0, 0};
@@ -34,7 +34,7 @@ void DrawPicture(HDC dc, const PIC &picture, const ItemLayout &at) {
         MaskedBlit(dc, at.picture.x, at.picture.y, picture.width, at.pictureRows, picture.bitmap, picture.mask);
         return;
     }
-    if ((picture.type == PIC_TypeIcon || picture.type == PIC_TypeMemoryIcon) && picture.icon)
+    if ((picture.type == lbx::PIC_TypeIcon || picture.type == lbx::PIC_TypeMemoryIcon) && picture.icon)
         DrawIcon(dc, at.picture.x, at.picture.y, picture.icon);
 }
 

@@ -5,9 +5,13 @@
 
 #include <windows.h>
 
+namespace zk::lbx {
 struct PIC;
+}
 
 namespace zk::menu {
+
+using lbx::PIC;
 
 // Measures the item of a record; false when no record has its id (the
 // message then goes on to the old procedure). Width and height are set to

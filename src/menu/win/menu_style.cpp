@@ -75,8 +75,8 @@ int32_t SetFont(HWND window, HMENU menu, int32_t selector, HFONT font, const wch
 
 int32_t SetPicture(HWND window, HMENU menu, int32_t selector, INT_PTR picture, INT_PTR selectedPicture,
                    const wchar_t *text) {
-    PIC *normal = PicFromHandle(picture);
-    PIC *selected = PicFromHandle(selectedPicture);
+    PIC *normal = lbx::PicFromHandle(picture);
+    PIC *selected = lbx::PicFromHandle(selectedPicture);
     Target t;
     if (!normal || !selected || !Reach(window, menu, selector, t))
         return 0;
@@ -86,7 +86,7 @@ int32_t SetPicture(HWND window, HMENU menu, int32_t selector, INT_PTR picture, I
         return 0;
     HWND frame = t.open.frame;
     if (ZelMenuInFrame(frame, menu)) {
-        const int32_t done = normal->type == PIC_TypeBitmap
+        const int32_t done = normal->type == lbx::PIC_TypeBitmap
                                  ? HostFrameSetMenuPictureBitmap(frame, t.id, Wide(value), normal->bitmap, normal->mask,
                                                                  normal->width, normal->height)
                                  : HostFrameSetMenuPictureIcon(frame, t.id, Wide(value), normal->icon);

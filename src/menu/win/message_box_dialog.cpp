@@ -72,7 +72,7 @@ MsgButton *ButtonAt(HostArray buttons, int32_t place, bool *isDefault = nullptr)
 }
 
 HICON IconOf(INT_PTR selector) {
-    if (PIC *pic = PicFromHandle(selector))
+    if (lbx::PIC *pic = lbx::PicFromHandle(selector))
         return pic->icon;
     switch (MsgBoxIconOf(static_cast<uint64_t>(selector))) {
     case MsgBoxIcon::Asterisk:

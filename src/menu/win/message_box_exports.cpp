@@ -18,8 +18,8 @@ namespace {
 // A picture handle must name a live icon; bits of the system icons only
 // count where no picture is named.
 bool IconUsable(INT_PTR icon) {
-    if (const PIC *pic = zk::PicFromHandle(icon))
-        return pic->type == PIC_TypeIcon || pic->type == PIC_TypeMemoryIcon;
+    if (const zk::lbx::PIC *pic = zk::lbx::PicFromHandle(icon))
+        return pic->type == zk::lbx::PIC_TypeIcon || pic->type == zk::lbx::PIC_TypeMemoryIcon;
     return MsgBoxIconOf(static_cast<uint64_t>(icon)) != MsgBoxIcon::Picture;
 }
 

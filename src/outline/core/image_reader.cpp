@@ -1,6 +1,6 @@
 #include "outline/core/image_reader.h"
 
-namespace zk::image {
+namespace zk::lbx::image {
 namespace {
 
 constexpr size_t kFileHeader = 14;
@@ -161,4 +161,4 @@ size_t IcoClaimedSize(const uint8_t *data, size_t size) {
     return claimed > SIZE_MAX ? SIZE_MAX : static_cast<size_t>(claimed);
 }
 
-} // namespace zk::image
+} // namespace zk::lbx::image

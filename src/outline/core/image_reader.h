@@ -8,7 +8,7 @@
 #include <cstdint>
 #include <optional>
 
-namespace zk::image {
+namespace zk::lbx::image {
 
 // Largest width or height taken from a header: the platform's coordinate range.
 inline constexpr int32_t kMaxSide = 0x7FFF;
@@ -48,4 +48,4 @@ size_t IcoClaimedSize(const uint8_t *data, size_t size);
 // Bytes of one row of pixels: whole 32-bit words. 0 when out of range.
 uint64_t RowBytes(int64_t width, int64_t bitCount);
 
-} // namespace zk::image
+} // namespace zk::lbx::image

@@ -12,6 +12,8 @@
 #include "outline/core/lbx_text.h"
 #include "zklib/list.h" // the style bits, item flags and ZKM_Lbx* messages
 
+namespace zk::lbx {
+
 // A loaded bitmap or icon; the picture handle of the exports. The record
 // belongs to the picture registries; items hold the pointer only.
 struct PIC;
@@ -123,3 +125,5 @@ constexpr int32_t LbxMidY(const LbxRect &r) { return (r.bottom - r.top) / 2 + r.
 
 // The 9 by 9 box centred on x, y.
 constexpr LbxRect LbxBoxRect(int32_t x, int32_t y) { return {x - 4, y - 4, x + 5, y + 5}; }
+
+} // namespace zk::lbx

@@ -1,6 +1,8 @@
 #include "outline/core/lbx_rows.h"
 #include "outline/core/lbx_tree.h"
 
+namespace zk::lbx {
+
 namespace {
 
 // The level of the row at `pos`: false for a row that cannot be read as a
@@ -80,7 +82,7 @@ int32_t LbxExpand(LbxRows &rows, int32_t row, LbxNode *root) {
         ++pos;
     }
     if (!rows.IsCombo() && !(rows.Style() & LBX_StyleOutline)) {
-        if (const int32_t top = LbxViewTop(rows, row, count); top >= 0) {
+        if (const int32_t top = ViewTop(rows, row, count); top >= 0) {
             rows.SetTopIndex(top);
         }
     }
@@ -142,3 +144,5 @@ int32_t LbxDeleteChild(LbxRows &rows, int32_t row) {
     }
     return result;
 }
+
+} // namespace zk::lbx

@@ -3,6 +3,8 @@
 
 #include "frame/core/livehandles.h"
 
+namespace zk::lbx {
+
 LbxItem::LbxItem() : self(this) { zk::LiveAdd(zk::LiveKind::OutlineItem, this); }
 
 LbxItem::~LbxItem() {
@@ -26,3 +28,5 @@ bool LbxIsItem(const void *pointer) noexcept {
 }
 
 bool LbxIsNode(const void *pointer) noexcept { return pointer && zk::IsLive(zk::LiveKind::OutlineNode, pointer); }
+
+} // namespace zk::lbx

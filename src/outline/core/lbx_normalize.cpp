@@ -4,6 +4,8 @@
 #include <string_view>
 #include <vector>
 
+namespace zk::lbx {
+
 namespace {
 
 struct Taken {
@@ -79,3 +81,5 @@ void LbxNormalizeText(uint32_t style, LbxText &text, LbxCaseRules &rules) {
         LbxProperCase(text.mutableData(), text.size(), rules);
     }
 }
+
+} // namespace zk::lbx

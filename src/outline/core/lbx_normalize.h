@@ -8,6 +8,8 @@
 #include "outline/core/lbx.h"
 #include "text/core/proper.h"
 
+namespace zk::lbx {
+
 // What the rules ask of the platform: case mapping in place
 // (CharUpperBuffW, CharLowerBuffW), the lower-case test (IsCharLowerW) and a
 // whole-text compare without regard to case (lstrcmpiW).
@@ -27,3 +29,5 @@ void LbxProperCase(char16_t *text, std::size_t count, LbxCaseRules &rules);
 // no lower-case letter. Throws std::bad_alloc only when the text's
 // characters are shared and cannot be copied.
 void LbxNormalizeText(uint32_t style, LbxText &text, LbxCaseRules &rules);
+
+} // namespace zk::lbx

@@ -7,6 +7,8 @@
 
 #include "outline/core/lbx.h"
 
+namespace zk::lbx {
+
 class LbxRows {
 public:
     virtual ~LbxRows() = default;
@@ -59,7 +61,7 @@ inline LbxNode *LbxRowNode(LbxRows &rows, int32_t row) {
 // The view step after rows were shown below a row: when the `count` rows
 // after `row` pass the last row in view, the top row that brings them in
 // without moving `row` out, else -1.
-inline int32_t LbxViewTop(LbxRows &rows, int32_t row, int32_t count) {
+inline int32_t ViewTop(LbxRows &rows, int32_t row, int32_t count) {
     int32_t first = 0, last = 0;
     rows.VisibleRange(&first, &last);
     if (count + row <= last) {
@@ -81,3 +83,5 @@ int32_t LbxDeleteDescendents(LbxRows &rows, int32_t row);
 // Removes a row and, through the delete notification, its item and node;
 // its descendants go first. The result of the removal, -1 on failure.
 int32_t LbxDeleteChild(LbxRows &rows, int32_t row);
+
+} // namespace zk::lbx

@@ -4,6 +4,8 @@
 #include <cstring>
 #include <new>
 
+namespace zk::lbx {
+
 // The characters follow a small header, as in the framework's string: the
 // empty text is one static block that is never counted or freed.
 struct LbxText::Header {
@@ -84,3 +86,5 @@ char16_t *LbxText::mutableData() {
     }
     return chars_;
 }
+
+} // namespace zk::lbx

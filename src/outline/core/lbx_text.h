@@ -8,6 +8,8 @@
 #include <cstdint>
 #include <string_view>
 
+namespace zk::lbx {
+
 class LbxText {
 public:
     LbxText() noexcept;
@@ -42,3 +44,5 @@ static_assert(sizeof(LbxText) == sizeof(char16_t *), "the text field is one addr
 inline const char16_t *LbxTextAtField(const void *field) noexcept {
     return *static_cast<const char16_t *const *>(field);
 }
+
+} // namespace zk::lbx

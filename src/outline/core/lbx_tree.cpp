@@ -3,6 +3,8 @@
 #include <new>
 #include <string>
 
+namespace zk::lbx {
+
 bool LbxOutlineRedraw = true;
 
 LbxNode *LbxNewRoot(void *window) noexcept {
@@ -180,3 +182,5 @@ LbxNode *LbxFindText(LbxNode *node, std::u16string_view text, int mode, LbxCaseR
     }
     return nullptr;
 }
+
+} // namespace zk::lbx

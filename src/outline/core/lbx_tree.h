@@ -9,6 +9,8 @@
 #include "outline/core/lbx.h"
 #include "outline/core/lbx_normalize.h"
 
+namespace zk::lbx {
+
 // One switch for the whole library, not per list: whether tree operations
 // turn painting back on when they end. Initially on.
 extern bool LbxOutlineRedraw;
@@ -37,3 +39,5 @@ inline constexpr int LBX_FindPrefix = 2; // both sides upper-cased, the search t
 // The node itself, then its subtree depth-first, a parent before its
 // children: the first whose text matches. Null when none does or memory runs out.
 LbxNode *LbxFindText(LbxNode *node, std::u16string_view text, int mode, LbxCaseRules &rules) noexcept;
+
+} // namespace zk::lbx

@@ -2,7 +2,9 @@
 
 #include <algorithm>
 
-int32_t LbxFindValueWalk(LbxValueRows &rows, int32_t count, int32_t start, int32_t value) {
+namespace zk::lbx {
+
+int32_t FindValueWalk(ValueRows &rows, int32_t count, int32_t start, int32_t value) {
     count = std::max(count, 0);
     // Every row once before and once after the wrap, plus the two ends: a
     // walk that is still going after that only goes round a -1 row again.
@@ -35,3 +37,5 @@ int32_t LbxFindValueWalk(LbxValueRows &rows, int32_t count, int32_t start, int32
     }
     return -1;
 }
+
+} // namespace zk::lbx

@@ -5,11 +5,13 @@
 
 #include <cstdint>
 
+namespace zk::lbx {
+
 // What the walk reads: the row's value, -1 past the end. A row may hold -1
 // as its value too; `count` tells the two apart.
-class LbxValueRows {
+class ValueRows {
 public:
-    virtual ~LbxValueRows() = default;
+    virtual ~ValueRows() = default;
     virtual int32_t Value(int32_t row) = 0;
 };
 
@@ -21,4 +23,6 @@ public:
 // wrap, so -1 itself is never found. Coming back to the start (start -1 is
 // the place before row 0) ends the walk. A walk that a -1 row would keep
 // going round for ever ends after it has read every row twice.
-int32_t LbxFindValueWalk(LbxValueRows &rows, int32_t count, int32_t start, int32_t value);
+int32_t FindValueWalk(ValueRows &rows, int32_t count, int32_t start, int32_t value);
+
+} // namespace zk::lbx

@@ -8,7 +8,7 @@
 #include "outline/core/lbx.h"
 #include "outline/core/ofile_stream.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 
 // Calls visit(node) for the root and each node below it, in stream order.
 template <class Visit>
@@ -47,4 +47,4 @@ void OutlineCollect(LbxNode *root, std::vector<OBITEM> &items, PictureIndex &&pi
     });
 }
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 namespace {
 
 using picstream::Reader;
@@ -182,4 +182,4 @@ ReadStatus OutlineRead(const uint8_t *data, size_t size, OBLOB &blob, std::vecto
     }
 }
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

@@ -16,7 +16,7 @@
 
 #include "outline/core/pic_archive.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 
 inline constexpr uint16_t kOutlineMagic = 34649; // 0x8759
 
@@ -92,4 +92,4 @@ inline constexpr int32_t kUnderRoot = -1;
 // no record went down to, since the table then holds no parent for it.
 bool OutlineParents(const std::vector<OBITEM> &items, std::vector<int32_t> &parents);
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

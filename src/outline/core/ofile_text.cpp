@@ -2,7 +2,7 @@
 
 #include <utility>
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 namespace {
 
 constexpr int32_t kTabColumns = 8;
@@ -99,4 +99,4 @@ TextStatus OutlineTextParse(std::string_view bytes, std::vector<TextLine> &lines
     }
 }
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

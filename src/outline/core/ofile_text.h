@@ -15,7 +15,7 @@
 
 #include "outline/core/pic_archive.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 
 // The file must be smaller than this.
 inline constexpr size_t kTextLimit = 65534;
@@ -49,4 +49,4 @@ enum class TextStatus {
 TextStatus OutlineTextParse(std::string_view bytes, std::vector<TextLine> &lines,
                             picstream::Widen widen = picstream::WidenLatin1) noexcept;
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

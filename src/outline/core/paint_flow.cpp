@@ -1,6 +1,6 @@
 #include "outline/core/paint_flow.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode, uint32_t itemFlags,
                     const LbxRect &row) {
@@ -26,4 +26,4 @@ PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasIte
     return f;
 }
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

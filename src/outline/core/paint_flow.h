@@ -7,7 +7,7 @@
 
 #include "outline/core/lbx.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 // The platform's draw request values.
 inline constexpr uint32_t kActionDrawEntire = 1;
@@ -34,4 +34,4 @@ struct PaintFlow {
 PaintFlow PlanPaint(uint32_t style, uint32_t action, uint32_t state, bool hasItem, bool hasNode, uint32_t itemFlags,
                     const LbxRect &row);
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

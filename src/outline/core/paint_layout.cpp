@@ -2,7 +2,7 @@
 
 #include <algorithm>
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 RowLayout LayoutRow(const RowInput &in) {
     RowLayout out;
@@ -112,4 +112,4 @@ PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t
     return p;
 }
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

@@ -8,7 +8,7 @@
 
 #include "outline/core/lbx.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 // What a row's layout depends on.
 struct RowInput {
@@ -75,4 +75,4 @@ struct PicturePlace {
 PicturePlace PlaceBitmap(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap, int32_t indentPx);
 PicturePlace PlaceIcon(const LbxRect &row, uint32_t style, int32_t picW, int32_t picH, int32_t gap, int32_t indentPx);
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

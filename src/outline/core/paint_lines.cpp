@@ -1,6 +1,6 @@
 #include "outline/core/paint_lines.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 namespace {
 
 TreeBox MakeBox(int32_t x, int32_t y, bool expanded) {
@@ -66,4 +66,4 @@ std::vector<Point> SegmentPoints(const Segment &s) {
     return points;
 }
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

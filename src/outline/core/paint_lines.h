@@ -8,7 +8,7 @@
 
 #include "outline/core/lbx.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 inline constexpr uint32_t kPlainLineColour = 0x000000; // a tree without the outline style
 inline constexpr uint32_t kOutlineLineColour = 0x808080;
@@ -62,4 +62,4 @@ struct Point {
 };
 std::vector<Point> SegmentPoints(const Segment &s);
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

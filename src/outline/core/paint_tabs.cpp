@@ -1,6 +1,6 @@
 #include "outline/core/paint_tabs.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t tabCount, const int32_t *stops,
                                 int32_t unit) {
@@ -29,4 +29,4 @@ std::u16string_view TextAfterLastTab(std::u16string_view text) {
     return tab == std::u16string_view::npos ? text : text.substr(tab + 1);
 }
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

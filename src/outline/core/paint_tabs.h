@@ -7,7 +7,7 @@
 #include <string_view>
 #include <vector>
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 struct TextRun {
     size_t start = 0;
@@ -26,4 +26,4 @@ std::vector<TextRun> LayoutTabs(std::u16string_view text, int32_t textX, int32_t
 // The part of a text that LbxTextExtent measures under tab expansion.
 std::u16string_view TextAfterLastTab(std::u16string_view text);
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

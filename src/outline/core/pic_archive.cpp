@@ -1,6 +1,6 @@
 #include "outline/core/pic_archive.h"
 
-namespace zk::picstream {
+namespace zk::lbx::picstream {
 
 void Writer::U16(uint16_t v) {
     bytes_.push_back(static_cast<uint8_t>(v));
@@ -173,4 +173,4 @@ ObjectTag ReadObjectTag(Reader &in) {
     return tag;
 }
 
-} // namespace zk::picstream
+} // namespace zk::lbx::picstream

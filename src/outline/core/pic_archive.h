@@ -11,7 +11,7 @@
 #include <string_view>
 #include <vector>
 
-namespace zk::picstream {
+namespace zk::lbx::picstream {
 
 // Tags of the object stream.
 inline constexpr uint16_t kNullTag = 0x0000;
@@ -84,4 +84,4 @@ struct ObjectTag {
 };
 ObjectTag ReadObjectTag(Reader &in);
 
-} // namespace zk::picstream
+} // namespace zk::lbx::picstream

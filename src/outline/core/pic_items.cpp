@@ -1,6 +1,6 @@
 #include "outline/core/pic_items.h"
 
-namespace zk {
+namespace zk::lbx {
 
 using picstream::ObjectTag;
 using picstream::Reader;
@@ -79,4 +79,4 @@ bool PicItemsRead(const uint8_t *data, size_t size, std::vector<PICITEM> &items,
     return false;
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -11,7 +11,7 @@
 
 #include "outline/core/pic_archive.h"
 
-namespace zk {
+namespace zk::lbx {
 
 struct PICITEM {
     int32_t value = 0;
@@ -34,4 +34,4 @@ std::vector<uint8_t> PicItemsWrite(const std::vector<PICITEM> &items);
 bool PicItemsRead(const uint8_t *data, size_t size, std::vector<PICITEM> &items,
                   picstream::Widen widen = picstream::WidenLatin1);
 
-} // namespace zk
+} // namespace zk::lbx

@@ -1,6 +1,7 @@
 #include "outline/core/pic_plan.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 bool SameNoCase(std::u16string_view a, std::u16string_view b) {
@@ -94,4 +95,4 @@ std::optional<uint32_t> PicIconIndex(std::u16string_view name) {
     return index;
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -6,7 +6,7 @@
 #include <optional>
 #include <string_view>
 
-namespace zk {
+namespace zk::lbx {
 
 // Load flag values (the contract of zklib/picture.h, kept here for the core).
 inline constexpr uint16_t kPicFormatBitmap = 0x0001;
@@ -49,4 +49,4 @@ inline bool PicNeedsScaling(const PicPlan &plan, int32_t width, int32_t height) 
     return plan.targetWidth != 0 && (plan.targetWidth != width || plan.targetHeight != height);
 }
 
-} // namespace zk
+} // namespace zk::lbx

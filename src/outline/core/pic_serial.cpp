@@ -1,6 +1,6 @@
 #include "outline/core/pic_serial.h"
 
-namespace zk {
+namespace zk::lbx {
 
 void PicFieldsWrite(picstream::Writer &out, const PicFields &pic) {
     out.U8(pic.type);
@@ -33,4 +33,4 @@ bool PicFieldsRead(picstream::Reader &in, uint16_t schema, PicFields &pic) {
     return true;
 }
 
-} // namespace zk
+} // namespace zk::lbx

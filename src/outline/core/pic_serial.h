@@ -9,7 +9,7 @@
 
 #include "outline/core/pic_archive.h"
 
-namespace zk {
+namespace zk::lbx {
 
 struct PicFields {
     uint8_t type = 0;
@@ -32,4 +32,4 @@ void PicFieldsWrite(picstream::Writer &out, const PicFields &pic);
 // fields stay as they are and nothing is read. False on a short stream.
 bool PicFieldsRead(picstream::Reader &in, uint16_t schema, PicFields &pic);
 
-} // namespace zk
+} // namespace zk::lbx

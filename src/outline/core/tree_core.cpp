@@ -2,7 +2,9 @@
 
 #include <new>
 
-LbxNode *LbxNextBelow(const LbxNode *node, const LbxNode *current) noexcept {
+namespace zk::lbx {
+
+LbxNode *NextBelow(const LbxNode *node, const LbxNode *current) noexcept {
     if (current->firstChild) {
         return current->firstChild;
     }
@@ -17,7 +19,7 @@ void LbxAddLevel(LbxNode *node, int32_t delta) noexcept {
         return;
     }
     node->level += delta;
-    for (LbxNode *n = LbxNextBelow(node, node); n; n = LbxNextBelow(node, n)) {
+    for (LbxNode *n = NextBelow(node, node); n; n = NextBelow(node, n)) {
         n->level += delta;
     }
 }
@@ -84,7 +86,7 @@ bool LbxUnlink(LbxNode *node) noexcept {
 namespace {
 
 // A node and item with the fields of a load; null when memory runs out.
-LbxNode *NewNode(void *window, std::u16string_view text, const LbxLoadFields &fields, uint32_t style,
+LbxNode *NewNode(void *window, std::u16string_view text, const LoadFields &fields, uint32_t style,
                  LbxCaseRules &rules) noexcept {
     LbxNode *node = nullptr;
     LbxItem *item = nullptr;
@@ -110,8 +112,8 @@ LbxNode *NewNode(void *window, std::u16string_view text, const LbxLoadFields &fi
 
 } // namespace
 
-LbxNode *LbxLoadChild(LbxNode *parent, void *window, std::u16string_view text, const LbxLoadFields &fields,
-                      uint32_t style, LbxCaseRules &rules) noexcept {
+LbxNode *LbxLoadChild(LbxNode *parent, void *window, std::u16string_view text, const LoadFields &fields, uint32_t style,
+                      LbxCaseRules &rules) noexcept {
     if (!parent || !parent->item) {
         return nullptr;
     }
@@ -143,12 +145,12 @@ LbxNode *LbxLoadChild(LbxNode *parent, void *window, std::u16string_view text, c
     return node;
 }
 
-LbxNode *LbxLoadSibling(LbxNode *sibling, void *window, std::u16string_view text, const LbxLoadFields &fields,
+LbxNode *LbxLoadSibling(LbxNode *sibling, void *window, std::u16string_view text, const LoadFields &fields,
                         uint32_t style, LbxCaseRules &rules) noexcept {
     if (!sibling || !sibling->item || !sibling->parent) {
         return nullptr;
     }
-    LbxLoadFields hidden = fields;
+    LoadFields hidden = fields;
     hidden.flags |= 0x020F0000u;
     LbxNode *node = NewNode(window, text, hidden, style, rules);
     if (!node) {
@@ -174,10 +176,12 @@ LbxNode *LbxFindValue(LbxNode *node, int32_t value) noexcept {
     if (!node) {
         return nullptr;
     }
-    for (LbxNode *n = node; n; n = LbxNextBelow(node, n)) {
+    for (LbxNode *n = node; n; n = NextBelow(node, n)) {
         if (n->item && n->item->value == value) {
             return n;
         }
     }
     return nullptr;
 }
+
+} // namespace zk::lbx

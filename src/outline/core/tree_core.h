@@ -9,6 +9,8 @@
 #include "outline/core/lbx_normalize.h"
 #include "outline/core/lbx_tree.h"
 
+namespace zk::lbx {
+
 // Connector patterns of a node among its siblings (LbxItem.flags).
 inline constexpr uint32_t LBX_ConnOnly = 0x00010000u;   // only child: LeftLine
 inline constexpr uint32_t LBX_ConnFirst = 0x00090000u;  // first of several: LeftLine | HasNext
@@ -24,7 +26,7 @@ bool LbxIsDescendant(const LbxNode *node, const LbxNode *candidate) noexcept;
 
 // Pre-order over the subtree below `node` (the node itself excluded):
 // the node after `current`, or null at the end.
-LbxNode *LbxNextBelow(const LbxNode *node, const LbxNode *current) noexcept;
+LbxNode *NextBelow(const LbxNode *node, const LbxNode *current) noexcept;
 
 // Whether a node can be unlinked: it has an item, a parent with an item,
 // and its neighbours have items.
@@ -37,7 +39,7 @@ bool LbxCanUnlink(const LbxNode *node) noexcept;
 bool LbxUnlink(LbxNode *node) noexcept;
 
 // What a new node carries.
-struct LbxLoadFields {
+struct LoadFields {
     PIC *normal = nullptr;
     PIC *selected = nullptr;
     int32_t value = 0;
@@ -49,15 +51,17 @@ struct LbxLoadFields {
 // item loses LBX_ItemMinus and gains LBX_ItemHasChildren and LBX_ItemPlus.
 // A new only child gets 0x00090000 as a first child of several: kept so.
 // Null (nothing changed) without a parent item or memory.
-LbxNode *LbxLoadChild(LbxNode *parent, void *window, std::u16string_view text, const LbxLoadFields &fields,
-                      uint32_t style, LbxCaseRules &rules) noexcept;
+LbxNode *LbxLoadChild(LbxNode *parent, void *window, std::u16string_view text, const LoadFields &fields, uint32_t style,
+                      LbxCaseRules &rules) noexcept;
 
 // A new node right after `sibling`, hidden (flags ORed with 0x020F0000; a
 // new last sibling without LBX_ItemHasNext). Null (nothing changed) when
 // the sibling has no parent or memory runs out.
-LbxNode *LbxLoadSibling(LbxNode *sibling, void *window, std::u16string_view text, const LbxLoadFields &fields,
+LbxNode *LbxLoadSibling(LbxNode *sibling, void *window, std::u16string_view text, const LoadFields &fields,
                         uint32_t style, LbxCaseRules &rules) noexcept;
 
 // The node itself, then its subtree in pre-order: the first whose value is
 // `value`. Null if none.
 LbxNode *LbxFindValue(LbxNode *node, int32_t value) noexcept;
+
+} // namespace zk::lbx

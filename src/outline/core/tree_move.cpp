@@ -2,6 +2,8 @@
 // neighbour. The rows of a moved subtree are taken out and made again.
 #include "outline/core/tree_rows.h"
 
+namespace zk::lbx {
+
 namespace {
 
 void RedrawAtEnd(LbxTreeRows &rows) {
@@ -213,3 +215,5 @@ int32_t LbxMove(LbxTreeRows &rows, int32_t row, bool down) {
     b->item->flags = (b->item->flags | LBX_ConnPrev) & ~LBX_ItemHasNext;
     return 1;
 }
+
+} // namespace zk::lbx

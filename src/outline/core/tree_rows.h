@@ -11,6 +11,8 @@
 #include "outline/core/lbx_rows.h"
 #include "outline/core/tree_core.h"
 
+namespace zk::lbx {
+
 // ZelListShowOutline's level that shows every node except those marked hidden.
 inline constexpr int32_t LBX_LevelAllButHidden = 32766;
 
@@ -81,4 +83,6 @@ int32_t LbxShowOutline(LbxTreeRows &rows, LbxNode *root, int32_t limit);
 
 // The row after a shown node's subtree rows (rows deeper than the node's
 // level stepped over): where its next sibling's row stands.
-int32_t LbxRowAfterSubtree(LbxTreeRows &rows, int32_t row);
+int32_t RowAfterSubtree(LbxTreeRows &rows, int32_t row);
+
+} // namespace zk::lbx

@@ -4,6 +4,8 @@
 
 #include <vector>
 
+namespace zk::lbx {
+
 namespace {
 
 // A node that was selected is selected again on its new row.
@@ -209,7 +211,7 @@ int32_t LbxExpandDescendents(LbxTreeRows &rows, int32_t row) {
         }
     }
     if (!(rows.Style() & LBX_StyleOutline)) {
-        if (const int32_t target = LbxViewTop(rows, row, count); target >= 0) {
+        if (const int32_t target = ViewTop(rows, row, count); target >= 0) {
             if (rows.IsCombo()) {
                 rows.SetCurSel(target);
                 rows.SetCurSel(row);
@@ -248,7 +250,7 @@ int32_t LbxCollapse(LbxTreeRows &rows, int32_t row) {
     return 1;
 }
 
-int32_t LbxRowAfterSubtree(LbxTreeRows &rows, int32_t row) {
+int32_t RowAfterSubtree(LbxTreeRows &rows, int32_t row) {
     LbxNode *node = LbxRowNode(rows, row);
     int32_t pos = row + 1;
     if (!node) {
@@ -259,3 +261,5 @@ int32_t LbxRowAfterSubtree(LbxTreeRows &rows, int32_t row) {
     }
     return pos;
 }
+
+} // namespace zk::lbx

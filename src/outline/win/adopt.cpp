@@ -4,7 +4,10 @@
 #include "frame/win/guard.h"
 #include "frame/win/propcache.h"
 #include "outline/win/lbx_adopted.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/lbx_procs.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -22,7 +25,7 @@ bool AdoptParent(HWND parent) {
         LocalFree(record);
         return false;
     }
-    const WNDPROC former = LbxSitOn<LbxAdoptedParent>(parent);
+    const WNDPROC former = SitOn<AdoptedParent>(parent);
     if (!former) {
         zk::PropRemove(parent, kLbxParentProp);
         LocalFree(record);
@@ -34,7 +37,7 @@ bool AdoptParent(HWND parent) {
 
 // The control record and its subclass, once per control.
 bool AdoptControl(HWND window, LbxKind kind) {
-    if (LbxChildHandle(window)) {
+    if (ChildHandle(window)) {
         return true;
     }
     HLOCAL record = zk::LocalBlockNew(sizeof(LbxChild));
@@ -49,7 +52,7 @@ bool AdoptControl(HWND window, LbxKind kind) {
     // The host's own window objects of the list classes (CMtkListBox,
     // CMtkComboBox) exist only inside a framework host; this runtime keeps
     // none, so there is nothing to detach before subclassing.
-    const WNDPROC former = LbxSitOn<LbxAdoptedControl>(window, kind);
+    const WNDPROC former = SitOn<AdoptedControl>(window, kind);
     if (!former) {
         zk::PropRemove(window, kLbxChildProp);
         LocalFree(record);
@@ -93,12 +96,14 @@ LONG ComboWindowStyle(LONG ws, uint32_t style) {
     return ws;
 }
 
+} // namespace
+
 int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
     HWND parent = IsWindow(window) ? GetParent(window) : nullptr;
     if (!parent) {
         return 0;
     }
-    const LbxKind kind = LbxControlKind(window);
+    const LbxKind kind = ControlKind(window);
     if (kind == LbxKind::None) {
         return 0;
     }
@@ -111,7 +116,7 @@ int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
             if (parentWasPlain) {
                 // Undo this call's parent record; the parent saw no message meanwhile.
                 HLOCAL record = LbxParentHandle(parent);
-                LbxStandDown<LbxAdoptedParent>(parent);
+                StandDown<AdoptedParent>(parent);
                 zk::PropRemove(parent, kLbxParentProp);
                 LocalFree(record);
             }
@@ -124,7 +129,7 @@ int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
         if (style & LBX_StyleOutline) {
             style |= LBX_StyleTextSelect;
         }
-        LbxChildEdit(window, [&](LbxChild &c) {
+        ChildEdit(window, [&](LbxChild &c) {
             if (style & LBX_StyleOutline) {
                 c.indent = 8;
             }
@@ -145,8 +150,4 @@ int32_t SetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
     return 1;
 }
 
-} // namespace
-
-extern "C" int32_t ZKAPI ZelListSetStyle(HWND window, uint32_t style, CREATESTRUCTW *create) {
-    return zk::Guarded(L"ZelListSetStyle()", 52, int32_t{0}, [&] { return SetStyle(window, style, create); });
-}
+} // namespace zk::lbx

@@ -4,13 +4,15 @@
 #include "outline/win/host_optional.h"
 #include "outline/win/lbx_procs.h"
 
-LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(UINT), HWND window, UINT message,
-                        WPARAM wParam, LPARAM lParam) {
+namespace zk::lbx {
+
+LRESULT ControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(UINT), HWND window, UINT message,
+                     WPARAM wParam, LPARAM lParam) {
     LbxChild child{};
-    if (!zk::LocalCopy(LbxChildHandle(window), &child)) {
+    if (!zk::LocalCopy(ChildHandle(window), &child)) {
         return DefWindowProcW(window, message, wParam, lParam);
     }
-    const LbxControlInHand inHand(window);
+    const ControlInHand inHand(window);
     try {
         return dispatch(child, window, twin(message), wParam, lParam);
     } catch (...) {
@@ -18,3 +20,5 @@ LRESULT LbxControlEntry(const wchar_t *name, LbxDispatch dispatch, UINT (*twin)(
         return 0;
     }
 }
+
+} // namespace zk::lbx

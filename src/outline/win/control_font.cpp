@@ -6,6 +6,8 @@
 #include "outline/win/lbx_metrics.h"
 #include "outline/win/lbx_procs.h"
 
+namespace zk::lbx {
+
 namespace {
 
 struct Height {
@@ -16,17 +18,17 @@ struct Height {
 } // namespace
 
 LRESULT LbxSetFont(const LbxChild &child, HWND window, bool combo, WPARAM font, LPARAM redraw) {
-    LbxCallBase(child, window, WM_SETFONT, font, redraw);
-    LbxChildEdit(window, [](LbxChild &c) { c.textHeight = 0; });
+    CallBase(child, window, WM_SETFONT, font, redraw);
+    ChildEdit(window, [](LbxChild &c) { c.textHeight = 0; });
     if (combo) {
         TEXTMETRICW metrics{};
-        if (LbxFontMetrics(window, reinterpret_cast<HFONT>(font), &metrics)) {
-            const LONG field = LbxIsWin32Platform() ? metrics.tmHeight + 2 : metrics.tmHeight + metrics.tmHeight / 2;
-            LbxCallBase(child, window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field);
+        if (FontMetrics(window, reinterpret_cast<HFONT>(font), &metrics)) {
+            const LONG field = IsWin32Platform() ? metrics.tmHeight + 2 : metrics.tmHeight + metrics.tmHeight / 2;
+            CallBase(child, window, CB_SETITEMHEIGHT, static_cast<WPARAM>(-1), field);
         }
     }
     const UINT setHeight = combo ? CB_SETITEMHEIGHT : LB_SETITEMHEIGHT;
-    const int32_t count = static_cast<int32_t>(LbxCallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
+    const int32_t count = static_cast<int32_t>(CallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
     // Every row is measured first and the heights are applied after: the
     // parent's answer for a row does not depend on the others' heights. A
     // variable-height list box finds a row's rectangle by adding the heights
@@ -43,23 +45,25 @@ LRESULT LbxSetFont(const LbxChild &child, HWND window, bool combo, WPARAM font, 
             break;
         }
         Height h{row, 0};
-        if (LbxMeasureRow(window, combo, row, word, &h.height)) {
+        if (MeasureRow(window, combo, row, word, &h.height)) {
             heights.push_back(h);
         }
     }
     const bool quiet = !combo && !heights.empty() && LbxOutlineRedraw && !(child.runFlags & LBX_ChildPaintOff) &&
                        (GetWindowLongW(window, GWL_STYLE) & WS_VISIBLE);
     if (quiet) {
-        LbxCallBase(child, window, WM_SETREDRAW, FALSE, 0);
+        CallBase(child, window, WM_SETREDRAW, FALSE, 0);
     }
     for (const Height &h : heights) {
-        LbxCallBase(child, window, setHeight, static_cast<WPARAM>(h.row), static_cast<LPARAM>(h.height));
+        CallBase(child, window, setHeight, static_cast<WPARAM>(h.row), static_cast<LPARAM>(h.height));
     }
     if (quiet) {
-        LbxCallBase(child, window, WM_SETREDRAW, TRUE, 0);
+        CallBase(child, window, WM_SETREDRAW, TRUE, 0);
         if (redraw) {
             InvalidateRect(window, nullptr, TRUE);
         }
     }
     return 1;
 }
+
+} // namespace zk::lbx

@@ -3,6 +3,8 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/win_rows.h"
 
+namespace zk::lbx {
+
 namespace {
 
 bool SameLetter(wchar_t a, wchar_t b) {
@@ -13,15 +15,15 @@ bool SameLetter(wchar_t a, wchar_t b) {
 // The row to start after: the caret in a multi-select list, else the
 // current selection; a start on the last row counts as -1.
 int32_t TypeAheadStart(const LbxChild &child, HWND window, bool combo, bool multi, int32_t count) {
-    const LRESULT at = multi ? LbxCallBase(child, window, LB_GETCARETINDEX, 0, 0)
-                             : LbxCallBase(child, window, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0);
+    const LRESULT at = multi ? CallBase(child, window, LB_GETCARETINDEX, 0, 0)
+                             : CallBase(child, window, combo ? CB_GETCURSEL : LB_GETCURSEL, 0, 0);
     const int32_t start = static_cast<int32_t>(at);
     return start == count - 1 ? -1 : start;
 }
 
 void TypeAhead(const LbxChild &child, HWND window, bool combo, wchar_t letter) {
     const bool multi = LbxIsMultiSelect(window, combo);
-    const int32_t count = static_cast<int32_t>(LbxCallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
+    const int32_t count = static_cast<int32_t>(CallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
     if (count <= 0) {
         return;
     }
@@ -51,9 +53,9 @@ void TypeAhead(const LbxChild &child, HWND window, bool combo, wchar_t letter) {
 void Page(const LbxChild &child, HWND window, bool down) {
     const bool multi = LbxIsMultiSelect(window, false);
     const int32_t visible = LbxVisibleRange(window, nullptr, nullptr);
-    const int32_t count = static_cast<int32_t>(LbxCallBase(child, window, LB_GETCOUNT, 0, 0));
+    const int32_t count = static_cast<int32_t>(CallBase(child, window, LB_GETCOUNT, 0, 0));
     const int32_t current =
-        static_cast<int32_t>(LbxCallBase(child, window, multi ? LB_GETCARETINDEX : LB_GETCURSEL, 0, 0));
+        static_cast<int32_t>(CallBase(child, window, multi ? LB_GETCARETINDEX : LB_GETCURSEL, 0, 0));
     int32_t target = 0;
     if (down) {
         const int32_t from = current > 0 ? current : 0;
@@ -85,5 +87,7 @@ LRESULT LbxKeyDown(const LbxChild &child, HWND window, bool combo, WPARAM key, L
         Page(child, window, key == VK_NEXT);
         return 1;
     }
-    return LbxCallBase(child, window, WM_KEYDOWN, key, lParam);
+    return CallBase(child, window, WM_KEYDOWN, key, lParam);
 }
+
+} // namespace zk::lbx

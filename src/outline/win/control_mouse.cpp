@@ -10,6 +10,8 @@ extern "C" {
 #include "zklib/listpaint.h" // ZelListGetTextRectangle, with the item painting
 }
 
+namespace zk::lbx {
+
 namespace {
 
 struct BoxHit {
@@ -22,7 +24,7 @@ struct BoxHit {
 bool FindBox(const LbxChild &child, HWND window, bool combo, LPARAM lParam, BoxHit *hit) {
     const int32_t x = LOWORD(lParam);
     const int32_t y = HIWORD(lParam);
-    hit->row = LbxIndexFromPoint(window, x, y);
+    hit->row = IndexFromPoint(window, x, y);
     if (hit->row == -1) {
         return false;
     }
@@ -36,7 +38,7 @@ bool FindBox(const LbxChild &child, HWND window, bool combo, LPARAM lParam, BoxH
         return false;
     }
     TEXTMETRICW metrics{};
-    if (!LbxFontMetrics(window, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), &metrics)) {
+    if (!FontMetrics(window, reinterpret_cast<HFONT>(SendMessageW(window, WM_GETFONT, 0, 0)), &metrics)) {
         return false;
     }
     const int32_t step = child.indent * (metrics.tmAveCharWidth / 2);
@@ -66,9 +68,9 @@ bool ScrollOffset(HWND window, int32_t *offset) {
 
 } // namespace
 
-LRESULT LbxBoxClick(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM wParam, LPARAM lParam,
-                    bool scrollCorrection) {
-    auto forward = [&] { return LbxCallBase(child, window, message, wParam, lParam); };
+LRESULT BoxClick(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM wParam, LPARAM lParam,
+                 bool scrollCorrection) {
+    auto forward = [&] { return CallBase(child, window, message, wParam, lParam); };
     if (!(child.style & LBX_StyleOutline)) {
         return forward();
     }
@@ -101,19 +103,21 @@ LRESULT LbxBoxClick(const LbxChild &child, HWND window, bool combo, UINT message
     return 0; // right of the text: the row is not selected
 }
 
-LRESULT LbxButtonUp(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+LRESULT ButtonUp(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     if (message == WM_LBUTTONUP && (child.style & LBX_StyleOutline)) {
         BoxHit hit;
         if (!FindBox(child, window, false, lParam, &hit)) {
-            return LbxCallBase(child, window, message, wParam, lParam);
+            return CallBase(child, window, message, wParam, lParam);
         }
         POINT point{LOWORD(lParam), HIWORD(lParam)};
         if (PtInRect(&hit.box, point)) {
             return 0;
         }
     }
-    if (LbxIsMultiSelect(window, false) || LbxCallBase(child, window, LB_GETCURSEL, 0, 0) != LB_ERR) {
+    if (LbxIsMultiSelect(window, false) || CallBase(child, window, LB_GETCURSEL, 0, 0) != LB_ERR) {
         PostMessageW(window, ZKM_LbxSelectDone, 0, 0);
     }
-    return LbxCallBase(child, window, message, wParam, lParam);
+    return CallBase(child, window, message, wParam, lParam);
 }
+
+} // namespace zk::lbx

@@ -8,17 +8,19 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/pic.h"
 
+namespace zk::lbx {
+
 namespace {
 
 void FreeRows(const LbxChild &child, HWND window, bool combo) {
     const UINT setData = combo ? CB_SETITEMDATA : LB_SETITEMDATA;
-    const int32_t count = static_cast<int32_t>(LbxCallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
+    const int32_t count = static_cast<int32_t>(CallBase(child, window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
     for (int32_t row = 0; row < count; ++row) {
         LbxItem *item = LbxItemOf(LbxBaseRow(child, window, combo, row));
         if (!item) {
             continue;
         }
-        LbxCallBase(child, window, setData, static_cast<WPARAM>(row), 0);
+        CallBase(child, window, setData, static_cast<WPARAM>(row), 0);
         if (!item->node) {
             delete item; // items of a tree go with their nodes below
         }
@@ -27,7 +29,7 @@ void FreeRows(const LbxChild &child, HWND window, bool combo) {
 
 } // namespace
 
-void LbxReleaseControl(HWND window, const LbxChild &child, bool combo) {
+void ReleaseControl(HWND window, const LbxChild &child, bool combo) {
     FreeRows(child, window, combo);
     if (LbxNode *root = LbxRootOf(window)) {
         LbxFreeTree(root);
@@ -41,8 +43,10 @@ void LbxReleaseControl(HWND window, const LbxChild &child, bool combo) {
     }
     // The window object stays until the window goes, passing what comes
     // after this to the base procedure.
-    LocalFree(LbxChildHandle(window));
+    LocalFree(ChildHandle(window));
     zk::PropRemove(window, kLbxChildProp);
-    zk::LbxPicFreeAll(window);
-    zk::LbxFontFreeAll(window);
+    LbxPicFreeAll(window);
+    LbxFontFreeAll(window);
 }
+
+} // namespace zk::lbx

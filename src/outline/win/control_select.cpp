@@ -7,7 +7,9 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/win_rows.h"
 
-LRESULT LbxSelectString(const LbxChild &child, HWND window, bool combo, WPARAM start, LPARAM lParam) {
+namespace zk::lbx {
+
+LRESULT SelectString(const LbxChild &child, HWND window, bool combo, WPARAM start, LPARAM lParam) {
     const auto *text = reinterpret_cast<const wchar_t *>(lParam);
     const UINT setCurSel = combo ? CB_SETCURSEL : LB_SETCURSEL;
     const int32_t from = static_cast<int32_t>(start);
@@ -17,7 +19,7 @@ LRESULT LbxSelectString(const LbxChild &child, HWND window, bool combo, WPARAM s
     } else {
         LbxItem *item = LbxItemOf(LbxBaseRow(child, window, combo, from));
         if (!item) {
-            return LbxCallBase(child, window, combo ? CB_SELECTSTRING : LB_SELECTSTRING, start, lParam);
+            return CallBase(child, window, combo ? CB_SELECTSTRING : LB_SELECTSTRING, start, lParam);
         }
         node = item->node;
     }
@@ -51,9 +53,9 @@ LRESULT LbxSelectString(const LbxChild &child, HWND window, bool combo, WPARAM s
 }
 
 LRESULT LbxSelection(const LbxChild &child, HWND window, UINT message, WPARAM capacity, LPARAM out) {
-    const LRESULT selected = LbxCallBase(child, window, LB_GETSELCOUNT, 0, 0);
+    const LRESULT selected = CallBase(child, window, LB_GETSELCOUNT, 0, 0);
     if (selected <= 0) {
-        return LbxCallBase(child, window, message, capacity, out);
+        return CallBase(child, window, message, capacity, out);
     }
     std::vector<int> rows;
     try {
@@ -61,8 +63,8 @@ LRESULT LbxSelection(const LbxChild &child, HWND window, UINT message, WPARAM ca
     } catch (const std::bad_alloc &) {
         return LB_ERR;
     }
-    const LRESULT got = LbxCallBase(child, window, LB_GETSELITEMS, static_cast<WPARAM>(selected),
-                                    reinterpret_cast<LPARAM>(rows.data()));
+    const LRESULT got =
+        CallBase(child, window, LB_GETSELITEMS, static_cast<WPARAM>(selected), reinterpret_cast<LPARAM>(rows.data()));
     if (got < 0) {
         return LB_ERR;
     }
@@ -87,19 +89,19 @@ LRESULT LbxSelection(const LbxChild &child, HWND window, UINT message, WPARAM ca
     return count;
 }
 
-LRESULT LbxSetTabStops(HWND window, const LbxChild &child, WPARAM count, LPARAM lParam) {
+LRESULT SetTabStops(HWND window, const LbxChild &child, WPARAM count, LPARAM lParam) {
     const auto *units = reinterpret_cast<const int *>(lParam);
     const int n = static_cast<int>(count);
     if (n <= 0 || !units) {
         // Both 0 (or nothing usable): stops cleared, default spacing.
-        LbxChildEdit(window, [&](LbxChild &c) {
+        ChildEdit(window, [&](LbxChild &c) {
             if (c.tabStops) {
                 LocalFree(static_cast<HLOCAL>(c.tabStops));
             }
             c.tabStops = nullptr;
             c.tabCount = -1;
         });
-        return LbxCallBase(child, window, LB_SETTABSTOPS, count, lParam);
+        return CallBase(child, window, LB_SETTABSTOPS, count, lParam);
     }
     HLOCAL stops = nullptr;
     if (child.tabCount > 0 && child.tabStops) {
@@ -109,7 +111,7 @@ LRESULT LbxSetTabStops(HWND window, const LbxChild &child, WPARAM count, LPARAM 
         stops = zk::LocalBlockNew(static_cast<std::size_t>(n) * 4);
     }
     if (!stops) {
-        return LbxCallBase(child, window, LB_SETTABSTOPS, count, lParam);
+        return CallBase(child, window, LB_SETTABSTOPS, count, lParam);
     }
     const LONG unit = LOWORD(GetDialogBaseUnits());
     zk::LocalWith<int32_t>(stops, [&](int32_t &first) {
@@ -118,12 +120,14 @@ LRESULT LbxSetTabStops(HWND window, const LbxChild &child, WPARAM count, LPARAM 
             pixels[i] = static_cast<int32_t>((static_cast<LONG>(units[i]) * unit) / 4);
         }
     });
-    LbxChildEdit(window, [&](LbxChild &c) {
+    ChildEdit(window, [&](LbxChild &c) {
         if (c.tabStops && c.tabStops != stops && !(child.tabCount > 0)) {
             LocalFree(static_cast<HLOCAL>(c.tabStops));
         }
         c.tabStops = stops;
         c.tabCount = n;
     });
-    return LbxCallBase(child, window, LB_SETTABSTOPS, count, lParam);
+    return CallBase(child, window, LB_SETTABSTOPS, count, lParam);
 }
+
+} // namespace zk::lbx

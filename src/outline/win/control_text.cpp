@@ -4,27 +4,29 @@
 
 #include "outline/win/lbx_procs.h"
 
+namespace zk::lbx {
+
 namespace {
 
 bool IsNoData(std::uintptr_t word) { return word == 0 || word == static_cast<std::uintptr_t>(-1); }
 
 } // namespace
 
-LRESULT LbxBaseAddRow(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM item) {
-    const LRESULT added = LbxCallBase(child, window, message, row, item);
+LRESULT BaseAddRow(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM item) {
+    const LRESULT added = CallBase(child, window, message, row, item);
     if (added >= 0 &&
         LbxBaseRow(child, window, combo, static_cast<int32_t>(added)) != static_cast<std::uintptr_t>(item)) {
-        LbxCallBase(child, window, combo ? CB_SETITEMDATA : LB_SETITEMDATA, static_cast<WPARAM>(added), item);
+        CallBase(child, window, combo ? CB_SETITEMDATA : LB_SETITEMDATA, static_cast<WPARAM>(added), item);
     }
     return added;
 }
 
-LRESULT LbxUserRecord(HWND window, WPARAM set, LPARAM buffer) {
+LRESULT UserRecord(HWND window, WPARAM set, LPARAM buffer) {
     auto *bytes = reinterpret_cast<unsigned char *>(buffer);
     if (!bytes) {
         return 0;
     }
-    LbxChildEdit(window, [&](LbxChild &c) {
+    ChildEdit(window, [&](LbxChild &c) {
         if (set == 1) {
             std::memcpy(&c.userWord, bytes, sizeof c.userWord);
             const char *text = reinterpret_cast<const char *>(bytes + sizeof c.userWord);
@@ -42,10 +44,10 @@ LRESULT LbxUserRecord(HWND window, WPARAM set, LPARAM buffer) {
     return 1;
 }
 
-LRESULT LbxTextQuery(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM buffer) {
+LRESULT TextQuery(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM buffer) {
     const std::uintptr_t word = LbxBaseRow(child, window, combo, static_cast<int32_t>(row));
     if (IsNoData(word)) {
-        return LbxCallBase(child, window, message, row, buffer);
+        return CallBase(child, window, message, row, buffer);
     }
     if (!buffer) {
         return combo ? CB_ERR : LB_ERR;
@@ -69,7 +71,7 @@ LRESULT LbxTextQuery(const LbxChild &child, HWND window, bool combo, UINT messag
 LRESULT LbxTextLength(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM lParam) {
     const std::uintptr_t word = LbxBaseRow(child, window, combo, static_cast<int32_t>(row));
     if (IsNoData(word)) {
-        return LbxCallBase(child, window, message, row, lParam);
+        return CallBase(child, window, message, row, lParam);
     }
     if (LbxItem *item = LbxItemOf(word)) {
         return static_cast<LRESULT>(item->text.size());
@@ -77,13 +79,13 @@ LRESULT LbxTextLength(const LbxChild &child, HWND window, bool combo, UINT messa
     return lstrlenW(reinterpret_cast<const wchar_t *>(word));
 }
 
-LRESULT LbxItemData(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM lParam) {
+LRESULT ItemData(const LbxChild &child, HWND window, bool combo, UINT message, WPARAM row, LPARAM lParam) {
     const std::uintptr_t word = LbxBaseRow(child, window, combo, static_cast<int32_t>(row));
     LbxItem *item = LbxItemOf(word);
     const bool setting = message == LB_SETITEMDATA || message == CB_SETITEMDATA;
     if (setting) {
         if (!item) {
-            return LbxCallBase(child, window, message, row, lParam);
+            return CallBase(child, window, message, row, lParam);
         }
         item->value = static_cast<int32_t>(lParam);
         return 1;
@@ -92,19 +94,21 @@ LRESULT LbxItemData(const LbxChild &child, HWND window, bool combo, UINT message
         return item->value;
     }
     if (IsNoData(word)) {
-        return LbxCallBase(child, window, message, row, lParam);
+        return CallBase(child, window, message, row, lParam);
     }
     return static_cast<LRESULT>(word);
 }
 
 LRESULT LbxCurSel(const LbxChild &child, HWND window, bool combo, UINT message) {
-    const LRESULT selection = LbxCallBase(child, window, message, 0, 0);
+    const LRESULT selection = CallBase(child, window, message, 0, 0);
     if (selection == LB_ERR) {
         return LB_ERR;
     }
     LbxItem *item = LbxItemOf(LbxBaseRow(child, window, combo, static_cast<int32_t>(selection)));
     if (!item) {
-        return LbxCallBase(child, window, message, 0, 0);
+        return CallBase(child, window, message, 0, 0);
     }
     return (item->flags & LBX_ItemDisabled) ? LB_ERR : selection;
 }
+
+} // namespace zk::lbx

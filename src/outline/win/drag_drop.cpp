@@ -2,8 +2,11 @@
 // place in one outline list and take a place, and rows, at a row of the same
 // list or of a sibling list.
 #include "frame/win/guard.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/lbx_procs.h"
 #include "outline/win/tree_ops.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -15,7 +18,7 @@ struct Side {
 bool OpenList(HWND window, Side *side) {
     LbxKind kind{};
     side->window = window;
-    return LbxOpenRows(window, &side->child, &kind) && kind == LbxKind::List;
+    return OpenRows(window, &side->child, &kind) && kind == LbxKind::List;
 }
 
 void PaintingOn(HWND window) {
@@ -124,6 +127,8 @@ void LinkAsSibling(LbxNode *source, LbxNode *target, int32_t oldLevel) {
 
 bool ItemOrNone(const LbxNode *node) { return !node || node->item; }
 
+} // namespace
+
 int32_t DragDrop(HWND sourceWindow, int32_t sourceRow, HWND targetWindow, int32_t targetRow, uint16_t mode) {
     Side s, t;
     if (!OpenList(sourceWindow, &s) || !OpenList(targetWindow, &t) || !GetParent(sourceWindow) ||
@@ -199,10 +204,10 @@ int32_t DragDrop(HWND sourceWindow, int32_t sourceRow, HWND targetWindow, int32_
     // Without a mode bit the source stays unlinked, with no place in the
     // tree; its rows are made all the same. Rows in, after the target's own
     // subtree; the nodes that get rows take the target window.
-    const int32_t pos = LbxRowAfterSubtree(targetRows, targetRow);
+    const int32_t pos = RowAfterSubtree(targetRows, targetRow);
     HostWinSetRedraw(t.window, 0);
     const int32_t shown = added + LbxShowRows(targetRows, pos, source);
-    if (const int32_t top = LbxViewTop(targetRows, targetRow, shown); top >= 0) {
+    if (const int32_t top = ViewTop(targetRows, targetRow, shown); top >= 0) {
         targetRows.SetTopIndex(top);
     }
     targetRows.SetCaret(targetRow);
@@ -210,9 +215,4 @@ int32_t DragDrop(HWND sourceWindow, int32_t sourceRow, HWND targetWindow, int32_
     return 1;
 }
 
-} // namespace
-
-extern "C" int32_t ZKAPI ZelListDragDrop(HWND source, int32_t sourceRow, HWND target, int32_t targetRow,
-                                         uint16_t mode) {
-    return zk::Quietly([&] { return DragDrop(source, sourceRow, target, targetRow, mode); }, [] { return int32_t{0}; });
-}
+} // namespace zk::lbx

@@ -3,7 +3,10 @@
 #include <unordered_map>
 
 #include "frame/win/guard.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/pic.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -88,21 +91,19 @@ void EnumScreenFonts(Enumeration &e) {
 
 } // namespace
 
-extern "C" int32_t ZKAPI ZelFontEnum(uint32_t selection, HostArray names, HostArray types) {
-    return zk::Quietly(
-        [&]() -> int32_t {
-            Enumeration e;
-            e.names = names;
-            e.types = types;
-            if (selection & FONT_EnumPrinter)
-                EnumPrinterFonts(e);
-            if (!e.failed && (selection & FONT_EnumScreen))
-                EnumScreenFonts(e);
-            if (e.failed)
-                return ZEL_NOT_ENOUGH_MEMORY;
-            HostArraySetBounds(names, 0, e.count - 1);
-            HostArraySetBounds(types, 0, e.count - 1);
-            return e.count;
-        },
-        [] { return ZEL_NOT_ENOUGH_MEMORY; });
+int32_t FontEnum(uint32_t selection, HostArray names, HostArray types) {
+    Enumeration e;
+    e.names = names;
+    e.types = types;
+    if (selection & FONT_EnumPrinter)
+        EnumPrinterFonts(e);
+    if (!e.failed && (selection & FONT_EnumScreen))
+        EnumScreenFonts(e);
+    if (e.failed)
+        return ZEL_NOT_ENOUGH_MEMORY;
+    HostArraySetBounds(names, 0, e.count - 1);
+    HostArraySetBounds(types, 0, e.count - 1);
+    return e.count;
 }
+
+} // namespace zk::lbx

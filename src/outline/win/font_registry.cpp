@@ -5,7 +5,8 @@
 #include "frame/win/propcache.h"
 #include "outline/win/pic.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 constexpr const wchar_t *kFontListProp = L"ZK:FontList";
@@ -113,4 +114,4 @@ void LbxFontFreeAll(HWND list) noexcept {
     zk::PropRemove(list, kFontListProp);
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -2,6 +2,8 @@
 
 #include "zkhost.h"
 
+namespace zk::lbx {
+
 HWND LbxHostDlgItem(HWND window, int id) { return OrlGetDlgItemEx(window, id); }
 
 bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, const wchar_t *text) {
@@ -21,10 +23,12 @@ thread_local HWND inHand = nullptr;
 
 } // namespace
 
-LbxControlInHand::LbxControlInHand(HWND control) : previous_(inHand) { inHand = control; }
+ControlInHand::ControlInHand(HWND control) : previous_(inHand) { inHand = control; }
 
-LbxControlInHand::~LbxControlInHand() { inHand = previous_; }
+ControlInHand::~ControlInHand() { inHand = previous_; }
 
-HWND LbxControlInHandFor(HWND parent, int id) {
+HWND ControlInHandFor(HWND parent, int id) {
     return inHand && GetParent(inHand) == parent && GetDlgCtrlID(inHand) == id ? inHand : nullptr;
 }
+
+} // namespace zk::lbx

@@ -7,6 +7,8 @@
 
 #include <cstdint>
 
+namespace zk::lbx {
+
 // OrlGetDlgItemEx.
 HWND LbxHostDlgItem(HWND window, int id);
 
@@ -19,16 +21,18 @@ bool LbxHostDesignAttributeIs(HWND window, int32_t attribute, int32_t index, con
 // handlers of the row messages it causes (WM_MEASUREITEM, WM_DELETEITEM):
 // they name the control by id only, and finding it by id is a search of the
 // parent's children (a server round trip under Wine) for every row added.
-class LbxControlInHand {
+class ControlInHand {
 public:
-    explicit LbxControlInHand(HWND control);
-    ~LbxControlInHand();
-    LbxControlInHand(const LbxControlInHand &) = delete;
-    LbxControlInHand &operator=(const LbxControlInHand &) = delete;
+    explicit ControlInHand(HWND control);
+    ~ControlInHand();
+    ControlInHand(const ControlInHand &) = delete;
+    ControlInHand &operator=(const ControlInHand &) = delete;
 
 private:
     HWND previous_;
 };
 
 // The control in hand when it is the parent's control of that id, else 0.
-HWND LbxControlInHandFor(HWND parent, int id);
+HWND ControlInHandFor(HWND parent, int id);
+
+} // namespace zk::lbx

@@ -14,28 +14,30 @@
 #include "frame/win/window.h"
 #include "outline/win/lbx_win.h"
 
-class LbxAdoptedControl final : public zk::Window {
+namespace zk::lbx {
+
+class AdoptedControl final : public zk::Window {
 public:
-    explicit LbxAdoptedControl(LbxKind kind) : kind_(kind) {}
+    explicit AdoptedControl(LbxKind kind) : kind_(kind) {}
 
 protected:
-    zk::WindowFamily &Family() const override { return zk::FamilyOf<LbxAdoptedControl>(); }
+    zk::WindowFamily &Family() const override { return zk::FamilyOf<AdoptedControl>(); }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 
 private:
     LbxKind kind_;
 };
 
-class LbxAdoptedParent final : public zk::Window {
+class AdoptedParent final : public zk::Window {
 protected:
-    zk::WindowFamily &Family() const override { return zk::FamilyOf<LbxAdoptedParent>(); }
+    zk::WindowFamily &Family() const override { return zk::FamilyOf<AdoptedParent>(); }
     LRESULT WindowProc(UINT message, WPARAM wParam, LPARAM lParam) override;
 };
 
 // Makes the object and subclasses the window with it: the procedure it
 // replaced, or null when the window could not be taken (nothing is left then).
 template <class Adopted, class... Args>
-WNDPROC LbxSitOn(HWND window, Args... args) {
+WNDPROC SitOn(HWND window, Args... args) {
     auto *object = new (std::nothrow) Adopted(args...);
     if (!object)
         return nullptr;
@@ -50,9 +52,11 @@ WNDPROC LbxSitOn(HWND window, Args... args) {
 // Takes the object off a window whose adoption is undone before anything
 // reached it; the window's procedure is as before.
 template <class Adopted>
-void LbxStandDown(HWND window) {
+void StandDown(HWND window) {
     if (Adopted *object = zk::ObjectOf<Adopted>(window)) {
         object->UnsubclassWindow();
         delete object;
     }
 }
+
+} // namespace zk::lbx

@@ -2,6 +2,8 @@
 
 #include <cstring>
 
+namespace zk::lbx {
+
 namespace {
 
 // Metrics by font description. A font's metrics in a client DC depend on
@@ -27,7 +29,7 @@ bool Describe(HFONT font, LOGFONTW *description) {
 
 } // namespace
 
-bool LbxFontMetrics(HWND window, HFONT font, TEXTMETRICW *metrics) {
+bool FontMetrics(HWND window, HFONT font, TEXTMETRICW *metrics) {
     LOGFONTW description;
     const bool described = Describe(font, &description);
     if (described) {
@@ -58,7 +60,7 @@ bool LbxFontMetrics(HWND window, HFONT font, TEXTMETRICW *metrics) {
     return ok != 0;
 }
 
-bool LbxIsWin32Platform() {
+bool IsWin32Platform() {
     static const DWORD platform = [] {
         OSVERSIONINFOW info{};
         info.dwOSVersionInfoSize = sizeof info;
@@ -66,3 +68,5 @@ bool LbxIsWin32Platform() {
     }();
     return platform == 1 || platform == 2;
 }
+
+} // namespace zk::lbx

@@ -9,7 +9,9 @@
 #include "frame/win/host.h"
 #include "outline/core/lbx_tree.h"
 
-LbxKind LbxControlKind(HWND window) {
+namespace zk::lbx {
+
+LbxKind ControlKind(HWND window) {
     switch (HostWinType(window)) {
     case HOST_WT_LISTBOX:
         return LbxKind::List;
@@ -39,7 +41,7 @@ bool LbxGetChildCopy(HWND window, LbxChild *out) {
     if (!IsWindow(window)) {
         return false;
     }
-    HLOCAL handle = LbxChildHandle(window);
+    HLOCAL handle = ChildHandle(window);
     return handle && zk::LocalCopy(handle, out) && (out->style & LBX_StyleOwnerDraw);
 }
 
@@ -63,14 +65,14 @@ HLOCAL LbxFindParent(HWND list) {
     return nullptr;
 }
 
-bool LbxParentFlags(HLOCAL parent, uint16_t set, uint16_t clear) {
+bool ParentFlags(HLOCAL parent, uint16_t set, uint16_t clear) {
     return zk::LocalWith<LbxParent>(
         parent, [&](LbxParent &p) { p.parentFlags = static_cast<uint16_t>((p.parentFlags | set) & ~clear); });
 }
 
 std::uintptr_t LbxBaseRow(const LbxChild &child, HWND window, bool combo, int32_t row) {
     return static_cast<std::uintptr_t>(
-        LbxCallBase(child, window, combo ? CB_GETITEMDATA : LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
+        CallBase(child, window, combo ? CB_GETITEMDATA : LB_GETITEMDATA, static_cast<WPARAM>(row), 0));
 }
 
 LbxNode *LbxRootOf(HWND window) {
@@ -93,13 +95,13 @@ LbxNode *LbxGetRoot(HWND window) {
     return root;
 }
 
-bool LbxRemoveRowKeepItem(HWND list, int32_t row) {
+bool RemoveRowKeepItem(HWND list, int32_t row) {
     HLOCAL parent = LbxFindParent(list);
-    if (!parent || !LbxParentFlags(parent, LBX_ParentKeepItems, 0)) {
+    if (!parent || !ParentFlags(parent, LBX_ParentKeepItems, 0)) {
         return false;
     }
     HostListDelete(list, row);
-    LbxParentFlags(parent, 0, LBX_ParentKeepItems);
+    ParentFlags(parent, 0, LBX_ParentKeepItems);
     return true;
 }
 
@@ -124,7 +126,7 @@ LbxCaseRules &LbxPlatformCase() {
     return rules;
 }
 
-void LbxRedrawRow(HWND window, bool combo, int32_t row, UINT flags) {
+void RedrawRow(HWND window, bool combo, int32_t row, UINT flags) {
     RECT rect{};
     if (!combo &&
         SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) != LB_ERR) {
@@ -134,7 +136,7 @@ void LbxRedrawRow(HWND window, bool combo, int32_t row, UINT flags) {
     }
 }
 
-bool LbxMeasureRow(HWND window, bool combo, int32_t row, std::uintptr_t data, UINT *height) {
+bool MeasureRow(HWND window, bool combo, int32_t row, std::uintptr_t data, UINT *height) {
     MEASUREITEMSTRUCT request{};
     request.CtlType = combo ? ODT_COMBOBOX : ODT_LISTBOX;
     request.CtlID = static_cast<UINT>(GetDlgCtrlID(window));
@@ -146,3 +148,5 @@ bool LbxMeasureRow(HWND window, bool combo, int32_t row, std::uintptr_t data, UI
     *height = request.itemHeight;
     return true;
 }
+
+} // namespace zk::lbx

@@ -12,6 +12,8 @@
 #include "outline/core/lbx.h"
 #include "outline/core/lbx_normalize.h"
 
+namespace zk::lbx {
+
 inline constexpr const wchar_t *kLbxParentProp = L"ZK:ParentLbx";
 inline constexpr const wchar_t *kLbxChildProp = L"ZK:ChildLbx";
 inline constexpr const wchar_t *kLbxRootProp = L"ZK:LbxRootLow";
@@ -22,9 +24,9 @@ enum class LbxKind { None, List, Combo };
 // 30 characters, without regard to case): "listbox", "QXListBox30",
 // "CBCtrlListBox" are lists, "combobox", "QXComboBox30", "CBCtrlComboBox"
 // combo boxes.
-LbxKind LbxControlKind(HWND window);
+LbxKind ControlKind(HWND window);
 
-inline HLOCAL LbxChildHandle(HWND window) { return static_cast<HLOCAL>(zk::PropGet(window, kLbxChildProp)); }
+inline HLOCAL ChildHandle(HWND window) { return static_cast<HLOCAL>(zk::PropGet(window, kLbxChildProp)); }
 inline HLOCAL LbxParentHandle(HWND window) { return static_cast<HLOCAL>(zk::PropGet(window, kLbxParentProp)); }
 
 // The adoption test: a valid window with "ZK:ChildLbx" whose style has
@@ -33,8 +35,8 @@ bool LbxGetChildCopy(HWND window, LbxChild *out);
 
 // Changes the child record under a short lock; false without one.
 template <class F>
-bool LbxChildEdit(HWND window, F &&f) {
-    return zk::LocalWith<LbxChild>(LbxChildHandle(window), f);
+bool ChildEdit(HWND window, F &&f) {
+    return zk::LocalWith<LbxChild>(ChildHandle(window), f);
 }
 
 // The parent record of a list: on the list's parent, or, when that parent
@@ -42,11 +44,11 @@ bool LbxChildEdit(HWND window, F &&f) {
 HLOCAL LbxFindParent(HWND list);
 
 // Sets or clears bits of a parent record; false when it will not lock.
-bool LbxParentFlags(HLOCAL parent, uint16_t set, uint16_t clear);
+bool ParentFlags(HLOCAL parent, uint16_t set, uint16_t clear);
 
 // The base procedure of an adopted control (its former procedure).
 inline WNDPROC LbxBaseProc(const LbxChild &child) { return reinterpret_cast<WNDPROC>(child.childProc); }
-inline LRESULT LbxCallBase(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+inline LRESULT CallBase(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
     return CallWindowProcW(LbxBaseProc(child), window, message, wParam, lParam);
 }
 
@@ -67,7 +69,7 @@ LbxNode *LbxGetRoot(HWND window);
 
 // Removes a row without freeing its item: LbxFindParent, keep-items bit,
 // HostListDelete, bit cleared. False (nothing changed) without a parent record.
-bool LbxRemoveRowKeepItem(HWND list, int32_t row);
+bool RemoveRowKeepItem(HWND list, int32_t row);
 
 // Case rules of the platform: CharUpperBuffW, CharLowerBuffW, IsCharLowerW, lstrcmpiW.
 LbxCaseRules &LbxPlatformCase();
@@ -78,9 +80,11 @@ inline const wchar_t *LbxW(const char16_t *text) { return reinterpret_cast<const
 
 // Repaints a row: its rectangle from LB_GETITEMRECT on a list box, the whole
 // window on a combo box or when the rectangle cannot be had.
-void LbxRedrawRow(HWND window, bool combo, int32_t row, UINT flags);
+void RedrawRow(HWND window, bool combo, int32_t row, UINT flags);
 
 // A row's height asked of the parent: WM_MEASUREITEM with control type 2
 // (list) or 3 (combo), the row and its data. False when the parent answered
 // 0; else the answer's height in *height.
-bool LbxMeasureRow(HWND window, bool combo, int32_t row, std::uintptr_t data, UINT *height);
+bool MeasureRow(HWND window, bool combo, int32_t row, std::uintptr_t data, UINT *height);
+
+} // namespace zk::lbx

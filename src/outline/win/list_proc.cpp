@@ -5,7 +5,9 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/row_exports.h"
 
-UINT LbxListTwin(UINT message) {
+namespace zk::lbx {
+
+UINT ListTwin(UINT message) {
     switch (message) {
     case 1025:
         return LB_ADDSTRING;
@@ -43,7 +45,7 @@ LRESULT ListCreate(const LbxChild &child, HWND window, WPARAM wParam, LPARAM lPa
     if (!LbxHostDesignAttributeIs(window, 225, 1, L"no")) {
         ShowScrollBar(window, SB_VERT, TRUE);
     }
-    const LRESULT result = LbxCallBase(child, window, WM_CREATE, wParam, lParam);
+    const LRESULT result = CallBase(child, window, WM_CREATE, wParam, lParam);
     if (child.style & LBX_StyleWideExtent) {
         RECT frame{};
         GetWindowRect(window, &frame);
@@ -56,10 +58,10 @@ LRESULT ListSetFocus(const LbxChild &child, HWND window, WPARAM wParam, LPARAM l
     HWND previous = reinterpret_cast<HWND>(wParam);
     if (previous && GetParent(previous) == GetParent(window)) {
         if (HLOCAL parent = LbxFindParent(window)) {
-            LbxParentFlags(parent, LBX_ParentFocusKnown, 0);
+            ParentFlags(parent, LBX_ParentFocusKnown, 0);
         }
     }
-    return LbxCallBase(child, window, WM_SETFOCUS, wParam, lParam);
+    return CallBase(child, window, WM_SETFOCUS, wParam, lParam);
 }
 
 LRESULT ListGetSel(const LbxChild &child, HWND window, WPARAM row, LPARAM lParam) {
@@ -67,7 +69,7 @@ LRESULT ListGetSel(const LbxChild &child, HWND window, WPARAM row, LPARAM lParam
     if (item && (item->flags & LBX_ItemDisabled)) {
         return 0;
     }
-    return LbxCallBase(child, window, LB_GETSEL, row, lParam);
+    return CallBase(child, window, LB_GETSEL, row, lParam);
 }
 
 LRESULT ListDispatch(const LbxChild &child, HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
@@ -75,68 +77,70 @@ LRESULT ListDispatch(const LbxChild &child, HWND window, UINT message, WPARAM wP
     case WM_CREATE:
         return ListCreate(child, window, wParam, lParam);
     case WM_DESTROY:
-        LbxReleaseControl(window, child, false);
+        ReleaseControl(window, child, false);
         return CallWindowProcW(LbxBaseProc(child), window, message, wParam, lParam);
     case WM_SETFOCUS:
         return ListSetFocus(child, window, wParam, lParam);
     case WM_ERASEBKGND:
-        return (child.runFlags & LBX_ChildNoErase) ? 1 : LbxCallBase(child, window, message, wParam, lParam);
+        return (child.runFlags & LBX_ChildNoErase) ? 1 : CallBase(child, window, message, wParam, lParam);
     case WM_SETFONT:
         return LbxSetFont(child, window, false, wParam, lParam);
     case WM_SETREDRAW:
-        LbxChildEdit(window, [&](LbxChild &c) {
+        ChildEdit(window, [&](LbxChild &c) {
             c.runFlags = wParam ? static_cast<uint16_t>(c.runFlags & ~LBX_ChildPaintOff)
                                 : static_cast<uint16_t>(c.runFlags | LBX_ChildPaintOff);
         });
-        return LbxCallBase(child, window, message, wParam, lParam);
+        return CallBase(child, window, message, wParam, lParam);
     case WM_KEYDOWN:
         return LbxKeyDown(child, window, false, wParam, lParam);
     case WM_KEYUP:
     case WM_LBUTTONUP:
-        return LbxButtonUp(child, window, message, wParam, lParam);
+        return ButtonUp(child, window, message, wParam, lParam);
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:
-        return LbxBoxClick(child, window, false, message, wParam, lParam, true);
+        return BoxClick(child, window, false, message, wParam, lParam, true);
     case LB_ADDSTRING:
-        return LbxAddRow(window, -2, reinterpret_cast<const wchar_t *>(lParam),
-                         LbxRowFields::Colour(HostWinGetColor(window, 8)));
+        return AddRow(window, -2, reinterpret_cast<const wchar_t *>(lParam),
+                      RowFields::Colour(HostWinGetColor(window, 8)));
     case LB_INSERTSTRING:
-        return LbxAddRow(window, static_cast<int32_t>(wParam), reinterpret_cast<const wchar_t *>(lParam),
-                         LbxRowFields::Colour(HostWinGetColor(window, 8)));
+        return AddRow(window, static_cast<int32_t>(wParam), reinterpret_cast<const wchar_t *>(lParam),
+                      RowFields::Colour(HostWinGetColor(window, 8)));
     case ZKM_LbxAddRow:
-        return LbxBaseAddRow(child, window, false, LB_ADDSTRING, 0, lParam);
+        return BaseAddRow(child, window, false, LB_ADDSTRING, 0, lParam);
     case ZKM_LbxInsertRow:
-        return LbxBaseAddRow(child, window, false, LB_INSERTSTRING, wParam, lParam);
+        return BaseAddRow(child, window, false, LB_INSERTSTRING, wParam, lParam);
     case LB_GETSEL:
         return ListGetSel(child, window, wParam, lParam);
     case LB_GETCURSEL:
         return LbxCurSel(child, window, false, LB_GETCURSEL);
     case LB_GETTEXT:
     case ZKM_LbxGetText:
-        return LbxTextQuery(child, window, false, message, wParam, lParam);
+        return TextQuery(child, window, false, message, wParam, lParam);
     case LB_GETTEXTLEN:
         return LbxTextLength(child, window, false, message, wParam, lParam);
     case LB_SELECTSTRING:
-        return LbxSelectString(child, window, false, wParam, lParam);
+        return SelectString(child, window, false, wParam, lParam);
     case LB_GETSELCOUNT:
     case LB_GETSELITEMS:
         return LbxSelection(child, window, message, wParam, lParam);
     case LB_SETTABSTOPS:
-        return LbxSetTabStops(window, child, wParam, lParam);
+        return SetTabStops(window, child, wParam, lParam);
     case LB_GETITEMDATA:
     case LB_SETITEMDATA:
-        return LbxItemData(child, window, false, message, wParam, lParam);
+        return ItemData(child, window, false, message, wParam, lParam);
     case ZKM_LbxUserRecord:
-        return LbxUserRecord(window, wParam, lParam);
+        return UserRecord(window, wParam, lParam);
     case ZKM_LbxProbe:
         return 1;
     default:
-        return LbxCallBase(child, window, message, wParam, lParam);
+        return CallBase(child, window, message, wParam, lParam);
     }
 }
 
 } // namespace
 
 LRESULT CALLBACK LbxListBoxWndProc(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    return LbxControlEntry(L"LbxListBoxWndProc()", ListDispatch, LbxListTwin, window, message, wParam, lParam);
+    return ControlEntry(L"LbxListBoxWndProc()", ListDispatch, ListTwin, window, message, wParam, lParam);
 }
+
+} // namespace zk::lbx

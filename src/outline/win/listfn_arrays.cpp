@@ -1,6 +1,9 @@
 // Filling a list from host arrays: one row per string, with a value per
 // number when a second array is given.
+#include "outline/win/lbx_exports.h"
 #include "outline/win/listfn_target.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -31,6 +34,8 @@ const wchar_t *ElementText(HostArray strings, int32_t index) {
     return text ? text : L"";
 }
 
+} // namespace
+
 // The values come from `numbers` when `withValues` is set.
 int32_t Populate(HWND window, HostArray strings, bool withValues, HostArray numbers) {
     if (!IsWindow(window)) {
@@ -38,7 +43,7 @@ int32_t Populate(HWND window, HostArray strings, bool withValues, HostArray numb
     }
     LbxTarget t;
     const HWND list = InnerList(window);
-    if (!LbxTargetOf(list, &t)) {
+    if (!TargetOf(list, &t)) {
         return ZEL_INVALID_PARAMETER;
     }
     int32_t low = 0, high = -1, numberLow = 0, numberHigh = -1;
@@ -69,16 +74,4 @@ int32_t Populate(HWND window, HostArray strings, bool withValues, HostArray numb
     return count;
 }
 
-} // namespace
-
-extern "C" {
-
-int32_t ZKAPI ZelListArrayPopulate(HWND window, HostArray strings) {
-    return zk::Quietly([&] { return Populate(window, strings, false, 0); }, [] { return int32_t{-1}; });
-}
-
-int32_t ZKAPI ZelListArrayPopulateValue(HWND window, HostArray strings, HostArray numbers) {
-    return zk::Quietly([&] { return Populate(window, strings, true, numbers); }, [] { return int32_t{-1}; });
-}
-
-} // extern "C"
+} // namespace zk::lbx

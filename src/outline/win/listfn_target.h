@@ -9,6 +9,8 @@
 #include "frame/win/guard.h"
 #include "outline/win/lbx_win.h"
 
+namespace zk::lbx {
+
 struct LbxTarget {
     HWND window = nullptr;
     bool combo = false;
@@ -29,11 +31,11 @@ struct LbxTarget {
 
 // A list box or combo box by the host's type, else by its class name. False
 // for anything else, a destroyed window included.
-inline bool LbxTargetOf(HWND window, LbxTarget *out) {
+inline bool TargetOf(HWND window, LbxTarget *out) {
     if (!IsWindow(window)) {
         return false;
     }
-    switch (LbxControlKind(window)) {
+    switch (ControlKind(window)) {
     case LbxKind::List:
         *out = {window, false};
         return true;
@@ -48,11 +50,11 @@ inline bool LbxTargetOf(HWND window, LbxTarget *out) {
 // The body of a general list function on a list or combo box: -87 for any
 // other window, `failure` for anything thrown.
 template <class Body>
-int32_t LbxWithTarget(HWND window, int32_t failure, Body &&body) {
+int32_t WithTarget(HWND window, int32_t failure, Body &&body) {
     return zk::Quietly(
         [&]() -> int32_t {
             LbxTarget target;
-            if (!LbxTargetOf(window, &target)) {
+            if (!TargetOf(window, &target)) {
                 return ZEL_INVALID_PARAMETER;
             }
             return body(target);
@@ -63,3 +65,5 @@ int32_t LbxWithTarget(HWND window, int32_t failure, Body &&body) {
 // Adds (row -2) or inserts a row and sets its value: ZelListAddValue and
 // ZelListInsertValue.
 int32_t LbxAddValue(const LbxTarget &target, int32_t row, const wchar_t *text, int32_t value);
+
+} // namespace zk::lbx

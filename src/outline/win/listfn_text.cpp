@@ -5,7 +5,10 @@
 #include <memory>
 #include <string_view>
 
+#include "outline/win/lbx_exports.h"
 #include "outline/win/listfn_target.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -29,9 +32,11 @@ LRESULT ReadByReference(const LbxTarget &t, int32_t row, LbxItem *item, const wc
     return got;
 }
 
+} // namespace
+
 HostStr GetText(HWND window, int32_t row) {
     LbxTarget t;
-    if (!LbxTargetOf(window, &t)) {
+    if (!TargetOf(window, &t)) {
         return ZelStrEmpty();
     }
     const LRESULT length = t.Send(LB_GETTEXTLEN, CB_GETLBTEXTLEN, static_cast<WPARAM>(row));
@@ -91,13 +96,13 @@ int32_t SetAdoptedText(const LbxChild &child, const LbxTarget &t, int32_t row, s
         if (fresh->node) {
             fresh->node->item = fresh.get();
         }
-        LbxCallBase(child, t.window, t.Pick(LB_SETITEMDATA, CB_SETITEMDATA), static_cast<WPARAM>(row),
-                    reinterpret_cast<LPARAM>(fresh.get()));
+        CallBase(child, t.window, t.Pick(LB_SETITEMDATA, CB_SETITEMDATA), static_cast<WPARAM>(row),
+                 reinterpret_cast<LPARAM>(fresh.get()));
         delete item;
         target = fresh.release();
     }
     LbxNormalizeText(child.style, target->text, LbxPlatformCase());
-    LbxRedrawRow(t.window, t.combo, row, RDW_INVALIDATE);
+    RedrawRow(t.window, t.combo, row, RDW_INVALIDATE);
     return 0;
 }
 
@@ -129,23 +134,4 @@ int32_t SetPlainText(const LbxTarget &t, int32_t row, const wchar_t *text) {
     return 0;
 }
 
-} // namespace
-
-extern "C" {
-
-HostStr ZKAPI ZelListGetText(HWND window, int32_t row) {
-    return zk::StringResult([&] { return GetText(window, row); });
-}
-
-int32_t ZKAPI ZelListSetText(HWND window, int32_t row, const wchar_t *text) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) {
-        const wchar_t *readable = text ? text : L"";
-        LbxChild child{};
-        if (LbxGetChildCopy(window, &child)) {
-            return SetAdoptedText(child, t, row, LbxU16(readable));
-        }
-        return SetPlainText(t, row, readable);
-    });
-}
-
-} // extern "C"
+} // namespace zk::lbx

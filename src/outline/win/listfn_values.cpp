@@ -2,15 +2,18 @@
 #include <cstdint>
 
 #include "outline/core/listfn_walk.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/listfn_target.h"
 #include "outline/win/win_rows.h"
+
+namespace zk::lbx {
 
 namespace {
 
 // A text the list can read: the platform's lists do not all take a null one.
 const wchar_t *Readable(const wchar_t *text) { return text ? text : L""; }
 
-class MessageValues final : public LbxValueRows {
+class MessageValues final : public ValueRows {
 public:
     explicit MessageValues(const LbxTarget &target) : target_(target) {}
     int32_t Value(int32_t row) override {
@@ -36,50 +39,9 @@ int32_t LbxAddValue(const LbxTarget &target, int32_t row, const wchar_t *text, i
     return set == LB_ERR ? -1 : static_cast<int32_t>(added);
 }
 
-extern "C" {
-
-int32_t ZKAPI ZelListAddValue(HWND window, const wchar_t *text, int32_t value) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) { return LbxAddValue(t, -2, text, value); });
+int32_t FindValue(const LbxTarget &target, int32_t start, int32_t value) {
+    MessageValues rows(target);
+    return FindValueWalk(rows, target.Count(), start, value);
 }
 
-int32_t ZKAPI ZelListInsertValue(HWND window, int32_t row, const wchar_t *text, int32_t value) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) { return LbxAddValue(t, row, text, value); });
-}
-
-int32_t ZKAPI ZelListGetValue(HWND window, int32_t row) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) {
-        return static_cast<int32_t>(t.Send(LB_GETITEMDATA, CB_GETITEMDATA, static_cast<WPARAM>(row)));
-    });
-}
-
-int32_t ZKAPI ZelListSetValue(HWND window, int32_t row, int32_t value) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) {
-        return static_cast<int32_t>(
-            t.Send(LB_SETITEMDATA, CB_SETITEMDATA, static_cast<WPARAM>(row), static_cast<LPARAM>(value)));
-    });
-}
-
-int32_t ZKAPI ZelListFindValue(HWND window, int32_t start, int32_t value) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) {
-        MessageValues rows(t);
-        return LbxFindValueWalk(rows, t.Count(), start, value);
-    });
-}
-
-int32_t ZKAPI ZelListFindString(HWND window, int32_t start, const wchar_t *text) {
-    return LbxWithTarget(window, -1, [&](const LbxTarget &t) -> int32_t {
-        if (!text) {
-            return -1;
-        }
-        LbxChild child{};
-        if (LbxGetChildCopy(t.window, &child)) {
-            // The search starts after `start`: nothing lies after the last possible row.
-            return start == INT32_MAX ? -1 : LbxFindString(child, t.window, t.combo, start, text);
-        }
-        const LRESULT found =
-            t.Send(LB_FINDSTRINGEXACT, CB_FINDSTRINGEXACT, static_cast<WPARAM>(start), reinterpret_cast<LPARAM>(text));
-        return found < 0 ? -1 : static_cast<int32_t>(found);
-    });
-}
-
-} // extern "C"
+} // namespace zk::lbx

@@ -5,6 +5,8 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/win_rows.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 int32_t SetFlags(HWND window, int32_t row, uint32_t mask, int32_t set) {
@@ -12,7 +14,7 @@ int32_t SetFlags(HWND window, int32_t row, uint32_t mask, int32_t set) {
     if (!LbxGetChildCopy(window, &child)) {
         return -1;
     }
-    const bool combo = LbxControlKind(window) == LbxKind::Combo;
+    const bool combo = ControlKind(window) == LbxKind::Combo;
     WinRows rows(window, child, combo);
     LbxItem *item = LbxItemOf(rows.Data(row));
     if (!item) {
@@ -20,7 +22,7 @@ int32_t SetFlags(HWND window, int32_t row, uint32_t mask, int32_t set) {
     }
     const bool multi = LbxIsMultiSelect(window, combo);
     if (mask & LBX_ItemHidden) {
-        if (!LbxRemoveRowKeepItem(window, row)) {
+        if (!RemoveRowKeepItem(window, row)) {
             return -1;
         }
     }
@@ -60,7 +62,7 @@ int32_t SetFlags(HWND window, int32_t row, uint32_t mask, int32_t set) {
         }
     }
     if (mask & 0xFF000000u) {
-        LbxRedrawRow(window, combo, row, RDW_INVALIDATE);
+        RedrawRow(window, combo, row, RDW_INVALIDATE);
     }
     return -1; // the same on success: callers must not read it as failure
 }
@@ -82,7 +84,7 @@ int32_t ZKAPI ZelListGetFlags(HWND window, int32_t row) {
         if (!LbxGetChildCopy(window, &child)) {
             return -1;
         }
-        LbxItem *item = LbxItemOf(LbxBaseRow(child, window, LbxControlKind(window) == LbxKind::Combo, row));
+        LbxItem *item = LbxItemOf(LbxBaseRow(child, window, ControlKind(window) == LbxKind::Combo, row));
         return item ? static_cast<int32_t>(item->flags) : -1;
     });
 }
@@ -106,7 +108,7 @@ ZelItemHandle ZKAPI ZelListGetItemHandle(HWND window, int32_t row) {
             if (row == LBX_RootRow) {
                 return reinterpret_cast<ZelItemHandle>(LbxGetRoot(window));
             }
-            LbxItem *item = LbxItemOf(LbxBaseRow(child, window, LbxControlKind(window) == LbxKind::Combo, row));
+            LbxItem *item = LbxItemOf(LbxBaseRow(child, window, ControlKind(window) == LbxKind::Combo, row));
             return item ? reinterpret_cast<ZelItemHandle>(item->node) : 0;
         },
         [] { return ZelItemHandle{0}; });

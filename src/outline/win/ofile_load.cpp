@@ -11,7 +11,7 @@
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 namespace {
 
 // Shows everything but what the stream marked hidden.
@@ -62,16 +62,15 @@ bool BuildTree(HWND window, LbxNode *root, const OBLOB &blob, const std::vector<
     for (size_t i = 0; i < blob.items.size(); ++i) {
         const OBITEM &record = blob.items[i];
         if (parents[i] == kIsRoot) {
-            if (!LbxSetItemFlagsNode(root, record.flags, 1))
+            if (!SetItemFlagsNode(root, record.flags, 1))
                 return false;
             root->item->value = record.value;
             nodes[i] = root;
             continue;
         }
         LbxNode *parent = parents[i] == kUnderRoot ? root : nodes[static_cast<size_t>(parents[i])];
-        LbxNode *node =
-            LbxLoadChildWindow(window, parent, Entry(pics, record.picNormal), Entry(pics, record.picSelected),
-                               Wide(record.text), record.value, record.flags);
+        LbxNode *node = LoadChildWindow(window, parent, Entry(pics, record.picNormal), Entry(pics, record.picSelected),
+                                        Wide(record.text), record.value, record.flags);
         if (!node)
             return false;
         // A new node has no row yet: storing font and colour is all that
@@ -83,6 +82,8 @@ bool BuildTree(HWND window, LbxNode *root, const OBLOB &blob, const std::vector<
     }
     return true;
 }
+
+} // namespace
 
 ZelItemHandle Load(HWND window, HostStr handle) {
     if (!window || !IsWindow(window) || !handle)
@@ -116,15 +117,10 @@ ZelItemHandle Load(HWND window, HostStr handle) {
         FreeRegistries(window);
         return 0;
     }
-    LbxShowOutlineWindow(window, kShowAllButHidden);
+    ShowOutlineWindow(window, kShowAllButHidden);
     if (HostWinType(window) & HOST_WT_LISTBOX)
         SendMessageW(window, LB_SETTOPINDEX, static_cast<WPARAM>(blob.topIndex), 0);
     return LbxHandleOf(root);
 }
 
-} // namespace
-} // namespace zk::ofile
-
-extern "C" ZelItemHandle ZKAPI ZelListLoadOutline(HWND window, HostStr outline) {
-    return zk::Quietly([&] { return zk::ofile::Load(window, outline); }, [] { return ZelItemHandle{0}; });
-}
+} // namespace zk::lbx::ofile

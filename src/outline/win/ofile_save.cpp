@@ -11,7 +11,7 @@
 #include "outline/win/ofile_win.h"
 #include "outline/win/pic.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 namespace {
 
 // The registries of the list with an index of what they hold, so that each
@@ -133,6 +133,8 @@ bool GiveOut(const std::vector<uint8_t> &bytes, HostStr *out) {
     return true;
 }
 
+} // namespace
+
 int32_t Save(HWND window, HostStr *out) {
     LbxChild child{};
     if (!LbxGetChildCopy(window, &child))
@@ -155,7 +157,7 @@ int32_t Save(HWND window, HostStr *out) {
         OBLOB blob;
         blob.style = child.style;
         blob.indent = static_cast<uint32_t>(child.indent);
-        const bool combo = LbxControlKind(window) == LbxKind::Combo;
+        const bool combo = ControlKind(window) == LbxKind::Combo;
         blob.topIndex = combo ? 0 : static_cast<int32_t>(SendMessageW(window, LB_GETTOPINDEX, 0, 0));
         registries.Describe(blob);
         OutlineCollect(
@@ -170,9 +172,4 @@ int32_t Save(HWND window, HostStr *out) {
     }
 }
 
-} // namespace
-} // namespace zk::ofile
-
-extern "C" int32_t ZKAPI ZelListSaveOutline(HWND window, HostStr *out) {
-    return zk::Quietly([&] { return zk::ofile::Save(window, out); }, [] { return int32_t{ZEL_NOT_ENOUGH_MEMORY}; });
-}
+} // namespace zk::lbx::ofile

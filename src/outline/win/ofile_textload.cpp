@@ -12,7 +12,7 @@
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 namespace {
 
 // Default pictures from the library's own bitmaps, in argument order.
@@ -80,12 +80,10 @@ bool BuildTree(HWND window, LbxNode *root, const std::vector<TextLine> &lines, c
         LbxNode *anchor = line.anchor == kTextRoot ? root : nodes[static_cast<size_t>(line.anchor)];
         LbxNode *node = nullptr;
         if (line.sibling) {
-            node =
-                LbxLoadSiblingWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
+            node = LoadSiblingWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
         } else {
-            LbxSetItemPictureNode(anchor, pictures.parentNormal, pictures.parentSelected);
-            node =
-                LbxLoadChildWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
+            SetItemPictureNode(anchor, pictures.parentNormal, pictures.parentSelected);
+            node = LoadChildWindow(window, anchor, pictures.leafNormal, pictures.leafSelected, Wide(line.text), 0, 0);
         }
         if (!node)
             return false;
@@ -93,6 +91,8 @@ bool BuildTree(HWND window, LbxNode *root, const std::vector<TextLine> &lines, c
     }
     return true;
 }
+
+} // namespace
 
 ZelItemHandle LoadFile(HWND window, const wchar_t *name, const ZelPicHandle given[4]) {
     if (!window || !IsWindow(window))
@@ -129,12 +129,4 @@ ZelItemHandle LoadFile(HWND window, const wchar_t *name, const ZelPicHandle give
     return 0;
 }
 
-} // namespace
-} // namespace zk::ofile
-
-extern "C" ZelItemHandle ZKAPI ZelListLoadOutlineFile(HWND window, const wchar_t *fileName, ZelPicHandle parentNormal,
-                                                      ZelPicHandle parentSelected, ZelPicHandle leafNormal,
-                                                      ZelPicHandle leafSelected) {
-    const ZelPicHandle given[4] = {parentNormal, parentSelected, leafNormal, leafSelected};
-    return zk::Quietly([&] { return zk::ofile::LoadFile(window, fileName, given); }, [] { return ZelItemHandle{0}; });
-}
+} // namespace zk::lbx::ofile

@@ -7,7 +7,7 @@
 #include "outline/win/lbx_win.h"
 #include "outline/win/pic.h"
 
-namespace zk::ofile {
+namespace zk::lbx::ofile {
 
 std::u16string WidenSystem(std::string_view bytes) {
     if (bytes.empty())
@@ -30,7 +30,7 @@ bool ClearForLoad(HWND window, LbxNode *root) {
     std::vector<LbxItem *> flat;
     LbxChild child{};
     if (LbxGetChildCopy(window, &child)) {
-        const bool combo = LbxControlKind(window) == LbxKind::Combo;
+        const bool combo = ControlKind(window) == LbxKind::Combo;
         const auto count = static_cast<int32_t>(SendMessageW(window, combo ? CB_GETCOUNT : LB_GETCOUNT, 0, 0));
         for (int32_t row = 0; row < count; ++row) {
             LbxItem *item = LbxItemOf(LbxBaseRow(child, window, combo, row));
@@ -38,10 +38,10 @@ bool ClearForLoad(HWND window, LbxNode *root) {
                 flat.push_back(item);
         }
     }
-    if (!LbxParentFlags(parent, LBX_ParentKeepItems, 0))
+    if (!ParentFlags(parent, LBX_ParentKeepItems, 0))
         return false;
     HostListClear(window);
-    LbxParentFlags(parent, 0, LBX_ParentKeepItems);
+    ParentFlags(parent, 0, LBX_ParentKeepItems);
     for (LbxItem *item : flat)
         delete item;
     LbxFreeDescendents(root);
@@ -53,4 +53,4 @@ void FreeRegistries(HWND window) noexcept {
     LbxFontFreeAll(window);
 }
 
-} // namespace zk::ofile
+} // namespace zk::lbx::ofile

@@ -9,7 +9,9 @@
 #include "outline/win/paint_parts.h"
 #include "outline/win/pic_sources.h"
 
-using namespace zk::paint;
+namespace zk::lbx {
+
+using namespace paint;
 
 namespace {
 
@@ -61,7 +63,7 @@ const PIC *Choose(PictureChoice c, const LbxItem &item) {
                      : item.picSelected             ? item.picSelected
                                                     : item.picNormal;
     // A picture freed behind the row's back is not followed.
-    return zk::PicIsLive(pic) ? pic : nullptr;
+    return PicIsLive(pic) ? pic : nullptr;
 }
 
 // A row of a list filled before adoption: its data word is taken as a text
@@ -72,7 +74,7 @@ std::u16string_view ForeignText(const DRAWITEMSTRUCT &r) {
     const auto *text = reinterpret_cast<const char16_t *>(r.itemData);
     if (!text || length <= 0)
         return {};
-    const size_t readable = zk::PicReadableBytes(text, static_cast<size_t>(length) * 2) / 2;
+    const size_t readable = PicReadableBytes(text, static_cast<size_t>(length) * 2) / 2;
     return {text, readable};
 }
 
@@ -104,7 +106,7 @@ bool LbxDrawItem(HWND parent, const DRAWITEMSTRUCT *request, LRESULT *result) {
     TEXTMETRICW metrics{};
     GetTextMetricsW(dc, &metrics);
     child.bkColor = HostWinGetColor(r.hwndItem, 5);
-    LbxChildEdit(r.hwndItem, [&](LbxChild &c) { c.bkColor = child.bkColor; });
+    ChildEdit(r.hwndItem, [&](LbxChild &c) { c.bkColor = child.bkColor; });
 
     const LbxRect row = FromRect(r.rcItem);
     const PaintFlow flow = PlanPaint(child.style, r.itemAction, r.itemState, item != nullptr,
@@ -190,3 +192,5 @@ bool LbxDrawItem(HWND parent, const DRAWITEMSTRUCT *request, LRESULT *result) {
     *result = 1;
     return true;
 }
+
+} // namespace zk::lbx

@@ -6,6 +6,8 @@
 #include "outline/win/lbx_win.h"
 #include "outline/win/paint_textrect.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 // A DC of a window with the window's font selected, released on every path.
@@ -69,7 +71,7 @@ bool WidestPlain(HWND window, HDC dc, int32_t first, int32_t last, int32_t pad, 
 }
 
 int32_t SetScrollWidth(HWND window, int32_t row) {
-    if (!window || !IsWindow(window) || LbxControlKind(window) != LbxKind::List)
+    if (!window || !IsWindow(window) || ControlKind(window) != LbxKind::List)
         return ZEL_INVALID_PARAMETER;
     RECT bounds{};
     GetWindowRect(window, &bounds);
@@ -112,8 +114,7 @@ int32_t SetScrollWidth(HWND window, int32_t row) {
 
 int32_t GetTextRectangle(HWND window, int32_t row, int32_t *top, int32_t *left, int32_t *bottom, int32_t *right) {
     LbxChild child;
-    if (!top || !left || !bottom || !right || !LbxGetChildCopy(window, &child) ||
-        LbxControlKind(window) != LbxKind::List)
+    if (!top || !left || !bottom || !right || !LbxGetChildCopy(window, &child) || ControlKind(window) != LbxKind::List)
         return 0;
     RECT rowRect{};
     if (SendMessageW(window, LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rowRect)) == LB_ERR)
@@ -141,7 +142,7 @@ extern "C" {
 int32_t ZKAPI ZelListSetIndent(HWND window, int32_t indent) {
     if (!window || !IsWindow(window))
         return 0;
-    return LbxChildEdit(window, [&](LbxChild &c) { c.indent = indent; }) ? 1 : 0;
+    return ChildEdit(window, [&](LbxChild &c) { c.indent = indent; }) ? 1 : 0;
 }
 
 int32_t ZKAPI ZelListSetScrollWidth(HWND window, int32_t row) {

@@ -6,7 +6,7 @@
 #include "outline/core/paint_lines.h"
 #include "outline/core/paint_tabs.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 namespace {
 
 const wchar_t *W(std::u16string_view text) { return reinterpret_cast<const wchar_t *>(text.data()); }
@@ -156,4 +156,4 @@ void DrawTreeLines(HDC dc, const LbxRect &row, const LbxChild &child, const LbxI
         Bar(dc, plan.box.downBar);
 }
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

@@ -10,7 +10,7 @@
 #include "outline/core/paint_layout.h"
 #include "outline/win/pic.h"
 
-namespace zk::paint {
+namespace zk::lbx::paint {
 
 inline RECT ToRect(const LbxRect &r) { return {r.left, r.top, r.right, r.bottom}; }
 inline LbxRect FromRect(const RECT &r) { return {r.left, r.top, r.right, r.bottom}; }
@@ -34,4 +34,4 @@ bool FillSolid(HDC dc, const RECT &rect, COLORREF colour);
 // last tab only, 0 when the stops will not lock (LbxTextExtent).
 int32_t TextExtent(HDC dc, const LbxChild &child, std::u16string_view text);
 
-} // namespace zk::paint
+} // namespace zk::lbx::paint

@@ -4,7 +4,9 @@
 
 #include "outline/win/paint_parts.h"
 
-using namespace zk::paint;
+namespace zk::lbx {
+
+using namespace paint;
 
 void LbxTextRect(HWND window, const LbxItem *item, const LbxChild *child, HDC dc, RECT *rect) {
     if (!dc || !rect || !child)
@@ -25,7 +27,7 @@ void LbxTextRect(HWND window, const LbxItem *item, const LbxChild *child, HDC dc
         in.hasNode = LbxIsNode(item->node);
         in.level = in.hasNode ? item->node->level : 0;
         const PIC *pic = (item->flags & LBX_ItemSelected) && item->picSelected ? item->picSelected : item->picNormal;
-        if (zk::PicIsLive(pic)) {
+        if (PicIsLive(pic)) {
             in.hasPicture = true;
             in.picW = pic->width;
             in.picH = pic->height;
@@ -35,3 +37,5 @@ void LbxTextRect(HWND window, const LbxItem *item, const LbxChild *child, HDC dc
     if (old)
         SelectObject(dc, old);
 }
+
+} // namespace zk::lbx

@@ -6,6 +6,8 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
 
+namespace zk::lbx {
+
 namespace {
 
 // A row's data word: past the subclass for an adopted control, else as the list answers.
@@ -28,7 +30,7 @@ bool ComboCommand(HWND parent, HLOCAL parentRecord, UINT code, HWND control, LRE
             return false;
         }
         PostMessageW(parent, WM_NEXTDLGCTL, reinterpret_cast<WPARAM>(control), 1);
-        LbxParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
+        ParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
         *result = 1;
         return true;
     }
@@ -72,7 +74,7 @@ void ListSetFocus(HLOCAL parentRecord, HWND control, const LbxChild *child) {
                 return; // a foreign row: forwarded at once
             }
             item->flags |= LBX_ItemFocusMark;
-            LbxParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
+            ParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
             return;
         }
     }
@@ -82,7 +84,7 @@ void ListSetFocus(HLOCAL parentRecord, HWND control, const LbxChild *child) {
         caret = at >= 0 ? static_cast<WPARAM>(at) : 0;
     }
     PostMessageW(control, LB_SETCARETINDEX, caret, 0);
-    LbxParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
+    ParentFlags(parentRecord, LBX_ParentFocusKnown, 0);
 }
 
 void ListKillFocus(HWND control, const LbxChild *child) {
@@ -113,7 +115,7 @@ void ListKillFocus(HWND control, const LbxChild *child) {
 
 } // namespace
 
-bool LbxParentCommand(HWND parent, UINT code, HWND control, LRESULT *result) {
+bool ParentCommand(HWND parent, UINT code, HWND control, LRESULT *result) {
     if (!control) {
         return false;
     }
@@ -131,12 +133,12 @@ bool LbxParentCommand(HWND parent, UINT code, HWND control, LRESULT *result) {
     return false;
 }
 
-HBRUSH LbxComboEditColor(HWND combo, HDC dc) {
+HBRUSH ComboEditColor(HWND combo, HDC dc) {
     LbxChild child{};
-    if (!combo || !zk::LocalCopy(LbxChildHandle(combo), &child)) {
+    if (!combo || !zk::LocalCopy(ChildHandle(combo), &child)) {
         return nullptr;
     }
-    const LRESULT selection = LbxCallBase(child, combo, CB_GETCURSEL, 0, 0);
+    const LRESULT selection = CallBase(child, combo, CB_GETCURSEL, 0, 0);
     if (selection == CB_ERR) {
         return nullptr;
     }
@@ -180,3 +182,5 @@ int LbxSyncComboEdit(HWND combo, int32_t row, HWND edit, WNDPROC base) {
     HostFieldSetEditFlag(combo, 1);
     return 1;
 }
+
+} // namespace zk::lbx

@@ -7,6 +7,8 @@
 #include "outline/win/parent_parts.h"
 #include "outline/win/pic.h"
 
+namespace zk::lbx {
+
 namespace {
 
 // The height a picture asks of its row.
@@ -19,15 +21,15 @@ LONG PictureMinimum(const PIC *pic, uint32_t style, LONG textHeight, bool hasTex
 
 } // namespace
 
-bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request) {
+bool ParentMeasure(HWND parent, MEASUREITEMSTRUCT *request) {
     if (!request) {
         return false;
     }
-    HWND control = LbxControlInHandFor(parent, static_cast<int>(request->CtlID));
+    HWND control = ControlInHandFor(parent, static_cast<int>(request->CtlID));
     if (!control) {
         control = LbxHostDlgItem(parent, static_cast<int>(request->CtlID));
     }
-    zk::LocalPin<LbxChild> child(LbxChildHandle(control));
+    zk::LocalPin<LbxChild> child(ChildHandle(control));
     if (!child) {
         return false;
     }
@@ -54,17 +56,17 @@ bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request) {
         }
     }
     TEXTMETRICW metrics{};
-    if (!LbxFontMetrics(control, font, &metrics)) {
+    if (!FontMetrics(control, font, &metrics)) {
         return false;
     }
     if (!item) {
-        request->itemHeight = static_cast<UINT>(LbxIsWin32Platform() ? metrics.tmHeight - 4 : metrics.tmHeight + 1);
+        request->itemHeight = static_cast<UINT>(IsWin32Platform() ? metrics.tmHeight - 4 : metrics.tmHeight + 1);
         return true;
     }
     child->textHeight = metrics.tmHeight;
     LONG height = metrics.tmHeight;
     for (const PIC *pic : {item->picNormal, item->picSelected}) {
-        if (pic && zk::PicIsLive(pic)) {
+        if (pic && PicIsLive(pic)) {
             const LONG minimum = PictureMinimum(pic, child->style, metrics.tmHeight, !item->text.empty());
             if (minimum > height) {
                 height = minimum;
@@ -74,3 +76,5 @@ bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request) {
     request->itemHeight = static_cast<UINT>(height);
     return true;
 }
+
+} // namespace zk::lbx

@@ -7,11 +7,15 @@
 
 #include "outline/core/lbx.h"
 
+namespace zk::lbx {
+
 // WM_MEASUREITEM: the height of a row by its font and pictures.
-bool LbxParentMeasure(HWND parent, MEASUREITEMSTRUCT *request);
+bool ParentMeasure(HWND parent, MEASUREITEMSTRUCT *request);
 // WM_DELETEITEM: frees the row's item (and node) unless a row is removed on purpose.
-bool LbxParentDelete(HWND parent, const LbxParent &record, const DELETEITEMSTRUCT *request);
+bool ParentDelete(HWND parent, const LbxParent &record, const DELETEITEMSTRUCT *request);
 // WM_COMPAREITEM: items by text without regard to case, other rows as strings.
-bool LbxParentCompare(const COMPAREITEMSTRUCT *request, LRESULT *result);
+bool ParentCompare(const COMPAREITEMSTRUCT *request, LRESULT *result);
 // WM_COMMAND: focus and selection of adopted lists and combo boxes.
-bool LbxParentCommand(HWND parent, UINT code, HWND control, LRESULT *result);
+bool ParentCommand(HWND parent, UINT code, HWND control, LRESULT *result);
+
+} // namespace zk::lbx

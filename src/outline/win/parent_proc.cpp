@@ -6,13 +6,15 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
 
+namespace zk::lbx {
+
 namespace {
 
 // The children of the parent learn that it goes; then the record goes,
 // and the parent's messages pass to its own procedure from here on.
 LRESULT ParentDestroy(HWND window, const LbxParent &record, WPARAM wParam, LPARAM lParam) {
     for (HWND child = GetTopWindow(window); child; child = GetWindow(child, GW_HWNDNEXT)) {
-        if (LbxChildHandle(child)) {
+        if (ChildHandle(child)) {
             SendMessageW(child, ZKM_LbxParentGone, 0, 0);
         }
     }
@@ -33,12 +35,12 @@ LRESULT ParentDispatch(HWND window, const LbxParent &record, UINT message, WPARA
         break;
     }
     case WM_MEASUREITEM:
-        if (LbxParentMeasure(window, reinterpret_cast<MEASUREITEMSTRUCT *>(lParam))) {
+        if (ParentMeasure(window, reinterpret_cast<MEASUREITEMSTRUCT *>(lParam))) {
             return 1;
         }
         break;
     case WM_DELETEITEM:
-        if (LbxParentDelete(window, record, reinterpret_cast<const DELETEITEMSTRUCT *>(lParam))) {
+        if (ParentDelete(window, record, reinterpret_cast<const DELETEITEMSTRUCT *>(lParam))) {
             return 1;
         }
         break;
@@ -46,21 +48,20 @@ LRESULT ParentDispatch(HWND window, const LbxParent &record, UINT message, WPARA
         return -1;
     case WM_COMPAREITEM: {
         LRESULT result = 0;
-        if (LbxParentCompare(reinterpret_cast<const COMPAREITEMSTRUCT *>(lParam), &result)) {
+        if (ParentCompare(reinterpret_cast<const COMPAREITEMSTRUCT *>(lParam), &result)) {
             return result;
         }
         break;
     }
     case WM_COMMAND: {
         LRESULT result = 0;
-        if (LbxParentCommand(window, HIWORD(wParam), reinterpret_cast<HWND>(lParam), &result)) {
+        if (ParentCommand(window, HIWORD(wParam), reinterpret_cast<HWND>(lParam), &result)) {
             return result;
         }
         break;
     }
     case WM_CTLCOLOREDIT:
-        if (HBRUSH brush =
-                LbxComboEditColor(GetParent(reinterpret_cast<HWND>(lParam)), reinterpret_cast<HDC>(wParam))) {
+        if (HBRUSH brush = ComboEditColor(GetParent(reinterpret_cast<HWND>(lParam)), reinterpret_cast<HDC>(wParam))) {
             return reinterpret_cast<LRESULT>(brush);
         }
         break;
@@ -86,3 +87,5 @@ LRESULT CALLBACK LbxParentWndProc(HWND window, UINT message, WPARAM wParam, LPAR
         return 0;
     }
 }
+
+} // namespace zk::lbx

@@ -4,11 +4,13 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/parent_parts.h"
 
-bool LbxParentDelete(HWND parent, const LbxParent &record, const DELETEITEMSTRUCT *request) {
+namespace zk::lbx {
+
+bool ParentDelete(HWND parent, const LbxParent &record, const DELETEITEMSTRUCT *request) {
     if (!request) {
         return false;
     }
-    HWND control = LbxControlInHandFor(parent, static_cast<int>(request->CtlID));
+    HWND control = ControlInHandFor(parent, static_cast<int>(request->CtlID));
     if (!control) {
         control = GetDlgItem(parent, static_cast<int>(request->CtlID));
     }
@@ -52,8 +54,8 @@ const wchar_t *AsText(ULONG_PTR data) {
 
 } // namespace
 
-bool LbxParentCompare(const COMPAREITEMSTRUCT *request, LRESULT *result) {
-    if (!request || !LbxChildHandle(request->hwndItem)) {
+bool ParentCompare(const COMPAREITEMSTRUCT *request, LRESULT *result) {
+    if (!request || !ChildHandle(request->hwndItem)) {
         return false;
     }
     if (request->itemID1 == static_cast<UINT>(-1)) {
@@ -67,3 +69,5 @@ bool LbxParentCompare(const COMPAREITEMSTRUCT *request, LRESULT *result) {
     }
     return true;
 }
+
+} // namespace zk::lbx

@@ -2,8 +2,8 @@
 // picture handle, and the two per-list registries ("ZK:PicList",
 // "ZK:FontList") that own what a list loaded for itself.
 //
-// PIC lives in the global namespace, as lbx.h forward-declares it there;
-// portable code that only passes pictures around needs no more than that.
+// lbx.h forward-declares PIC in zk::lbx; portable code that only passes
+// pictures around (the menu's records) needs no more than that.
 #pragma once
 
 #include <windows.h>
@@ -13,6 +13,8 @@
 #include <vector>
 
 #include "zklib.h"
+
+namespace zk::lbx {
 
 // PIC.type
 enum : uint8_t {
@@ -43,8 +45,6 @@ struct PIC {
     PIC(const PIC &) = delete;
     PIC &operator=(const PIC &) = delete;
 };
-
-namespace zk {
 
 // Whether a pointer names a PIC that is alive now. Never reads through it.
 bool PicIsLive(const void *pointer) noexcept;
@@ -158,4 +158,4 @@ struct FontFacts {
 };
 bool FontDescribe(HFONT font, FontFacts &facts) noexcept;
 
-} // namespace zk
+} // namespace zk::lbx

@@ -3,7 +3,7 @@
 #include "outline/win/pic_gdi.h"
 #include "outline/win/pic_sources.h"
 
-namespace zk {
+namespace zk::lbx {
 
 bool PicFromFile(PIC &pic, const PicPlan &plan) {
     if (plan.format == PicFormat::Bitmap) {
@@ -33,4 +33,4 @@ bool PicFromFile(PIC &pic, const PicPlan &plan) {
     return true; // another extension: the empty picture
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -2,7 +2,7 @@
 
 #include "frame/win/host.h"
 
-namespace zk {
+namespace zk::lbx {
 
 HBITMAP PicMakeMask(HBITMAP bitmap, int width, int height) {
     HBITMAP mask = CreateBitmap(width, height, 1, 1, nullptr);
@@ -66,4 +66,4 @@ bool PicIconInfo(HICON icon, ICONINFO &info, BITMAP &maskBits) {
 
 void PicReportNoFormat(const std::wstring &source) { ZelReportError(kPicNoFormatString, source.c_str()); }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -6,7 +6,7 @@
 
 #include "outline/win/pic.h"
 
-namespace zk {
+namespace zk::lbx {
 
 // A monochrome bitmap of the bitmap's size: set where a pixel has the
 // colour of the pixel at 0, 0 (which thus paints transparent). Null on failure.
@@ -28,4 +28,4 @@ bool PicIconInfo(HICON icon, ICONINFO &info, BITMAP &maskBits);
 inline constexpr UINT kPicNoFormatString = 51;
 void PicReportNoFormat(const std::wstring &source);
 
-} // namespace zk
+} // namespace zk::lbx

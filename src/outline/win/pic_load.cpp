@@ -6,7 +6,8 @@
 #include "frame/win/registry.h"
 #include "outline/win/pic_sources.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 // The first argument of a load from memory is image bytes read as text
@@ -55,13 +56,4 @@ PIC *PicLoad(uint16_t flags, const wchar_t *source, const wchar_t *name) {
     return ok ? pic.release() : nullptr;
 }
 
-} // namespace zk
-
-extern "C" int32_t ZKAPI ZelPicFree(ZelPicHandle picture) {
-    return zk::PicFree(reinterpret_cast<const void *>(picture));
-}
-
-extern "C" ZelPicHandle ZKAPI ZelPicLoad(uint32_t flags, const wchar_t *source, const wchar_t *name) {
-    return zk::Quietly([&] { return zk::PicToHandle(zk::PicLoad(static_cast<uint16_t>(flags), source, name)); },
-                       [] { return ZelPicHandle{0}; });
-}
+} // namespace zk::lbx

@@ -6,7 +6,8 @@
 #include "outline/win/pic_gdi.h"
 #include "outline/win/pic_sources.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 bool BitmapFromBytes(PIC &pic, const PicPlan &plan, const uint8_t *bytes, size_t size) {
@@ -112,4 +113,4 @@ bool PicFromResource(PIC &pic, const PicPlan &plan) {
     return ok;
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -7,7 +7,8 @@
 #include "outline/win/pic_gdi.h"
 #include "outline/win/pic_sources.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 bool BitmapFromModule(PIC &pic, const PicPlan &plan, HMODULE module) {
@@ -82,4 +83,4 @@ bool PicFromModule(PIC &pic, const PicPlan &plan) {
     return ok;
 }
 
-} // namespace zk
+} // namespace zk::lbx

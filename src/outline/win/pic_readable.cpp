@@ -2,7 +2,7 @@
 // load from memory, whose length the caller does not give.
 #include "outline/win/pic_sources.h"
 
-namespace zk {
+namespace zk::lbx {
 
 size_t PicReadableBytes(const void *pointer, size_t want) noexcept {
     const auto *at = static_cast<const uint8_t *>(pointer);
@@ -21,4 +21,4 @@ size_t PicReadableBytes(const void *pointer, size_t want) noexcept {
     return got < want ? got : want;
 }
 
-} // namespace zk
+} // namespace zk::lbx

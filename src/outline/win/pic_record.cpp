@@ -4,6 +4,8 @@
 #include "frame/core/livehandles.h"
 #include "frame/win/guard.h"
 
+namespace zk::lbx {
+
 PIC::PIC() { zk::LiveAdd(zk::LiveKind::Picture, this); }
 
 PIC::~PIC() {
@@ -17,8 +19,6 @@ PIC::~PIC() {
         DestroyIcon(icon);
     }
 }
-
-namespace zk {
 
 bool PicIsLive(const void *pointer) noexcept { return IsLive(LiveKind::Picture, pointer); }
 
@@ -46,4 +46,4 @@ int32_t PicFree(const void *pointer) noexcept {
     return 0;
 }
 
-} // namespace zk
+} // namespace zk::lbx

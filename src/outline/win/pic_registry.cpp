@@ -6,7 +6,8 @@
 #include "frame/win/propcache.h"
 #include "outline/win/pic.h"
 
-namespace zk {
+namespace zk::lbx {
+
 namespace {
 
 constexpr const wchar_t *kPicListProp = L"ZK:PicList";
@@ -96,4 +97,4 @@ void LbxPicFreeAll(HWND list) noexcept {
     zk::PropRemove(list, kPicListProp);
 }
 
-} // namespace zk
+} // namespace zk::lbx

@@ -8,7 +8,7 @@
 #include "outline/core/pic_plan.h"
 #include "outline/win/pic.h"
 
-namespace zk {
+namespace zk::lbx {
 
 bool PicFromModule(PIC &pic, const PicPlan &plan);
 bool PicFromFile(PIC &pic, const PicPlan &plan);
@@ -23,4 +23,4 @@ bool PicFromPointer(PIC &pic, const PicPlan &plan, const void *pointer);
 // neither guard pages nor without access.
 size_t PicReadableBytes(const void *pointer, size_t want) noexcept;
 
-} // namespace zk
+} // namespace zk::lbx

@@ -8,7 +8,9 @@
 
 #include "outline/core/lbx.h"
 
-struct LbxRowFields {
+namespace zk::lbx {
+
+struct RowFields {
     uint32_t color = 0;
     uint32_t flags = 0;
     int32_t value = 0;
@@ -18,8 +20,8 @@ struct LbxRowFields {
 
     // The low 24 bits are the colour; the top 8 bits become item flags, so
     // a row can be added disabled or hidden in one call.
-    static LbxRowFields Colour(COLORREF colour) {
-        LbxRowFields f;
+    static RowFields Colour(COLORREF colour) {
+        RowFields f;
         f.color = colour & 0x00FFFFFFu;
         f.flags = colour & 0xFF000000u;
         return f;
@@ -31,4 +33,6 @@ struct LbxRowFields {
 // list's style. The new row's number, or the negative answer of the list
 // (the item is freed then); -1 when the control is not adopted, has no
 // parent, or memory runs out.
-int32_t LbxAddRow(HWND window, int32_t row, const wchar_t *text, const LbxRowFields &fields);
+int32_t AddRow(HWND window, int32_t row, const wchar_t *text, const RowFields &fields);
+
+} // namespace zk::lbx

@@ -4,6 +4,8 @@
 #include "outline/win/lbx_procs.h"
 #include "outline/win/tree_ops.h"
 
+namespace zk::lbx {
+
 namespace {
 
 struct Target {
@@ -43,11 +45,11 @@ void Select(const Target &t, int32_t row, bool select) {
 
 } // namespace
 
-int32_t LbxSetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set) {
+int32_t SetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set) {
     Target t;
     t.window = static_cast<HWND>(node->window);
     LbxKind kind{};
-    const bool adopted = t.window && IsWindow(t.window) && LbxOpenRows(t.window, &t.child, &kind);
+    const bool adopted = t.window && IsWindow(t.window) && OpenRows(t.window, &t.child, &kind);
     LbxItem *item = node->item;
     if (!adopted) {
         // No list to show it in: the bits alone.
@@ -70,7 +72,7 @@ int32_t LbxSetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set) {
             if ((item->flags & LBX_ItemExpanded) && (item->flags & LBX_ItemHasChildren)) {
                 LbxCollapse(rows, row);
             }
-            if (!LbxRemoveRowKeepItem(t.window, row)) {
+            if (!RemoveRowKeepItem(t.window, row)) {
                 PaintingOn(t.window);
                 return 0;
             }
@@ -110,8 +112,10 @@ int32_t LbxSetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set) {
         item->flags &= ~mask;
     }
     if ((mask & 0xFF000000u) && row >= 0) {
-        LbxRedrawRow(t.window, t.combo, row, RDW_INVALIDATE);
+        RedrawRow(t.window, t.combo, row, RDW_INVALIDATE);
     }
     PaintingOn(t.window);
     return 1;
 }
+
+} // namespace zk::lbx

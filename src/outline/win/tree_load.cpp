@@ -3,8 +3,11 @@
 #include <string>
 
 #include "frame/win/guard.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
+
+namespace zk::lbx {
 
 namespace {
 
@@ -64,7 +67,7 @@ std::wstring ChooseText(const wchar_t *text, int32_t value) {
     const bool replace =
         given.empty() || (value == -2 && given == L"My Computer") || (value == -3 && given == L"Network Neighborhood");
     if (replace && value >= -6 && value <= -2) {
-        const std::wstring name = LbxShellFolderName(value);
+        const std::wstring name = ShellFolderName(value);
         if (!name.empty()) {
             return name;
         }
@@ -72,24 +75,12 @@ std::wstring ChooseText(const wchar_t *text, int32_t value) {
     return given;
 }
 
-bool Pictures(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC **selectedPic) {
-    *normalPic = zk::PicFromHandle(normal);
-    *selectedPic = zk::PicFromHandle(selected);
-    return (!normal || *normalPic) && (!selected || *selectedPic);
-}
+} // namespace
 
-template <class Load>
-ZelItemHandle LoadExport(HWND window, ZelItemHandle anchor, ZelPicHandle normal, ZelPicHandle selected, Load &&load) {
-    return zk::Quietly(
-        [&]() -> ZelItemHandle {
-            PIC *n = nullptr, *s = nullptr;
-            LbxNode *node = LbxNodeOf(anchor);
-            if (!node || !Pictures(normal, selected, &n, &s)) {
-                return 0;
-            }
-            return LbxHandleOf(load(node, n, s));
-        },
-        [] { return ZelItemHandle{0}; });
+bool PicturesOf(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC **selectedPic) {
+    *normalPic = PicFromHandle(normal);
+    *selectedPic = PicFromHandle(selected);
+    return (!normal || *normalPic) && (!selected || *selectedPic);
 }
 
 int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, ZelPicHandle selected, HostArray texts,
@@ -106,9 +97,9 @@ int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, Z
     }
     const int32_t count = counts[0];
     // A parent or picture handle that is not live fails the first load.
-    LbxNode *parent = LbxNodeOf(parentHandle);
+    LbxNode *parent = NodeOf(parentHandle);
     PIC *n = nullptr, *s = nullptr;
-    if (count > 0 && (!parent || !Pictures(normal, selected, &n, &s))) {
+    if (count > 0 && (!parent || !PicturesOf(normal, selected, &n, &s))) {
         return ZEL_NOT_ENOUGH_MEMORY;
     }
     int32_t loaded = 0;
@@ -124,7 +115,7 @@ int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, Z
         HostNumberToULong(&flagNumber, &flagBits);
         int32_t size = 0;
         const wchar_t *text = textHandle ? HostStrLock(textHandle, &size) : nullptr;
-        if (!LbxLoadChildWindow(window, parent, n, s, text, value, flagBits)) {
+        if (!LoadChildWindow(window, parent, n, s, text, value, flagBits)) {
             return ZEL_NOT_ENOUGH_MEMORY;
         }
         ++loaded;
@@ -133,9 +124,7 @@ int32_t LoadMany(HWND window, ZelItemHandle parentHandle, ZelPicHandle normal, Z
     return loaded;
 }
 
-} // namespace
-
-std::wstring LbxShellFolderName(int32_t value) {
+std::wstring ShellFolderName(int32_t value) {
     for (const ShellFolder &folder : kShellFolders) {
         if (folder.value == value) {
             std::wstring name = FromRegistry(folder.classId);
@@ -145,50 +134,28 @@ std::wstring LbxShellFolderName(int32_t value) {
     return {};
 }
 
-LbxNode *LbxLoadChildWindow(HWND window, LbxNode *parent, PIC *normal, PIC *selected, const wchar_t *text,
-                            int32_t value, uint32_t flags) {
+LbxNode *LoadChildWindow(HWND window, LbxNode *parent, PIC *normal, PIC *selected, const wchar_t *text, int32_t value,
+                         uint32_t flags) {
     LbxChild child{};
     if (!LbxGetChildCopy(window, &child) || !parent || !parent->item) {
         return nullptr;
     }
     const std::wstring chosen = ChooseText(text, value);
-    const LbxLoadFields fields{normal, selected, value, flags};
+    const LoadFields fields{normal, selected, value, flags};
     return LbxLoadChild(parent, window, {LbxU16(chosen.c_str()), chosen.size()}, fields, child.style,
                         LbxPlatformCase());
 }
 
-LbxNode *LbxLoadSiblingWindow(HWND window, LbxNode *sibling, PIC *normal, PIC *selected, const wchar_t *text,
-                              int32_t value, uint32_t flags) {
+LbxNode *LoadSiblingWindow(HWND window, LbxNode *sibling, PIC *normal, PIC *selected, const wchar_t *text,
+                           int32_t value, uint32_t flags) {
     LbxChild child{};
     if (!LbxGetChildCopy(window, &child) || !sibling) {
         return nullptr;
     }
     const std::wstring given = text ? text : L"";
-    const LbxLoadFields fields{normal, selected, value, flags};
+    const LoadFields fields{normal, selected, value, flags};
     return LbxLoadSibling(sibling, window, {LbxU16(given.c_str()), given.size()}, fields, child.style,
                           LbxPlatformCase());
 }
 
-extern "C" {
-
-ZelItemHandle ZKAPI ZelListLoadChild(HWND window, ZelItemHandle parent, ZelPicHandle normal, ZelPicHandle selected,
-                                     const wchar_t *text, int32_t value, uint32_t flags) {
-    return LoadExport(window, parent, normal, selected, [&](LbxNode *node, PIC *n, PIC *s) {
-        return LbxLoadChildWindow(window, node, n, s, text, value, flags);
-    });
-}
-
-ZelItemHandle ZKAPI ZelListLoadSibling(HWND window, ZelItemHandle sibling, ZelPicHandle normal, ZelPicHandle selected,
-                                       const wchar_t *text, int32_t value, uint32_t flags) {
-    return LoadExport(window, sibling, normal, selected, [&](LbxNode *node, PIC *n, PIC *s) {
-        return LbxLoadSiblingWindow(window, node, n, s, text, value, flags);
-    });
-}
-
-int32_t ZKAPI ZelListLoadChildren(HWND window, ZelItemHandle parent, ZelPicHandle normal, ZelPicHandle selected,
-                                  HostArray texts, HostArray values, HostArray flags) {
-    return zk::Quietly([&] { return LoadMany(window, parent, normal, selected, texts, values, flags); },
-                       [] { return int32_t{ZEL_NOT_ENOUGH_MEMORY}; });
-}
-
-} // extern "C"
+} // namespace zk::lbx

@@ -12,6 +12,8 @@
 #include "outline/core/tree_rows.h"
 #include "outline/win/win_rows.h"
 
+namespace zk::lbx {
+
 // The rows of an adopted control as LbxTreeRows.
 class WinTreeRows final : public LbxTreeRows {
 public:
@@ -46,36 +48,38 @@ private:
 
 // An adopted control's rows: false when the window is not adopted.
 // `kind` receives the control type.
-bool LbxOpenRows(HWND window, LbxChild *child, LbxKind *kind);
+bool OpenRows(HWND window, LbxChild *child, LbxKind *kind);
 
 // The node of an item handle: null for 0 and for any value that is not a
 // live node with an item (stale, freed or forged handles).
-LbxNode *LbxNodeOf(std::intptr_t handle) noexcept;
+LbxNode *NodeOf(std::intptr_t handle) noexcept;
 inline std::intptr_t LbxHandleOf(const LbxNode *node) noexcept { return reinterpret_cast<std::intptr_t>(node); }
 
 // ZelListShowOutline on an adopted control: 1, 0 on failure.
-int32_t LbxShowOutlineWindow(HWND window, int32_t limit);
+int32_t ShowOutlineWindow(HWND window, int32_t limit);
 
 // ZelListLoadChild and ZelListLoadSibling with pictures already resolved:
 // the new node, null on failure. The text of shell folder values (-6 to -2)
 // is chosen as the export does.
-LbxNode *LbxLoadChildWindow(HWND window, LbxNode *parent, PIC *normal, PIC *selected, const wchar_t *text,
-                            int32_t value, uint32_t flags);
-LbxNode *LbxLoadSiblingWindow(HWND window, LbxNode *sibling, PIC *normal, PIC *selected, const wchar_t *text,
-                              int32_t value, uint32_t flags);
+LbxNode *LoadChildWindow(HWND window, LbxNode *parent, PIC *normal, PIC *selected, const wchar_t *text, int32_t value,
+                         uint32_t flags);
+LbxNode *LoadSiblingWindow(HWND window, LbxNode *sibling, PIC *normal, PIC *selected, const wchar_t *text,
+                           int32_t value, uint32_t flags);
 
 // The name a shell folder value (-6 to -2) gives: from the user's registry,
 // else from Shell32.dll's string table. Empty when neither has one, or for
 // any other value.
-std::wstring LbxShellFolderName(int32_t value);
+std::wstring ShellFolderName(int32_t value);
 
 // Item properties by node, as the exports of the same names (the node must
 // be live): 1 done, 0 on failure.
-int32_t LbxSetItemTextNode(LbxNode *node, const wchar_t *text);
-int32_t LbxSetItemColorNode(LbxNode *node, COLORREF color);
-int32_t LbxSetItemFontNode(LbxNode *node, HFONT font);
-int32_t LbxSetItemPictureNode(LbxNode *node, PIC *normal, PIC *selected);
-int32_t LbxSetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set);
+int32_t SetItemTextNode(LbxNode *node, const wchar_t *text);
+int32_t SetItemColorNode(LbxNode *node, COLORREF color);
+int32_t SetItemFontNode(LbxNode *node, HFONT font);
+int32_t SetItemPictureNode(LbxNode *node, PIC *normal, PIC *selected);
+int32_t SetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set);
 
 // The row of a node in its own window (ZelListGetItemIndex), -1 if none.
-int32_t LbxNodeRow(const LbxNode *node);
+int32_t NodeRow(const LbxNode *node);
+
+} // namespace zk::lbx

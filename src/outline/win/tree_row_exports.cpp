@@ -4,6 +4,8 @@
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 // An export on the rows of an adopted control: `failure` when the window is
@@ -14,7 +16,7 @@ int32_t OnRows(HWND window, int32_t failure, Body &&body) {
         [&]() -> int32_t {
             LbxChild child{};
             LbxKind kind{};
-            if (!LbxOpenRows(window, &child, &kind)) {
+            if (!OpenRows(window, &child, &kind)) {
                 return failure;
             }
             WinTreeRows rows(window, child, kind == LbxKind::Combo);
@@ -25,8 +27,8 @@ int32_t OnRows(HWND window, int32_t failure, Body &&body) {
 
 // Pictures of a call: 0 is none; a handle that is no live picture fails.
 bool Pictures(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC **selectedPic) {
-    *normalPic = zk::PicFromHandle(normal);
-    *selectedPic = zk::PicFromHandle(selected);
+    *normalPic = PicFromHandle(normal);
+    *selectedPic = PicFromHandle(selected);
     return (!normal || *normalPic) && (!selected || *selectedPic);
 }
 
@@ -93,7 +95,7 @@ int32_t ZKAPI ZelListSetOutlineRedraw(HWND window, int32_t redraw) {
 }
 
 int32_t ZKAPI ZelListShowOutline(HWND window, int32_t level) {
-    return zk::Quietly([&] { return LbxShowOutlineWindow(window, level); }, [] { return int32_t{0}; });
+    return zk::Quietly([&] { return ShowOutlineWindow(window, level); }, [] { return int32_t{0}; });
 }
 
 int32_t ZKAPI ZelListGetVisibleRange(HWND window, int32_t *first, int32_t *last) {

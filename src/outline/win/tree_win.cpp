@@ -5,6 +5,8 @@
 #include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 
+namespace zk::lbx {
+
 void WinTreeRows::Reset() { SendMessageW(window_, IsCombo() ? CB_RESETCONTENT : LB_RESETCONTENT, 0, 0); }
 
 void WinTreeRows::Reserve(int32_t count) {
@@ -35,35 +37,35 @@ int32_t WinTreeRows::FocusCaret() {
     return static_cast<int32_t>(SendMessageW(window_, LB_GETCARETINDEX, 0, 0));
 }
 
-bool LbxOpenRows(HWND window, LbxChild *child, LbxKind *kind) {
+bool OpenRows(HWND window, LbxChild *child, LbxKind *kind) {
     if (!LbxGetChildCopy(window, child)) {
         return false;
     }
-    *kind = LbxControlKind(window);
+    *kind = ControlKind(window);
     return *kind != LbxKind::None;
 }
 
-LbxNode *LbxNodeOf(std::intptr_t handle) noexcept {
+LbxNode *NodeOf(std::intptr_t handle) noexcept {
     auto *node = reinterpret_cast<LbxNode *>(handle);
     return LbxIsNode(node) && LbxIsItem(node->item) ? node : nullptr;
 }
 
-int32_t LbxNodeRow(const LbxNode *node) {
+int32_t NodeRow(const LbxNode *node) {
     HWND window = node ? static_cast<HWND>(node->window) : nullptr;
     if (!window || !IsWindow(window)) {
         return -1;
     }
-    const LbxKind kind = LbxControlKind(window);
+    const LbxKind kind = ControlKind(window);
     if (kind == LbxKind::None) {
         return -1;
     }
     return LbxItemIndex(window, kind == LbxKind::Combo, node);
 }
 
-int32_t LbxShowOutlineWindow(HWND window, int32_t limit) {
+int32_t ShowOutlineWindow(HWND window, int32_t limit) {
     LbxChild child{};
     LbxKind kind{};
-    if (!LbxOpenRows(window, &child, &kind)) {
+    if (!OpenRows(window, &child, &kind)) {
         return 0;
     }
     LbxNode *root = LbxRootOf(window);
@@ -73,3 +75,5 @@ int32_t LbxShowOutlineWindow(HWND window, int32_t limit) {
     WinTreeRows rows(window, child, kind == LbxKind::Combo);
     return LbxShowOutline(rows, root, limit);
 }
+
+} // namespace zk::lbx

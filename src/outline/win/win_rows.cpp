@@ -3,6 +3,8 @@
 #include "frame/win/host.h"
 #include "outline/win/lbx_procs.h"
 
+namespace zk::lbx {
+
 int32_t WinRows::Insert(int32_t row, LbxItem *item) {
     return static_cast<int32_t>(
         SendMessageW(window_, ZKM_LbxInsertRow, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(item)));
@@ -12,7 +14,7 @@ int32_t WinRows::Delete(int32_t row) { return HostListDelete(window_, row); }
 
 bool WinRows::BeginKeepItems() {
     keeping_ = LbxFindParent(window_);
-    if (!keeping_ || !LbxParentFlags(keeping_, LBX_ParentKeepItems, 0)) {
+    if (!keeping_ || !ParentFlags(keeping_, LBX_ParentKeepItems, 0)) {
         keeping_ = nullptr;
         return false;
     }
@@ -21,7 +23,7 @@ bool WinRows::BeginKeepItems() {
 
 void WinRows::EndKeepItems() {
     if (keeping_) {
-        LbxParentFlags(keeping_, 0, LBX_ParentKeepItems);
+        ParentFlags(keeping_, 0, LBX_ParentKeepItems);
         keeping_ = nullptr;
     }
 }
@@ -43,13 +45,13 @@ int32_t WinRows::VisibleRange(int32_t *first, int32_t *last) { return LbxVisible
 void WinRows::Redraw(bool on) { HostWinSetRedraw(window_, on ? 1 : 0); }
 
 void WinRows::RedrawOnNoErase() {
-    LbxChildEdit(window_, [](LbxChild &c) { c.runFlags |= LBX_ChildNoErase; });
+    ChildEdit(window_, [](LbxChild &c) { c.runFlags |= LBX_ChildNoErase; });
     HostWinSetRedraw(window_, 1);
-    LbxChildEdit(window_, [](LbxChild &c) { c.runFlags &= static_cast<uint16_t>(~LBX_ChildNoErase); });
+    ChildEdit(window_, [](LbxChild &c) { c.runFlags &= static_cast<uint16_t>(~LBX_ChildNoErase); });
 }
 
 int32_t LbxVisibleRange(HWND window, int32_t *first, int32_t *last) {
-    if (LbxControlKind(window) != LbxKind::List) {
+    if (ControlKind(window) != LbxKind::List) {
         return ZEL_INVALID_PARAMETER;
     }
     RECT frame{};
@@ -79,8 +81,8 @@ int32_t LbxVisibleRange(HWND window, int32_t *first, int32_t *last) {
     return row - top;
 }
 
-int32_t LbxIndexFromPoint(HWND window, int32_t x, int32_t y) {
-    if (LbxControlKind(window) != LbxKind::List) {
+int32_t IndexFromPoint(HWND window, int32_t x, int32_t y) {
+    if (ControlKind(window) != LbxKind::List) {
         return -1;
     }
     RECT frame{};
@@ -128,3 +130,5 @@ int32_t LbxFindString(const LbxChild &child, HWND window, bool combo, int32_t st
     }
     return -1;
 }
+
+} // namespace zk::lbx

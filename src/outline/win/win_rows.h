@@ -6,6 +6,8 @@
 #include "outline/core/lbx_rows.h"
 #include "outline/win/lbx_win.h"
 
+namespace zk::lbx {
+
 class WinRows final : public LbxRows {
 public:
     WinRows(HWND window, const LbxChild &child, bool combo) : window_(window), child_(child), combo_(combo) {}
@@ -42,7 +44,7 @@ int32_t LbxVisibleRange(HWND window, int32_t *first, int32_t *last);
 // The row of a list box under a client point (ZelListGetIndexFromPoint):
 // the row at which the sum of heights from the top row first reaches y.
 // -1 past the end, outside the window, or for a window that is no list box.
-int32_t LbxIndexFromPoint(HWND window, int32_t x, int32_t y);
+int32_t IndexFromPoint(HWND window, int32_t x, int32_t y);
 
 // The row of a node (ZelListGetItemIndex): on a list box LB_FINDSTRINGEXACT
 // with the item's address from the top row on; on a combo box the current
@@ -53,3 +55,5 @@ int32_t LbxItemIndex(HWND window, bool combo, const LbxNode *node);
 // to case (ZelListFindString on an adopted control); -1 past the last row,
 // without wrapping.
 int32_t LbxFindString(const LbxChild &child, HWND window, bool combo, int32_t start, const wchar_t *text);
+
+} // namespace zk::lbx

@@ -10,6 +10,8 @@
 #include "outline/core/lbx_rows.h"
 #include "outline/core/lbx_tree.h"
 
+using namespace zk::lbx;
+
 namespace outlinetest {
 
 inline char16_t Up(char16_t c) { return c >= u'a' && c <= u'z' ? static_cast<char16_t>(c - 32) : c; }

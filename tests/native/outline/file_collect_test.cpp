@@ -5,6 +5,8 @@
 #include "outline/core/lbx_tree.h"
 #include "outline/core/ofile_collect.h"
 
+using namespace zk::lbx;
+
 TEST(OutlineCollect, ADeepChainCostsNoStack) {
     LbxNode *root = LbxNewRoot(nullptr);
     LbxNode *tip = root;
@@ -19,7 +21,7 @@ TEST(OutlineCollect, ADeepChainCostsNoStack) {
     }
     size_t count = 0;
     int32_t deepest = -2;
-    zk::ofile::OutlineWalk(root, [&](LbxNode *node) {
+    zk::lbx::ofile::OutlineWalk(root, [&](LbxNode *node) {
         ++count;
         deepest = node->level;
     });

@@ -7,7 +7,9 @@
 #include "byte_writer.h"
 #include "outline/core/ofile_stream.h"
 
-using namespace zk::ofile;
+using namespace zk::lbx;
+
+using namespace zk::lbx::ofile;
 using Bytes = std::vector<uint8_t>;
 
 namespace {

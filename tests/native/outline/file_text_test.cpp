@@ -6,7 +6,9 @@
 
 #include "outline/core/ofile_text.h"
 
-using namespace zk::ofile;
+using namespace zk::lbx;
+
+using namespace zk::lbx::ofile;
 using namespace std::string_view_literals;
 
 namespace {

@@ -3,7 +3,9 @@
 
 #include "outline/core/paint_layout.h"
 
-using namespace zk::paint;
+using namespace zk::lbx;
+
+using namespace zk::lbx::paint;
 
 namespace {
 

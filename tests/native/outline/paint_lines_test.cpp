@@ -8,7 +8,9 @@
 #include "outline/core/paint_lines.h"
 #include "outline/core/paint_tabs.h"
 
-using namespace zk::paint;
+using namespace zk::lbx;
+
+using namespace zk::lbx::paint;
 
 namespace {
 

@@ -3,7 +3,9 @@
 
 #include "outline/core/pic_archive.h"
 
-using namespace zk::picstream;
+using namespace zk::lbx;
+
+using namespace zk::lbx::picstream;
 using Bytes = std::vector<uint8_t>;
 
 namespace {

@@ -6,7 +6,9 @@
 #include "image_bytes.h"
 #include "outline/core/image_reader.h"
 
-using namespace zk::image;
+using namespace zk::lbx;
+
+using namespace zk::lbx::image;
 using Bytes = std::vector<uint8_t>;
 
 namespace {

@@ -4,6 +4,8 @@
 #include "outline/core/pic_items.h"
 #include "outline/core/pic_serial.h"
 
+using namespace zk::lbx;
+
 using namespace zk;
 using Bytes = std::vector<uint8_t>;
 

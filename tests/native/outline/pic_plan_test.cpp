@@ -3,6 +3,8 @@
 
 #include "outline/core/pic_plan.h"
 
+using namespace zk::lbx;
+
 using namespace zk;
 
 namespace {

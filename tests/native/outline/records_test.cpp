@@ -6,6 +6,8 @@
 #include "frame/core/livehandles.h"
 #include "outline/core/lbx.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 TEST(LbxText, EmptyByDefaultAndAfterAssigningEmpty) {

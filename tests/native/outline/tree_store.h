@@ -7,6 +7,8 @@
 #include "../outline/fakes.h"
 #include "outline/core/tree_rows.h"
 
+using namespace zk::lbx;
+
 namespace outlinetest {
 
 class TreeRows final : public LbxTreeRows {

@@ -21,12 +21,14 @@
 #include "zkhostctl.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace ofiletest {
 
 using Bytes = std::vector<uint8_t>;
 using outlinetest::kListStyle;
 using outlinetest::Walk;
-using zk::CPicArray;
+using zk::lbx::CPicArray;
 
 constexpr DWORD kComboStyle = CBS_DROPDOWNLIST | WS_VSCROLL | CBS_OWNERDRAWVARIABLE;
 // Adoption with the outline bit completes the style thus.

@@ -11,6 +11,8 @@
 
 #include "outline/core/lbx.h"
 
+using namespace zk::lbx;
+
 namespace outlinetest {
 
 // Owner-draw rows without strings, as adoption makes them.

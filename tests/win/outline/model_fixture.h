@@ -14,6 +14,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace outlinetest {
 
 constexpr int kListId = 101;

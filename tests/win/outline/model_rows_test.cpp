@@ -2,6 +2,8 @@
 #include "model_fixture.h"
 #include "outline/win/pic.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 using namespace outlinetest;

@@ -16,6 +16,8 @@
 #include "outline/win/pic.h"
 #include "zkharness.h"
 
+using namespace zk::lbx;
+
 namespace painttest {
 
 constexpr COLORREF kWhite = RGB(255, 255, 255);

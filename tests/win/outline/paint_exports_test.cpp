@@ -11,6 +11,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 using namespace outlinetest;

@@ -3,6 +3,8 @@
 
 #include "outline/core/paint_lines.h"
 
+using namespace zk::lbx;
+
 namespace painttest {
 namespace {
 
@@ -32,12 +34,12 @@ TEST_F(TreePaint, OutlineLinesAreAGrayCheckerPattern) {
     const int mid = kRowHeight / 2;
     // D is the last child: its line runs from the top to the middle only.
     for (int y = 0; y < kRowHeight; ++y) {
-        const bool drawn = y < mid && zk::paint::DottedPointDrawn(x, y);
+        const bool drawn = y < mid && zk::lbx::paint::DottedPointDrawn(x, y);
         EXPECT_EQ(canvas.pixel(x, y), drawn ? kGray : kWhite) << "y " << y;
     }
     // The stub runs one pixel beyond half a step.
     for (int sx = x; sx < x + Step() / 2 + 1; ++sx)
-        EXPECT_EQ(canvas.pixel(sx, mid), zk::paint::DottedPointDrawn(sx, mid) ? kGray : kWhite) << "x " << sx;
+        EXPECT_EQ(canvas.pixel(sx, mid), zk::lbx::paint::DottedPointDrawn(sx, mid) ? kGray : kWhite) << "x " << sx;
     EXPECT_EQ(canvas.pixel(x + Step() / 2 + 1, mid), kWhite);
     // B, the parent, is a last child: no line in its column.
     for (int y = 0; y < kRowHeight; ++y)
@@ -74,7 +76,7 @@ TEST_F(TreePaint, CollapsedBoxShowsAPlus) {
     EXPECT_EQ(canvas.pixel(x, y - 3), kWhite);
     EXPECT_EQ(canvas.pixel(x - 2, y - 2), kWhite);
     // C is not the last child: its line runs on below the box.
-    EXPECT_EQ(canvas.pixel(x, kRowHeight - 1), zk::paint::DottedPointDrawn(x, kRowHeight - 1) ? kGray : kWhite);
+    EXPECT_EQ(canvas.pixel(x, kRowHeight - 1), zk::lbx::paint::DottedPointDrawn(x, kRowHeight - 1) ? kGray : kWhite);
 }
 
 TEST_F(TreePaint, ExpandedBoxShowsAMinusAndPlusFlagAloneShowsABox) {

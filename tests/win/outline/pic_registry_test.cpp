@@ -8,6 +8,8 @@
 #include "outline/win/pic.h"
 #include "zkt_window.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 size_t LivePictures() { return zk::LiveCount(zk::LiveKind::Picture); }
@@ -28,31 +30,31 @@ TEST_F(Registry, PicturesAddedOnceAndOwnedOnesFreed) {
     const size_t before = LivePictures();
     PIC *owned = Owned(true);
     PIC *kept = Owned(false);
-    EXPECT_EQ(zk::LbxPicGet(list), nullptr);
-    zk::CPicArray *registry = zk::LbxPicAdd(list, owned);
+    EXPECT_EQ(zk::lbx::LbxPicGet(list), nullptr);
+    zk::lbx::CPicArray *registry = zk::lbx::LbxPicAdd(list, owned);
     ASSERT_NE(registry, nullptr);
     EXPECT_EQ(GetPropW(list, L"ZK:PicList"), registry);
-    EXPECT_EQ(zk::LbxPicAdd(list, owned), registry);
-    EXPECT_EQ(zk::LbxPicAdd(list, nullptr), registry);
-    EXPECT_EQ(zk::LbxPicAdd(list, kept), registry);
+    EXPECT_EQ(zk::lbx::LbxPicAdd(list, owned), registry);
+    EXPECT_EQ(zk::lbx::LbxPicAdd(list, nullptr), registry);
+    EXPECT_EQ(zk::lbx::LbxPicAdd(list, kept), registry);
     EXPECT_EQ(registry->Count(), 2);
     EXPECT_EQ(registry->At(1), kept);
     EXPECT_EQ(LivePictures(), before + 2);
-    zk::LbxPicFreeAll(list);
+    zk::lbx::LbxPicFreeAll(list);
     EXPECT_EQ(GetPropW(list, L"ZK:PicList"), nullptr);
-    EXPECT_FALSE(zk::PicIsLive(owned));
-    EXPECT_TRUE(zk::PicIsLive(kept));
-    EXPECT_EQ(zk::PicFree(kept), 0);
+    EXPECT_FALSE(zk::lbx::PicIsLive(owned));
+    EXPECT_TRUE(zk::lbx::PicIsLive(kept));
+    EXPECT_EQ(zk::lbx::PicFree(kept), 0);
     EXPECT_EQ(LivePictures(), before);
-    EXPECT_EQ(zk::LbxPicAdd(nullptr, owned), nullptr);
+    EXPECT_EQ(zk::lbx::LbxPicAdd(nullptr, owned), nullptr);
 }
 
 TEST_F(Registry, NewRegistryOfEmptySlots) {
     PIC *first = Owned(true);
-    zk::LbxPicAdd(list, first);
-    zk::CPicArray *set = zk::LbxPicNew(list, 3);
+    zk::lbx::LbxPicAdd(list, first);
+    zk::lbx::CPicArray *set = zk::lbx::LbxPicNew(list, 3);
     ASSERT_NE(set, nullptr);
-    EXPECT_FALSE(zk::PicIsLive(first)); // the old registry went with its owned pictures
+    EXPECT_FALSE(zk::lbx::PicIsLive(first)); // the old registry went with its owned pictures
     EXPECT_EQ(set->Count(), 3);
     EXPECT_EQ(set->At(2), nullptr);
     EXPECT_THROW(set->At(3), zk::InvalidArgException);
@@ -61,36 +63,36 @@ TEST_F(Registry, NewRegistryOfEmptySlots) {
     PIC *second = Owned(true);
     set->SetAt(1, second);
     EXPECT_EQ(set->At(1), second);
-    EXPECT_EQ(zk::LbxPicNew(list, -1), nullptr);
-    zk::LbxPicFreeAll(list);
-    EXPECT_FALSE(zk::PicIsLive(second));
+    EXPECT_EQ(zk::lbx::LbxPicNew(list, -1), nullptr);
+    zk::lbx::LbxPicFreeAll(list);
+    EXPECT_FALSE(zk::lbx::PicIsLive(second));
 }
 
 TEST_F(Registry, PicturesFreedBehindTheRegistryAreNotFreedTwice) {
     PIC *p = Owned(true);
-    zk::CPicArray *set = zk::LbxPicNew(list, 2);
+    zk::lbx::CPicArray *set = zk::lbx::LbxPicNew(list, 2);
     set->SetAt(0, p);
     set->SetAt(1, p);
-    EXPECT_EQ(zk::PicFree(p), 0);
-    zk::LbxPicFreeAll(list); // would fault on a freed or doubled entry
-    EXPECT_EQ(zk::LbxPicGet(list), nullptr);
+    EXPECT_EQ(zk::lbx::PicFree(p), 0);
+    zk::lbx::LbxPicFreeAll(list); // would fault on a freed or doubled entry
+    EXPECT_EQ(zk::lbx::LbxPicGet(list), nullptr);
 }
 
 TEST_F(Registry, FontsExceptTheControlsOwn) {
     HFONT own = CreateFontW(-12, 0, 0, 0, 400, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
     HFONT other = CreateFontW(-14, 0, 0, 0, 700, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
     SendMessageW(list, WM_SETFONT, reinterpret_cast<WPARAM>(own), FALSE);
-    zk::CFontArray *fonts = zk::LbxFontAdd(list, own);
+    zk::lbx::CFontArray *fonts = zk::lbx::LbxFontAdd(list, own);
     ASSERT_NE(fonts, nullptr);
     EXPECT_EQ(GetPropW(list, L"ZK:FontList"), fonts);
-    EXPECT_EQ(zk::LbxFontAdd(list, own), fonts);
-    EXPECT_EQ(zk::LbxFontAdd(list, nullptr), fonts);
-    EXPECT_EQ(zk::LbxFontAdd(list, other), fonts);
+    EXPECT_EQ(zk::lbx::LbxFontAdd(list, own), fonts);
+    EXPECT_EQ(zk::lbx::LbxFontAdd(list, nullptr), fonts);
+    EXPECT_EQ(zk::lbx::LbxFontAdd(list, other), fonts);
     EXPECT_EQ(fonts->Count(), 2);
     EXPECT_EQ(fonts->Find(other), 1);
     EXPECT_EQ(fonts->At(0), own);
     EXPECT_THROW(fonts->At(2), zk::InvalidArgException);
-    zk::LbxFontFreeAll(list);
+    zk::lbx::LbxFontFreeAll(list);
     EXPECT_EQ(GetPropW(list, L"ZK:FontList"), nullptr);
     LOGFONTW logical{};
     EXPECT_EQ(GetObjectW(own, sizeof(logical), &logical), static_cast<int>(sizeof(logical)));
@@ -100,7 +102,7 @@ TEST_F(Registry, FontsExceptTheControlsOwn) {
 }
 
 TEST_F(Registry, NewFontRegistryFilledBySlot) {
-    zk::CFontArray *fonts = zk::LbxFontNew(list, 2);
+    zk::lbx::CFontArray *fonts = zk::lbx::LbxFontNew(list, 2);
     ASSERT_NE(fonts, nullptr);
     EXPECT_EQ(fonts->At(1), nullptr);
     HFONT a = CreateFontW(-10, 0, 0, 0, 400, 0, 0, 0, 0, 0, 0, 0, 0, L"Tahoma");
@@ -111,10 +113,10 @@ TEST_F(Registry, NewFontRegistryFilledBySlot) {
     EXPECT_NE(GetObjectW(a, sizeof(logical), &logical), 0); // setting the same handle again keeps it
     fonts->SetAt(1, b);                                     // a replaced slot gives up its font
     EXPECT_EQ(GetObjectW(a, sizeof(logical), &logical), 0);
-    zk::CFontArray *again = zk::LbxFontNew(list, 1);
+    zk::lbx::CFontArray *again = zk::lbx::LbxFontNew(list, 1);
     ASSERT_NE(again, nullptr);
     EXPECT_EQ(GetObjectW(b, sizeof(logical), &logical), 0);
-    zk::LbxFontFreeAll(list);
+    zk::lbx::LbxFontFreeAll(list);
 }
 
 } // namespace

@@ -12,6 +12,8 @@
 #include "outline/win/pic.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace pictest {
 
 using Bytes = std::vector<uint8_t>;

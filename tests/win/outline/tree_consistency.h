@@ -11,6 +11,8 @@
 #include "list_support.h"
 #include "outline/core/lbx.h"
 
+using namespace zk::lbx;
+
 namespace treetest {
 
 struct Tolerance {

@@ -16,6 +16,8 @@
 #include "zkharness.h"
 #include "zklib.h"
 
+using namespace zk::lbx;
+
 namespace treetest {
 
 using filestest::Take;

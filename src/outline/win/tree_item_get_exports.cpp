@@ -4,13 +4,15 @@
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
+using namespace zk::lbx;
+
 namespace {
 
 template <class R, class Body>
 R OnNode(ZelItemHandle handle, R failure, Body &&body) {
     return zk::Quietly(
         [&]() -> R {
-            LbxNode *node = LbxNodeOf(handle);
+            LbxNode *node = NodeOf(handle);
             return node ? body(*node) : failure;
         },
         [failure] { return failure; });
@@ -54,7 +56,7 @@ int32_t ZKAPI ZelListGetItemValue(ZelItemHandle item) {
 
 HostStr ZKAPI ZelListGetItemText(ZelItemHandle item) {
     return zk::StringResult([&]() -> HostStr {
-        LbxNode *node = LbxNodeOf(item);
+        LbxNode *node = NodeOf(item);
         if (!node) {
             return ZelStrEmpty();
         }
@@ -83,17 +85,17 @@ int32_t ZKAPI ZelListGetItemData(ZelItemHandle item, HostStr *text, int32_t *val
 int32_t ZKAPI ZelListGetItemPicture(ZelItemHandle item, ZelPicHandle *normal, ZelPicHandle *selected) {
     return OnNode(item, int32_t{0}, [&](LbxNode &n) {
         if (normal) {
-            *normal = zk::PicToHandle(n.item->picNormal);
+            *normal = PicToHandle(n.item->picNormal);
         }
         if (selected) {
-            *selected = zk::PicToHandle(n.item->picSelected);
+            *selected = PicToHandle(n.item->picSelected);
         }
         return 1;
     });
 }
 
 int32_t ZKAPI ZelListGetItemIndex(ZelItemHandle item) {
-    return OnNode(item, int32_t{-1}, [](LbxNode &n) { return LbxNodeRow(&n); });
+    return OnNode(item, int32_t{-1}, [](LbxNode &n) { return NodeRow(&n); });
 }
 
 } // extern "C"
