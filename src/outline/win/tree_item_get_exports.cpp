@@ -6,20 +6,6 @@
 
 using namespace zk::lbx;
 
-namespace {
-
-template <class R, class Body>
-R OnNode(ZelItemHandle handle, R failure, Body &&body) {
-    return zk::Quietly(
-        [&]() -> R {
-            LbxNode *node = NodeOf(handle);
-            return node ? body(*node) : failure;
-        },
-        [failure] { return failure; });
-}
-
-} // namespace
-
 extern "C" {
 
 ZelItemHandle ZKAPI ZelListGetParent(ZelItemHandle item) {

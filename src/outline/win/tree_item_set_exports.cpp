@@ -1,59 +1,43 @@
 // Changing an item's fields by its handle.
 #include "frame/win/guard.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
 using namespace zk::lbx;
 
-namespace {
-
-template <class R, class Body>
-R OnNode(ZelItemHandle handle, R failure, Body &&body) {
-    return zk::Quietly(
-        [&]() -> R {
-            LbxNode *node = NodeOf(handle);
-            return node ? body(node) : failure;
-        },
-        [failure] { return failure; });
-}
-
-} // namespace
-
 extern "C" {
 
 int32_t ZKAPI ZelListSetItemColor(ZelItemHandle item, COLORREF color) {
-    return OnNode(item, int32_t{0}, [&](LbxNode *n) { return SetItemColorNode(n, color); });
+    return OnNode(item, int32_t{0}, [&](LbxNode &n) { return SetItemColorNode(&n, color); });
 }
 
 int32_t ZKAPI ZelListSetItemFont(ZelItemHandle item, HFONT font) {
-    return OnNode(item, int32_t{0}, [&](LbxNode *n) { return SetItemFontNode(n, font); });
+    return OnNode(item, int32_t{0}, [&](LbxNode &n) { return SetItemFontNode(&n, font); });
 }
 
 int32_t ZKAPI ZelListSetItemPicture(ZelItemHandle item, ZelPicHandle normal, ZelPicHandle selected) {
-    return OnNode(item, int32_t{0}, [&](LbxNode *n) {
-        PIC *normalPic = PicFromHandle(normal);
-        PIC *selectedPic = PicFromHandle(selected);
-        if ((normal && !normalPic) || (selected && !selectedPic)) {
-            return 0;
-        }
-        return SetItemPictureNode(n, normalPic, selectedPic);
+    return OnNode(item, int32_t{0}, [&](LbxNode &n) {
+        PIC *normalPic = nullptr, *selectedPic = nullptr;
+        return PicturesOf(normal, selected, &normalPic, &selectedPic) ? SetItemPictureNode(&n, normalPic, selectedPic)
+                                                                      : 0;
     });
 }
 
 ZelItemHandle ZKAPI ZelListSetItemText(ZelItemHandle item, const wchar_t *text) {
     return OnNode(item, ZelItemHandle{0},
-                  [&](LbxNode *n) { return SetItemTextNode(n, text) ? LbxHandleOf(n) : ZelItemHandle{0}; });
+                  [&](LbxNode &n) { return SetItemTextNode(&n, text) ? LbxHandleOf(&n) : ZelItemHandle{0}; });
 }
 
 int32_t ZKAPI ZelListSetItemValue(ZelItemHandle item, int32_t value) {
-    return OnNode(item, int32_t{0}, [&](LbxNode *n) {
-        n->item->value = value;
+    return OnNode(item, int32_t{0}, [&](LbxNode &n) {
+        n.item->value = value;
         return 1;
     });
 }
 
 int32_t ZKAPI ZelListSetItemFlags(ZelItemHandle item, uint32_t mask, int32_t set) {
-    return OnNode(item, int32_t{0}, [&](LbxNode *n) { return SetItemFlagsNode(n, mask, set); });
+    return OnNode(item, int32_t{0}, [&](LbxNode &n) { return SetItemFlagsNode(&n, mask, set); });
 }
 
 ZelItemHandle ZKAPI ZelListSetItemData(HWND window, ZelItemHandle item, const wchar_t *text, int32_t value,

@@ -9,6 +9,7 @@
 #include <cstdint>
 #include <string>
 
+#include "frame/win/guard.h"
 #include "outline/core/tree_rows.h"
 #include "outline/win/win_rows.h"
 
@@ -81,5 +82,17 @@ int32_t SetItemFlagsNode(LbxNode *node, uint32_t mask, int32_t set);
 
 // The row of a node in its own window (ZelListGetItemIndex), -1 if none.
 int32_t NodeRow(const LbxNode *node);
+
+// `body(node)` on the live node of a handle, under the exports' guard:
+// `failure` for a stale handle or anything thrown.
+template <class R, class Body>
+R OnNode(ZelItemHandle handle, R failure, Body &&body) {
+    return zk::Quietly(
+        [&]() -> R {
+            LbxNode *node = NodeOf(handle);
+            return node ? body(*node) : failure;
+        },
+        [failure] { return failure; });
+}
 
 } // namespace zk::lbx

@@ -1,6 +1,7 @@
 // The tree exports on rows: expand, collapse, delete, demote, promote,
 // move, show, and the process-wide redraw switch.
 #include "frame/win/guard.h"
+#include "outline/win/lbx_exports.h"
 #include "outline/win/pic.h"
 #include "outline/win/tree_ops.h"
 
@@ -23,13 +24,6 @@ int32_t OnRows(HWND window, int32_t failure, Body &&body) {
             return body(rows);
         },
         [failure] { return failure; });
-}
-
-// Pictures of a call: 0 is none; a handle that is no live picture fails.
-bool Pictures(ZelPicHandle normal, ZelPicHandle selected, PIC **normalPic, PIC **selectedPic) {
-    *normalPic = PicFromHandle(normal);
-    *selectedPic = PicFromHandle(selected);
-    return (!normal || *normalPic) && (!selected || *selectedPic);
 }
 
 } // namespace
@@ -62,14 +56,14 @@ int32_t ZKAPI ZelListDeleteDescendents(HWND window, int32_t row) {
 int32_t ZKAPI ZelListDemote(HWND window, int32_t row, ZelPicHandle normal, ZelPicHandle selected) {
     return OnRows(window, 0, [&](WinTreeRows &rows) {
         PIC *n = nullptr, *s = nullptr;
-        return Pictures(normal, selected, &n, &s) ? LbxDemote(rows, row, n, s) : 0;
+        return PicturesOf(normal, selected, &n, &s) ? LbxDemote(rows, row, n, s) : 0;
     });
 }
 
 int32_t ZKAPI ZelListPromote(HWND window, int32_t row, ZelPicHandle normal, ZelPicHandle selected) {
     return OnRows(window, 0, [&](WinTreeRows &rows) {
         PIC *n = nullptr, *s = nullptr;
-        return Pictures(normal, selected, &n, &s) ? LbxPromote(rows, row, n, s) : 0;
+        return PicturesOf(normal, selected, &n, &s) ? LbxPromote(rows, row, n, s) : 0;
     });
 }
 

@@ -28,8 +28,13 @@ void *operator new(std::size_t size) {
         return p;
     throw std::bad_alloc();
 }
+// The replaced new takes its memory from malloc, so free is the matching
+// release; the compiler cannot see that the two replacements go together.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wmismatched-new-delete"
 void operator delete(void *p) noexcept { std::free(p); }
 void operator delete(void *p, std::size_t) noexcept { std::free(p); }
+#pragma GCC diagnostic pop
 
 namespace {
 

@@ -92,8 +92,9 @@ TEST(Roles, DefaultsFollowTheSystemOrTheirRole) {
     for (int role = 0; role < 16; ++role) {
         SCOPED_TRACE(role);
         EXPECT_EQ(zk::cal::CalendarModel::RoleTableEntry(role), table[role] < 0 ? 0xFFFF : table[role]);
-        if (table[role] >= 0)
+        if (table[role] >= 0) {
             EXPECT_EQ(cal.GetRoleColor(role), SysColor(table[role]));
+        }
         EXPECT_EQ(cal.IsDerivedRoleColor(role), table[role] < 0 ? 1 : 0);
     }
     EXPECT_EQ(cal.GetRoleColor(CALR_Background), SysColor(5));
