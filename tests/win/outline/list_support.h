@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "outline/core/lbx.h"
+#include "outline/core/ofile_collect.h"
 
 using namespace zk::lbx;
 
@@ -82,19 +83,13 @@ inline int TextWidth(HWND window, HGDIOBJ font, const wchar_t *text) {
     return size.cx;
 }
 
-// The nodes below `root` in pre-order.
+// The nodes below `root` in pre-order: the stream's walk without the root.
 inline std::vector<LbxNode *> Walk(const LbxNode *root) {
     std::vector<LbxNode *> order;
-    for (LbxNode *n = root->firstChild; n;) {
-        order.push_back(n);
-        if (n->firstChild) {
-            n = n->firstChild;
-            continue;
-        }
-        while (n != root && !n->next)
-            n = n->parent;
-        n = n == root ? nullptr : n->next;
-    }
+    zk::lbx::ofile::OutlineWalk(const_cast<LbxNode *>(root), [&](LbxNode *n) {
+        if (n != root)
+            order.push_back(n);
+    });
     return order;
 }
 
